@@ -14,13 +14,13 @@
 
 namespace tessivo::fakes {
 
-/// All of the program's time on one virtual line. Nothing moves but by `advance` and `runPosted`; a test never
-/// waits.
+/// All of the program's time on one virtual line. Nothing moves but by `advance` and `runPosted`; a test
+/// never waits.
 ///
 /// Two times run along it: steady time, which only rises and drives timers and frames, and wall time, which
 /// follows it but can be set to anything. Within one `advance` everything comes in the order of its due time;
-/// timers that are due at the same time come in the order of their making, before the frame of that time; posted
-/// work runs before any timer or frame that follows it.
+/// timers that are due at the same time come in the order of their making, before the frame of that time;
+/// posted work runs before any timer or frame that follows it.
 ///
 /// All four ports belong to the main thread, but for `post` and `now`.
 class Timeline final : public Clock, public Timers, public MainQueue, public FrameClock {

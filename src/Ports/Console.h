@@ -12,8 +12,8 @@ public:
     /// Writes one line. Safe from any thread; a console that is gone is ignored.
     virtual void print(std::string_view line) = 0;
 
-    /// Writes `text` and ends the program at once, with nothing tidied up: what was saved is saved. For a state in
-    /// which going on would show or store something wrong.
+    /// Writes `text` and ends the program at once, with nothing tidied up: what was saved is saved. For a
+    /// state in which going on would show or store something wrong.
     [[noreturn]] virtual void stopProgram(std::string_view text) = 0;
 };
 

@@ -9,20 +9,22 @@
 
 namespace tessivo {
 
-/// Dates as text and back, by one pattern, in the device's language, calendar, digits and time zone as they stood
-/// when it was made. One thread at a time.
+/// Dates as text and back, by one pattern, in the device's language, calendar, digits and time zone as they
+/// stood when it was made. One thread at a time.
 class DateFormatter {
 public:
     virtual ~DateFormatter() = default;
 
     [[nodiscard]] virtual std::string string(Instant instant) const = 0;
 
-    /// The moment that `text` names, to the letter of the pattern; empty where it does not read. Fields that the
-    /// pattern lacks are the first of their range. A day without a local midnight reads as its first moment.
+    /// The moment that `text` names, to the letter of the pattern; empty where it does not read. Fields that
+    /// the pattern lacks are the first of their range. A day without a local midnight reads as its first
+    /// moment.
     [[nodiscard]] virtual std::optional<Instant> date(std::string_view text) const = 0;
 };
 
-/// Makes formatters. Making one is dear (tens of microseconds): make it once per pass or per screen. Any thread.
+/// Makes formatters. Making one is dear (tens of microseconds): make it once per pass or per screen. Any
+/// thread.
 class DateFormatters {
 public:
     virtual ~DateFormatters() = default;

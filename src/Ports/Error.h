@@ -23,8 +23,8 @@ using Outcome = std::optional<Error>;
 template <class Value>
 class [[nodiscard]] Result {
 public:
-    Result(Value value) : state_(std::move(value)) {}  // NOLINT(google-explicit-constructor)
-    Result(Error error) : state_(std::move(error)) {}  // NOLINT(google-explicit-constructor)
+    Result(Value value) : state_(std::move(value)) {} // NOLINT(google-explicit-constructor)
+    Result(Error error) : state_(std::move(error)) {} // NOLINT(google-explicit-constructor)
 
     [[nodiscard]] explicit operator bool() const { return std::holds_alternative<Value>(state_); }
     [[nodiscard]] Value& value() { return std::get<Value>(state_); }

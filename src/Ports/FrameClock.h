@@ -12,8 +12,8 @@ class FrameClock {
 public:
     virtual ~FrameClock() = default;
 
-    /// Calls `frame` on the main thread before each picture is drawn, for as long as the handle is held, with the
-    /// picture's time stamp: steady seconds from an arbitrary origin, rising. Never inline.
+    /// Calls `frame` on the main thread before each picture is drawn, for as long as the handle is held, with
+    /// the picture's time stamp: steady seconds from an arbitrary origin, rising. Never inline.
     [[nodiscard]] virtual Subscription listen(std::function<void(Seconds timestamp)> frame) = 0;
 };
 

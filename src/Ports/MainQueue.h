@@ -9,8 +9,8 @@ class MainQueue {
 public:
     virtual ~MainQueue() = default;
 
-    /// Runs `work` on the main thread in a later turn of its loop, never inline, in the order of posting. Safe from
-    /// any thread. Work still waiting when the program ends is dropped.
+    /// Runs `work` on the main thread in a later turn of its loop, never inline, in the order of posting.
+    /// Safe from any thread. Work still waiting when the program ends is dropped.
     virtual void post(std::function<void()> work) = 0;
 };
 

@@ -38,27 +38,29 @@ struct NotificationRequest {
     friend bool operator==(const NotificationRequest&, const NotificationRequest&) = default;
 };
 
-/// The machine's queue of pending notifications: one request per identifier, kept over restarts, shown when its
-/// time has come whether the program runs or not. All operations return at once, in any order of threads;
-/// completions run in the order of the calls on a queue of the center's own, never inline and never on the main
-/// thread. A completion that is dropped with the program is not called.
+/// The machine's queue of pending notifications: one request per identifier, kept over restarts, shown when
+/// its time has come whether the program runs or not. All operations return at once, in any order of threads;
+/// completions run in the order of the calls on a queue of the center's own, never inline and never on the
+/// main thread. A completion that is dropped with the program is not called.
 class NotificationCenter {
 public:
     virtual ~NotificationCenter() = default;
 
-    /// Asks the user, once; later calls hand on the remembered answer. `options` adds up `AuthorizationOption`s.
-    virtual void requestAuthorization(int options, std::function<void(bool granted, Outcome error)> completion) = 0;
+    /// Asks the user, once; later calls hand on the remembered answer. `options` adds up
+    /// `AuthorizationOption`s.
+    virtual void requestAuthorization(int options,
+                                      std::function<void(bool granted, Outcome error)> completion) = 0;
 
     virtual void getNotificationSettings(std::function<void(AuthorizationStatus)> completion) = 0;
 
-    /// All requests that have not fired yet, in the order in which they were added. A queue that cannot be read
-    /// gives none.
+    /// All requests that have not fired yet, in the order in which they were added. A queue that cannot be
+    /// read gives none.
     virtual void
     getPendingNotificationRequests(std::function<void(std::vector<NotificationRequest>)> completion) = 0;
 
     /// Queues the request on disk; one with the same identifier is replaced. Fails while the user denies
-    /// notifications, on components that name no moment, and where the queue cannot be written. A moment gone by
-    /// fires at once.
+    /// notifications, on components that name no moment, and where the queue cannot be written. A moment gone
+    /// by fires at once.
     virtual void add(NotificationRequest request, std::function<void(Outcome error)> completion) = 0;
 
     /// Takes the requests of these identifiers from the queue; unknown ones are ignored.

@@ -5,8 +5,8 @@
 
 namespace tessivo {
 
-/// Something that goes on for as long as it is held: a subscription, a timer. Dropping it ends it; ending twice
-/// is harmless. Move-only.
+/// Something that goes on for as long as it is held: a subscription, a timer. Dropping it ends it; ending
+/// twice is harmless. Move-only.
 class [[nodiscard]] Subscription {
 public:
     Subscription() = default;

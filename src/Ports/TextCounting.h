@@ -10,8 +10,8 @@ class TextCounting {
 public:
     virtual ~TextCounting() = default;
 
-    /// User-perceived characters of UTF-8 `text`: an emoji of several code points counts one. Bytes that are no
-    /// UTF-8 count one each.
+    /// User-perceived characters of UTF-8 `text`: an emoji of several code points counts one. Bytes that are
+    /// no UTF-8 count one each.
     [[nodiscard]] virtual std::size_t characters(std::string_view text) const = 0;
 };
 

@@ -1,0 +1,65 @@
+#include "Interface/Button.h"
+
+namespace tessivo::ui {
+
+void Button::setTitle(std::string title) {
+    title_ = std::move(title);
+    notify(ViewChange::Content);
+}
+
+void Button::setImageName(std::string name) {
+    imageName_ = std::move(name);
+    notify(ViewChange::Content);
+}
+
+void Button::setFont(Font font) {
+    font_ = font;
+    notify(ViewChange::Content);
+}
+
+void Button::setTint(ColorRef color) {
+    tint_ = std::move(color);
+    notify(ViewChange::Content);
+}
+
+void Button::setTitleColor(ColorRef color) {
+    titleColor_ = std::move(color);
+    notify(ViewChange::Content);
+}
+
+void Button::setDisabledTitleColor(ColorRef color) {
+    disabledTitleColor_ = std::move(color);
+    notify(ViewChange::Content);
+}
+
+void Button::setEnabled(bool enabled) {
+    enabled_ = enabled;
+    notify(ViewChange::Content);
+}
+
+void Button::setMenu(Menu menu) {
+    menu_ = std::move(menu);
+    notify(ViewChange::Content);
+}
+
+void Button::addTarget(PressEvent event, std::function<void()> target) {
+    targets_.emplace_back(event, std::move(target));
+}
+
+void Button::press(PressEvent event) {
+    if (!enabled_)
+        return;
+    for (std::size_t index = 0; index < targets_.size(); ++index) {
+        if (targets_[index].first == event) {
+            const auto target = targets_[index].second;
+            target();
+        }
+    }
+}
+
+void Button::tap() {
+    press(PressEvent::Down);
+    press(PressEvent::UpInside);
+}
+
+} // namespace tessivo::ui

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Interface/Menu.h"
+#include "Interface/View.h"
+
+namespace tessivo::ui {
+
+/// Where a press of a button begins and ends.
+enum class PressEvent { Down, UpInside, UpOutside };
+
+/// Text, a picture by its resource name, or both, that does something when it is tapped. It starts enabled.
+class Button : public View {
+public:
+    using View::View;
+
+    [[nodiscard]] const std::string& title() const { return title_; }
+    void setTitle(std::string title);
+    [[nodiscard]] const std::string& imageName() const { return imageName_; }
+    void setImageName(std::string name);
+    [[nodiscard]] const Font& font() const { return font_; }
+    void setFont(Font font);
+    [[nodiscard]] const ColorRef& tint() const { return tint_; }
+    void setTint(ColorRef color);
+    /// The title's colour in the present state.
+    [[nodiscard]] const ColorRef& titleColor() const { return enabled_ ? titleColor_ : disabledTitleColor_; }
+    void setTitleColor(ColorRef color);
+    void setDisabledTitleColor(ColorRef color);
+    [[nodiscard]] bool isEnabled() const { return enabled_; }
+    void setEnabled(bool enabled);
+    /// A tap opens this menu in place of calling the tap targets.
+    [[nodiscard]] const Menu& menu() const { return menu_; }
+    void setMenu(Menu menu);
+
+    /// Called at each such event while the button is enabled, in the order of adding.
+    void addTarget(PressEvent event, std::function<void()> target);
+
+    /// The user presses, lets go on the button, or lets go beside it.
+    void press(PressEvent event);
+    /// Down and up inside in one: a tap, a key, an accessibility press.
+    void tap();
+
+private:
+    std::string title_;
+    std::string imageName_;
+    Font font_;
+    ColorRef tint_;
+    ColorRef titleColor_ = ColorRef::black();
+    ColorRef disabledTitleColor_ = ColorRef::named("disabled");
+    Menu menu_;
+    std::vector<std::pair<PressEvent, std::function<void()>>> targets_;
+    bool enabled_ = true;
+};
+
+} // namespace tessivo::ui

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "Interface/CollectionLayout.h"
+#include "Interface/CollectionViewCell.h"
+#include "Interface/Menu.h"
+#include "Interface/ScrollView.h"
+
+#include <deque>
+#include <map>
+#include <optional>
+#include <set>
+
+namespace tessivo::ui {
+
+class CollectionView;
+
+/// Gives a collection its items and cells. Held weakly by it.
+class CollectionViewDataSource {
+public:
+    virtual ~CollectionViewDataSource() = default;
+
+    [[nodiscard]] virtual int numberOfItems(CollectionView& collection) = 0;
+    /// A cell for the item, from `dequeueReusableCell`, filled.
+    [[nodiscard]] virtual std::shared_ptr<CollectionViewCell> cellForItem(CollectionView& collection,
+                                                                          int item) = 0;
+};
+
+/// Hears of a collection's life and answers for its looks. Held weakly by it.
+class CollectionViewDelegate {
+public:
+    virtual ~CollectionViewDelegate() = default;
+
+    /// The size of the items, asked for item 0 once per layout: all items of a collection are of one size.
+    [[nodiscard]] virtual Size sizeForItem(CollectionView&, int /*item*/) { return {}; }
+    virtual void willDisplayCell(CollectionView&, CollectionViewCell&, int /*item*/) {}
+    virtual void didSelectItem(CollectionView&, int /*item*/) {}
+    virtual void didDeselectItem(CollectionView&, int /*item*/) {}
+    /// The menu of a long press; empty for none.
+    [[nodiscard]] virtual std::optional<Menu> contextMenuForItem(CollectionView&, int /*item*/, Point) {
+        return std::nullopt;
+    }
+};
+
+/// Items laid out by a layout, of which only those on the screen have a cell.
+///
+/// Cells that leave the screen, and all cells at a reload, go to the pool of their kind and come out of it in
+/// the order in which they went in, so that a reload gives each item of an unmoved list the very cell that it
+/// had. A cell is told `prepareForReuse` as it comes out. Main thread.
+class CollectionView final : public ScrollView {
+public:
+    CollectionView(ControlRegistry& registry, std::string name, std::unique_ptr<CollectionLayout> layout);
+
+    using CellFactory = std::function<std::shared_ptr<CollectionViewCell>()>;
+    void registerCell(std::string reuseIdentifier, CellFactory make);
+    /// A cell from the pool, or a new one. The kind must be registered.
+    [[nodiscard]] std::shared_ptr<CollectionViewCell> dequeueReusableCell(const std::string& reuseIdentifier);
+
+    std::weak_ptr<CollectionViewDataSource> dataSource;
+    std::weak_ptr<CollectionViewDelegate> delegate;
+    bool allowsMultipleSelection = false;
+
+    /// Asks anew for the count and for the cells on the screen. The selection is forgotten.
+    void reloadData();
+    /// The items are in the data source already; those behind them move on. Cells on the screen stay theirs.
+    void insertItems(int first, int count);
+    /// The items are out of the data source already. Cells on the screen stay theirs.
+    void deleteItem(int item);
+    /// Lays the items out anew, as after a change of size; asks for no count.
+    void invalidateLayout();
+
+    [[nodiscard]] int numberOfItems() const { return count_; }
+    [[nodiscard]] CollectionLayout& layout() { return *layout_; }
+    /// The item's cell; null where it is not on the screen.
+    [[nodiscard]] std::shared_ptr<CollectionViewCell> cellForItem(int item) const;
+    [[nodiscard]] std::optional<int> itemFor(const CollectionViewCell& cell) const;
+    /// The cells on the screen, by item.
+    [[nodiscard]] const std::map<int, std::shared_ptr<CollectionViewCell>>& visibleCells() const {
+        return visible_;
+    }
+
+    // Selection by the program tells no delegate.
+    void selectItem(int item);
+    void deselectItem(int item);
+    [[nodiscard]] const std::set<int>& selectedItems() const { return selected_; }
+    /// Scrolls so that the item stands in the middle, as far as the content allows.
+    void scrollToItem(int item);
+
+    /// The user taps the item: it becomes selected, or, where several may be, changes over. The delegate
+    /// hears it.
+    void tapItem(int item);
+
+    /// Hears when other cells are on the screen, or when they lie elsewhere.
+    [[nodiscard]] Subscription onVisibleCellsChange(std::function<void()> changed) {
+        return visibleCellsChanges_.subscribe(std::move(changed));
+    }
+
+protected:
+    void didScroll() override { showVisibleCells(); }
+    void layoutSubviews() override { invalidateLayout(); }
+
+private:
+    void prepareLayout();
+    void showVisibleCells();
+    void show(int item);
+    void retire(std::shared_ptr<CollectionViewCell> cell);
+    void moveItems(int from, int by);
+
+    std::unique_ptr<CollectionLayout> layout_;
+    std::map<std::string, CellFactory> factories_;
+    std::map<std::string, std::deque<std::shared_ptr<CollectionViewCell>>> pools_;
+    std::map<const CollectionViewCell*, std::string> kinds_;
+    std::map<int, std::shared_ptr<CollectionViewCell>> visible_;
+    std::set<int> selected_;
+    int count_ = 0;
+    Signal<> visibleCellsChanges_;
+};
+
+} // namespace tessivo::ui

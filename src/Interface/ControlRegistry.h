@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace tessivo::ui {
+
+class View;
+
+/// The controls of one screen or cell by the names of their fields, so that a window can find what it draws.
+/// Controls enter themselves as they are made; they and the registry belong to the same owner.
+class ControlRegistry {
+public:
+    /// A name entered twice names the later control.
+    void enter(std::string name, View& control) { controls_.insert_or_assign(std::move(name), &control); }
+
+    /// The control of that name; null where there is none.
+    [[nodiscard]] View* find(std::string_view name) const {
+        const auto found = controls_.find(name);
+        return found == controls_.end() ? nullptr : found->second;
+    }
+
+    [[nodiscard]] const std::map<std::string, View*, std::less<>>& all() const { return controls_; }
+
+private:
+    std::map<std::string, View*, std::less<>> controls_;
+};
+
+} // namespace tessivo::ui

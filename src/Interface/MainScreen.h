@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Interface/Geometry.h"
+#include "Interface/Signal.h"
+
+namespace tessivo::ui {
+
+/// The screen that the program is laid out for, in portrait. The window tells its size.
+class MainScreen {
+public:
+    explicit MainScreen(Size size = {390, 844}) : size_(size) {}
+
+    [[nodiscard]] Size size() const { return size_; }
+    [[nodiscard]] double width() const { return size_.width; }
+    [[nodiscard]] double height() const { return size_.height; }
+    /// Pixels in a point.
+    [[nodiscard]] double scale() const { return scale_; }
+    /// Tall screens get larger type and taller cards.
+    [[nodiscard]] bool isLarge() const { return size_.height > 1000; }
+
+    void resize(Size size, double scale) {
+        if (size == size_ && scale == scale_)
+            return;
+        size_ = size;
+        scale_ = scale;
+        changes_.emit();
+    }
+
+    [[nodiscard]] Subscription onChange(std::function<void()> changed) {
+        return changes_.subscribe(std::move(changed));
+    }
+
+private:
+    Size size_;
+    double scale_ = 1;
+    Signal<> changes_;
+};
+
+} // namespace tessivo::ui

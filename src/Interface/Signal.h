@@ -1,0 +1,67 @@
+#pragma once
+
+#include "Ports/Subscription.h"
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace tessivo::ui {
+
+/// Tells any number of subscribers, in the order in which they came. A subscriber may leave, or others join,
+/// while it is told; who joins then hears the next call. The signal may go before its subscriptions. One
+/// thread.
+template <class... Arguments>
+class Signal {
+public:
+    using Slot = std::function<void(Arguments...)>;
+
+    Subscription subscribe(Slot slot) {
+        const auto identifier = ++state_->lastIdentifier;
+        state_->slots.emplace_back(identifier, std::make_shared<Slot>(std::move(slot)));
+        return Subscription([identifier, weak = std::weak_ptr(state_)] {
+            if (const auto state = weak.lock())
+                state->leave(identifier);
+        });
+    }
+
+    void emit(Arguments... arguments) const {
+        if (state_->slots.empty())
+            return;
+        const auto state = state_; // the owner may go while its subscribers hear of it
+        ++state->depth;
+        const std::size_t count = state->slots.size();
+        for (std::size_t index = 0; index < count; ++index) {
+            if (const auto slot = state->slots[index].second)
+                (*slot)(arguments...);
+        }
+        if (--state->depth == 0)
+            state->sweep();
+    }
+
+private:
+    struct State {
+        std::vector<std::pair<std::size_t, std::shared_ptr<Slot>>> slots; ///< an empty slot has left
+        std::size_t lastIdentifier = 0;
+        int depth = 0;
+
+        void leave(std::size_t identifier) {
+            for (auto& [slotIdentifier, slot] : slots) {
+                if (slotIdentifier == identifier)
+                    slot = nullptr;
+            }
+            if (depth == 0)
+                sweep();
+        }
+
+        void sweep() {
+            std::erase_if(slots, [](const auto& slot) { return !slot.second; });
+        }
+    };
+
+    std::shared_ptr<State> state_ = std::make_shared<State>();
+};
+
+} // namespace tessivo::ui

@@ -1,0 +1,178 @@
+#pragma once
+
+#include "Interface/Geometry.h"
+#include "Interface/GradientLayer.h"
+#include "Interface/Signal.h"
+#include "Interface/Text.h"
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tessivo::ui {
+
+class Animations;
+class ControlRegistry;
+class GestureRecognizer;
+class PropertyAnimator;
+
+/// What of a view has changed, so that a window redraws no more than it must.
+enum class ViewChange {
+    Content,    ///< text, image, enabled, menu: what a control shows
+    Appearance, ///< colour, alpha, hidden, layers, mask
+    Geometry,   ///< frame, bounds origin, transform, also while an animation moves them
+    Hierarchy   ///< subviews
+};
+
+/// The numbers of a view that an animation can move.
+enum class AnimatableProperty { CenterX, CenterY, Width, Height, BoundsX, BoundsY, Alpha, Scale };
+
+/// The base of everything on a screen: a rectangle in its superview with subviews, gradient layers behind
+/// them and gesture recognizers.
+///
+/// The tree does not own: a view that goes leaves its superview and lets go of its subviews. Main thread.
+///
+/// Every animatable number has a model value, which reads and writes at once, and a drawn value, which
+/// animations let lag behind. Setting a number inside the block of an animator of the same screen moves the
+/// drawn value over time; setting it outside moves both by the same amount. A view in no screen does not
+/// animate.
+class View {
+public:
+    View();
+    View(ControlRegistry& registry, std::string name);
+    virtual ~View();
+    View(const View&) = delete;
+    View& operator=(const View&) = delete;
+
+    // Tree. Views draw over those before them.
+    void addSubview(View& view);
+    void insertSubview(View& view, std::size_t index);
+    void removeFromSuperview();
+    [[nodiscard]] View* superview() const { return superview_; }
+    [[nodiscard]] const std::vector<View*>& subviews() const { return subviews_; }
+    [[nodiscard]] bool isDescendantOf(const View& view) const;
+
+    // Geometry. The frame is where the view lies in its superview; the bounds are its own space, whose origin
+    // is what its subviews are moved by. The scale is drawn about the centre and touches neither.
+    [[nodiscard]] Rect frame() const;
+    void setFrame(const Rect& frame);
+    [[nodiscard]] Rect bounds() const;
+    void setBoundsOrigin(Point origin);
+    [[nodiscard]] Point center() const;
+    void setCenter(Point center);
+    void setCenterX(double x) { setValue(AnimatableProperty::CenterX, x); }
+    [[nodiscard]] double scale() const { return value(AnimatableProperty::Scale); }
+    void setScale(double scale) { setValue(AnimatableProperty::Scale, scale); }
+    [[nodiscard]] Rect drawnFrame() const;
+    [[nodiscard]] Point drawnBoundsOrigin() const;
+    [[nodiscard]] double value(AnimatableProperty property) const;
+    [[nodiscard]] double drawnValue(AnimatableProperty property) const;
+
+    /// `point` of this view's space in the space of `view`; both stand in one tree.
+    [[nodiscard]] Point convertTo(const View& view, Point point) const;
+    [[nodiscard]] Rect convertTo(const View& view, const Rect& rect) const;
+
+    // Layout: a view asked to lay itself out does so once at the next pass over it.
+    void setNeedsLayout() { needsLayout_ = true; }
+    void layoutIfNeeded();
+
+    // Touch.
+    /// The deepest view under `point` (in this view's space) that takes touches; null where there is none.
+    /// Hidden views, views of alpha below 0.01 and views with interaction off are passed over with all they
+    /// hold.
+    [[nodiscard]] virtual View* hitTest(Point point);
+    /// Whether `point` (in this view's space) is on this view.
+    [[nodiscard]] virtual bool pointInside(Point point);
+    void addGestureRecognizer(std::shared_ptr<GestureRecognizer> recognizer);
+    void removeGestureRecognizer(const GestureRecognizer& recognizer);
+    [[nodiscard]] const std::vector<std::shared_ptr<GestureRecognizer>>& gestureRecognizers() const {
+        return recognizers_;
+    }
+    /// The user taps this view: every tap recognizer on it recognises, in the order of adding.
+    void tap();
+
+    // Looks.
+    [[nodiscard]] bool isHidden() const { return hidden_; }
+    void setHidden(bool hidden);
+    [[nodiscard]] double alpha() const { return value(AnimatableProperty::Alpha); }
+    void setAlpha(double alpha) { setValue(AnimatableProperty::Alpha, alpha); }
+    [[nodiscard]] const ColorRef& backgroundColor() const { return backgroundColor_; }
+    void setBackgroundColor(ColorRef color);
+    [[nodiscard]] double cornerRadius() const { return cornerRadius_; }
+    void setCornerRadius(double radius);
+    [[nodiscard]] bool clipsToBounds() const { return clipsToBounds_; }
+    void setClipsToBounds(bool clips);
+    [[nodiscard]] bool isUserInteractionEnabled() const { return interactionEnabled_; }
+    void setUserInteractionEnabled(bool enabled) { interactionEnabled_ = enabled; }
+    [[nodiscard]] View* mask() const { return mask_; }
+    /// Only what lies under `mask` (in this view's space) is drawn; null ends that. Not owned.
+    void setMask(View* mask);
+    [[nodiscard]] const std::string& accessibilityName() const { return accessibilityName_; }
+    void setAccessibilityName(std::string name);
+
+    // Layers lie behind the subviews; a later one draws over an earlier one.
+    [[nodiscard]] const std::vector<std::shared_ptr<GradientLayer>>& sublayers() const { return sublayers_; }
+    void insertSublayer(std::shared_ptr<GradientLayer> layer, std::size_t index);
+    void removeSublayer(std::size_t index);
+    void removeAllSublayers();
+    /// Tells the window that a layer of this view looks different now.
+    void layerChanged() { notify(ViewChange::Appearance); }
+
+    /// Hears each change after it is made.
+    [[nodiscard]] Subscription onChange(std::function<void(ViewChange)> changed) {
+        return changes_.subscribe(std::move(changed));
+    }
+
+    /// The animations of the screen that this view is the root of; the screen sets it.
+    void setAnimations(Animations* animations) { animations_ = animations; }
+
+protected:
+    /// Places the subviews. Called by the layout pass with the frame settled.
+    virtual void layoutSubviews() {}
+    /// After this view has entered or left a superview.
+    virtual void didMoveToSuperview() {}
+
+    void setValue(AnimatableProperty property, double value);
+    void notify(ViewChange change) { changes_.emit(change); }
+
+private:
+    friend class PropertyAnimator;
+
+    /// A lag of the drawn value behind the model value, which an animator takes to zero.
+    struct Lag {
+        PropertyAnimator* animator;
+        AnimatableProperty property;
+        double whole; ///< at the animation's start
+        double left;  ///< at the last frame
+    };
+
+    static constexpr std::size_t propertyCount = 8;
+
+    [[nodiscard]] Animations* animations() const;
+    [[nodiscard]] Point originInRoot() const;
+    void letGoOf(const View& subview);
+    void progress(PropertyAnimator& animator, double fraction);
+    void settle(PropertyAnimator& animator, bool whereDrawn);
+
+    View* superview_ = nullptr;
+    std::vector<View*> subviews_;
+    std::array<double, propertyCount> values_{0, 0, 0, 0, 0, 0, 1, 1};
+    std::vector<Lag> lags_;
+    Animations* animations_ = nullptr;
+    std::vector<std::shared_ptr<GradientLayer>> sublayers_;
+    std::vector<std::shared_ptr<GestureRecognizer>> recognizers_;
+    ColorRef backgroundColor_;
+    std::string accessibilityName_;
+    View* mask_ = nullptr;
+    double cornerRadius_ = 0;
+    bool hidden_ = false;
+    bool clipsToBounds_ = false;
+    bool interactionEnabled_ = true;
+    bool needsLayout_ = true;
+    Signal<ViewChange> changes_;
+};
+
+} // namespace tessivo::ui
