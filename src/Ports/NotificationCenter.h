@@ -41,7 +41,8 @@ struct NotificationRequest {
 /// The machine's queue of pending notifications: one request per identifier, kept over restarts, shown when
 /// its time has come whether the program runs or not. All operations return at once, in any order of threads;
 /// completions run in the order of the calls on a queue of the center's own, never inline and never on the
-/// main thread. A completion that is dropped with the program is not called.
+/// main thread; only an authorization that waits for the user is answered later, and it holds up nothing. A
+/// completion that is dropped with the program is not called.
 class NotificationCenter {
 public:
     virtual ~NotificationCenter() = default;
