@@ -1,0 +1,152 @@
+#include "Event/CoreDataStack.h"
+
+#include "Event/DataChangeDelegate.h"
+#include "Event/EventItem.h"
+#include "Event/PersistentContainer.h"
+#include "Ports/Console.h"
+
+#include <utility>
+
+namespace tessivo {
+namespace {
+
+std::string predicateOf(const Uuid& id) {
+    return "id = \"" + id.uuidString() + "\"";
+}
+
+template <class Value>
+Value required(const std::optional<Value>& value, const char* attribute, Console& console) {
+    if (!value)
+        console.stopProgram(std::string("The event to be added has no ") + attribute);
+    return *value;
+}
+
+EventRecord recordOf(const EventItem& item, Console& console) {
+    EventRecord record;
+    record.title = item.title;
+    record.dateEvent = item.dateEvent;
+    record.timeEvent = item.timeEvent;
+    record.repEvent = required(item.repEvent, "repEvent", console);
+    record.alertReminder = required(item.alertReminder, "alertReminder", console);
+    record.repReminder = required(item.repReminder, "repReminder", console);
+    record.remMess = item.remMess;
+    record.timeFormat = required(item.timeFormat, "timeFormat", console);
+    record.color = required(item.color, "color", console);
+    record.gradient = required(item.gradient, "gradient", console);
+    record.photoPath = item.photoPath;
+    record.unsplashPath = item.unsplashPath;
+    record.eventType = required(item.eventType, "eventType", console);
+    record.id = item.id;
+    return record;
+}
+
+} // namespace
+
+CoreDataStack::CoreDataStack(EventStore& store, Console& console) : store_(store), console_(console) {}
+
+CoreDataStack::~CoreDataStack() = default;
+
+PersistentContainer& CoreDataStack::persistentContainer() {
+    if (!persistentContainer_)
+        persistentContainer_ = std::make_unique<PersistentContainer>("Tessivo", store_, console_);
+    return *persistentContainer_;
+}
+
+EventContext& CoreDataStack::viewContext() {
+    return persistentContainer().viewContext();
+}
+
+void CoreDataStack::addEvent(const EventItem& item) {
+    viewContext().insert(recordOf(item, console_));
+    save();
+}
+
+void CoreDataStack::updateTitle(const Uuid& id, const std::string& title) {
+    const auto event = firstRow(id);
+    if (!event)
+        return;
+    event->setTitle(title);
+    save();
+}
+
+void CoreDataStack::updateDate(const Uuid& id, const std::string& dateEvent) {
+    const auto event = firstRow(id);
+    if (!event)
+        return;
+    event->setDateEvent(dateEvent);
+    save();
+}
+
+void CoreDataStack::updateDateAndTime(const Uuid& id, const std::optional<std::string>& dateEvent,
+                                      const std::optional<std::string>& timeEvent, std::int16_t timeFormat,
+                                      std::int16_t repEvent, bool eventType) {
+    const auto event = firstRow(id);
+    if (!event)
+        return;
+    event->setDateEvent(dateEvent);
+    event->setTimeEvent(timeEvent);
+    event->setTimeFormat(timeFormat);
+    event->setRepEvent(repEvent);
+    event->setEventType(eventType);
+    save();
+}
+
+void CoreDataStack::updateReminder(const Uuid& id, const std::optional<std::string>& remMess,
+                                   std::int16_t alertReminder, std::int16_t repReminder) {
+    const auto event = firstRow(id);
+    if (!event)
+        return;
+    event->setRemMess(remMess);
+    event->setAlertReminder(alertReminder);
+    event->setRepReminder(repReminder);
+    save();
+}
+
+void CoreDataStack::updateBackground(const Uuid& id, std::int16_t color, std::int16_t gradient,
+                                     const std::optional<std::string>& unsplashPath,
+                                     const std::optional<std::string>& photoPath) {
+    const auto event = firstRow(id);
+    if (!event)
+        return;
+    event->setColor(color);
+    event->setGradient(gradient);
+    event->setUnsplashPath(unsplashPath);
+    event->setPhotoPath(photoPath);
+    save();
+}
+
+EventRows CoreDataStack::fetchEvents() {
+    auto rows = viewContext().fetch();
+    return rows ? std::move(rows.value()) : EventRows();
+}
+
+std::shared_ptr<EventCoreData> CoreDataStack::fetchEvent(const Uuid& id) {
+    auto event = firstRow(id);
+    if (!event)
+        console_.stopProgram("There is no event with " + predicateOf(id));
+    return event;
+}
+
+void CoreDataStack::deleteEvent(const Uuid& id) {
+    const auto event = firstRow(id);
+    if (!event)
+        return;
+    viewContext().deleteObject(*event);
+    save();
+}
+
+std::shared_ptr<EventCoreData> CoreDataStack::firstRow(const Uuid& id) {
+    auto rows = viewContext().fetch(predicateOf(id));
+    return rows && !rows.value().empty() ? rows.value().front() : nullptr;
+}
+
+void CoreDataStack::save() {
+    if (const auto error = viewContext().save()) {
+        console_.print("Error: " + error->description);
+        return;
+    }
+    if (const auto listener = delegate.lock())
+        listener->dataDidChange();
+}
+
+} // namespace tessivo
