@@ -55,7 +55,8 @@ public:
     [[nodiscard]] bool isNull(int column) const;
     [[nodiscard]] std::int64_t integer(int column) const;
     [[nodiscard]] double real(int column) const;
-    /// Both are valid until the next `step` or `reset`, and empty for NULL.
+    /// These are valid until the next `step` or `reset`, and empty for NULL.
+    [[nodiscard]] std::optional<std::string_view> optionalText(int column) const;
     [[nodiscard]] std::string_view text(int column) const;
     [[nodiscard]] std::span<const std::uint8_t> blob(int column) const;
 

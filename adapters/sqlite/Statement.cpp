@@ -89,12 +89,16 @@ double Statement::real(int column) const {
     return sqlite3_column_double(statement_, column);
 }
 
-std::string_view Statement::text(int column) const {
+std::optional<std::string_view> Statement::optionalText(int column) const {
     const unsigned char* data = sqlite3_column_text(statement_, column);
     if (data == nullptr)
-        return {};
+        return std::nullopt;
     const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement_, column));
-    return {reinterpret_cast<const char*>(data), size};
+    return std::string_view(reinterpret_cast<const char*>(data), size);
+}
+
+std::string_view Statement::text(int column) const {
+    return optionalText(column).value_or(std::string_view());
 }
 
 std::span<const std::uint8_t> Statement::blob(int column) const {

@@ -1,0 +1,169 @@
+#include "sqlite/SqliteEventStore.h"
+
+#include "sqlite/Database.h"
+#include "sqlite/EventColumns.h"
+
+#include <sqlite3.h>
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tessivo::sqlite {
+namespace {
+
+/// "a, b, c" with each column put through `item`.
+template <class Item>
+std::string listed(const EventAttributes& attributes, Item item) {
+    std::string list;
+    for (std::size_t index = 0; index < eventAttributeCount; ++index) {
+        if (attributes.test(index))
+            list += (list.empty() ? "" : ", ") + item(std::string(eventColumns[index]));
+    }
+    return list;
+}
+
+std::string columnList() {
+    return listed(EventAttributes().set(), [](const std::string& column) { return column; });
+}
+
+int bindAttributes(Statement& statement, const EventAttributes& attributes, const EventRecord& values) {
+    int parameter = 0;
+    for (std::size_t index = 0; index < eventAttributeCount; ++index) {
+        if (attributes.test(index))
+            bindAttribute(statement, ++parameter, static_cast<EventAttribute>(index), values);
+    }
+    return parameter;
+}
+
+} // namespace
+
+/// The open file and its statements, each prepared at its first use.
+class SqliteEventStore::Session final {
+public:
+    explicit Session(Database database) : database_(std::move(database)) {}
+
+    Outcome fetch(const std::optional<Uuid>& id, EventRowReceiver& rows) {
+        const std::string select = "SELECT key, " + columnList() + " FROM events";
+        auto prepared = statement(select + (id ? " WHERE id = ? ORDER BY key" : " ORDER BY key"));
+        if (!prepared)
+            return prepared.error();
+        Statement& row = *prepared.value();
+        const ResetOnExit reset(row);
+        if (id)
+            row.bindBlob(1, id->bytes);
+        while (true) {
+            switch (row.step()) {
+            case Step::Row:
+                if (EventRecord* record = rows.receive(row.integer(0)))
+                    readAttributes(row, 1, *record);
+                break;
+            case Step::Done:
+                return std::nullopt;
+            case Step::Failed:
+                return row.error();
+            }
+        }
+    }
+
+    Outcome save(std::span<EventChange> changes) {
+        auto transaction = Transaction::begin(database_);
+        if (!transaction)
+            return transaction.error();
+        std::vector<RowKey> keys;
+        for (const EventChange& change : changes) {
+            if (auto error = write(change))
+                return error;
+            if (change.kind == EventChange::Kind::Insert)
+                keys.push_back(database_.lastInsertedKey());
+        }
+        if (auto error = transaction.value().commit())
+            return error;
+        auto key = keys.begin();
+        for (EventChange& change : changes) {
+            if (change.kind == EventChange::Kind::Insert)
+                change.key = *key++;
+        }
+        return std::nullopt;
+    }
+
+private:
+    Outcome write(const EventChange& change) {
+        auto prepared = statement(textOf(change));
+        if (!prepared)
+            return prepared.error();
+        Statement& writing = *prepared.value();
+        int parameter = 0;
+        if (change.kind == EventChange::Kind::Insert)
+            bindAttributes(writing, EventAttributes().set(), *change.values);
+        else if (change.kind == EventChange::Kind::Update)
+            parameter = bindAttributes(writing, change.attributes, *change.values);
+        if (change.kind != EventChange::Kind::Insert)
+            writing.bindInteger(parameter + 1, change.key);
+        return writing.run();
+    }
+
+    static std::string textOf(const EventChange& change) {
+        switch (change.kind) {
+        case EventChange::Kind::Insert:
+            return "INSERT INTO events(" + columnList() + ") VALUES(" +
+                   listed(EventAttributes().set(), [](const std::string&) { return std::string("?"); }) + ")";
+        case EventChange::Kind::Update:
+            return "UPDATE events SET " +
+                   listed(change.attributes, [](const std::string& column) { return column + " = ?"; }) +
+                   " WHERE key = ?";
+        case EventChange::Kind::Delete:
+            break;
+        }
+        return "DELETE FROM events WHERE key = ?";
+    }
+
+    Result<Statement*> statement(const std::string& sql) {
+        if (const auto known = statements_.find(sql); known != statements_.end())
+            return &known->second;
+        auto prepared = database_.prepare(sql);
+        if (!prepared)
+            return prepared.error();
+        return &statements_.emplace(sql, std::move(prepared.value())).first->second;
+    }
+
+    Database database_;
+    std::map<std::string, Statement> statements_; ///< by text
+};
+
+SqliteEventStore::SqliteEventStore(std::filesystem::path file) : file_(std::move(file)) {}
+
+SqliteEventStore::~SqliteEventStore() = default;
+
+std::optional<LoadFailure> SqliteEventStore::load() {
+    if (session_)
+        return std::nullopt;
+    auto database = Database::open(file_, eventSchema);
+    if (!database) {
+        const Error& error = database.error();
+        return LoadFailure{error, {{"code", std::to_string(error.code)}, {"file", file_.string()}}};
+    }
+    session_ = std::make_unique<Session>(std::move(database.value()));
+    return std::nullopt;
+}
+
+Outcome SqliteEventStore::fetch(std::optional<std::string_view> predicate, EventRowReceiver& rows) {
+    if (!session_)
+        return Error{"SQLite", SQLITE_MISUSE, "the store is not loaded"};
+    std::optional<Uuid> id;
+    if (predicate) {
+        id = idOfPredicate(*predicate);
+        if (!id)
+            return Error{"SQLite", SQLITE_ERROR, "the predicate cannot be read: " + std::string(*predicate)};
+    }
+    return session_->fetch(id, rows);
+}
+
+Outcome SqliteEventStore::save(std::span<EventChange> changes) {
+    if (!session_)
+        return Error{"SQLite", SQLITE_MISUSE, "the store is not loaded"};
+    return session_->save(changes);
+}
+
+} // namespace tessivo::sqlite
