@@ -34,8 +34,11 @@ void FakeNotificationCenter::getNotificationSettings(std::function<void(Authoriz
 }
 
 void FakeNotificationCenter::getPendingNotificationRequests(
-    std::function<void(std::vector<NotificationRequest>)> completion) {
-    waiting_.emplace_back([this, completion = std::move(completion)] { completion(pending_); });
+    std::function<void(const std::vector<NotificationRequest>&)> completion) {
+    waiting_.emplace_back([this, completion = std::move(completion)] {
+        const auto snapshot = pending_;
+        completion(snapshot);
+    });
 }
 
 void FakeNotificationCenter::add(NotificationRequest request, std::function<void(Outcome error)> completion) {

@@ -17,8 +17,8 @@ public:
     void requestAuthorization(int options,
                               std::function<void(bool granted, Outcome error)> completion) override;
     void getNotificationSettings(std::function<void(AuthorizationStatus)> completion) override;
-    void
-    getPendingNotificationRequests(std::function<void(std::vector<NotificationRequest>)> completion) override;
+    void getPendingNotificationRequests(
+        std::function<void(const std::vector<NotificationRequest>&)> completion) override;
     void add(NotificationRequest request, std::function<void(Outcome error)> completion) override;
     void removePendingNotificationRequests(std::vector<std::string> identifiers) override;
 

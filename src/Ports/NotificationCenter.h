@@ -56,8 +56,8 @@ public:
 
     /// All requests that have not fired yet, in the order in which they were added. A queue that cannot be
     /// read gives none.
-    virtual void
-    getPendingNotificationRequests(std::function<void(std::vector<NotificationRequest>)> completion) = 0;
+    virtual void getPendingNotificationRequests(
+        std::function<void(const std::vector<NotificationRequest>&)> completion) = 0;
 
     /// Queues the request on disk; one with the same identifier is replaced. Fails while the user denies
     /// notifications, on components that name no moment, and where the queue cannot be written. A moment gone

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "fakes/Timeline.h"
+#include "reminders/engine/AppActivation.h"
+#include "reminders/engine/NotificationDisplay.h"
+
+#include <memory>
+#include <vector>
+
+namespace tessivo {
+
+/// A desktop on the virtual time line, which outlives the processes that talk to it.
+struct FakeDesktop {
+    struct Shown {
+        std::string token;
+        Notice notice;
+        Instant when;
+    };
+
+    bool isUp = true;
+    std::vector<Shown> shown;
+    std::function<void(const Notice&)> onShow = [](const Notice&) {};
+};
+
+/// One process's line to the desktop. What is under way when it is dropped never arrives, or is not answered.
+class FakeDisplay final : public NotificationDisplay {
+public:
+    FakeDisplay(fakes::Timeline& line, FakeDesktop& desktop) : line_(line), desktop_(desktop) {}
+
+    /// How long a notice takes to the desktop, and the answer back.
+    void setLatency(Seconds there, Seconds back) {
+        there_ = there;
+        back_ = back;
+    }
+
+    Subscription listen(Events events) override {
+        events_ = std::move(events);
+        return Subscription([this] { events_ = {}; });
+    }
+
+    void show(const Notice& notice, std::function<void(const Result<std::string>&)> answer) override {
+        ++calls;
+        onCall(notice);
+        underWay_.push_back(line_.once(there_, [this, notice, answer] { arrive(notice, answer); }));
+    }
+
+    void comeUp() {
+        desktop_.isUp = true;
+        events_.available();
+    }
+
+    void open(const std::string& token, const std::string& activation) { events_.opened(token, activation); }
+
+    int calls = 0;
+    std::function<void(const Notice&)> onCall = [](const Notice&) {};
+
+private:
+    void arrive(const Notice& notice, const std::function<void(const Result<std::string>&)>& answer) {
+        if (!desktop_.isUp) {
+            answer(Error{"Desktop", 1, "Nobody shows notifications"});
+            return;
+        }
+        const auto token = "shown-" + std::to_string(desktop_.shown.size());
+        desktop_.shown.push_back({token, notice, line_.now()});
+        desktop_.onShow(notice);
+        underWay_.push_back(line_.once(back_, [answer, token] { answer(token); }));
+    }
+
+    fakes::Timeline& line_;
+    FakeDesktop& desktop_;
+    Events events_;
+    Seconds there_{0.01};
+    Seconds back_{0.01};
+    std::vector<Subscription> underWay_;
+};
+
+class FakeAppActivation final : public AppActivation {
+public:
+    void activate(const std::string& activation) override { activations.push_back(activation); }
+
+    std::vector<std::string> activations;
+};
+
+} // namespace tessivo
