@@ -40,7 +40,7 @@ public:
     void bindInteger(int parameter, std::int64_t value);
     void bindReal(int parameter, double value);
     void bindText(int parameter, std::string_view value);
-    void bindText(int parameter, const std::optional<std::string>& value);
+    void bindOptionalText(int parameter, const std::optional<std::string>& value);
     void bindBlob(int parameter, std::span<const std::uint8_t> value);
 
     /// Goes on to the next row; `Failed` leaves the reason in `error`.

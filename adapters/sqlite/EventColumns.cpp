@@ -55,11 +55,11 @@ CREATE INDEX events_by_id ON events(id);
 void bindAttribute(Statement& statement, int parameter, EventAttribute attribute, const EventRecord& values) {
     switch (attribute) {
     case EventAttribute::title:
-        return statement.bindText(parameter, values.title);
+        return statement.bindOptionalText(parameter, values.title);
     case EventAttribute::dateEvent:
-        return statement.bindText(parameter, values.dateEvent);
+        return statement.bindOptionalText(parameter, values.dateEvent);
     case EventAttribute::timeEvent:
-        return statement.bindText(parameter, values.timeEvent);
+        return statement.bindOptionalText(parameter, values.timeEvent);
     case EventAttribute::repEvent:
         return statement.bindInteger(parameter, values.repEvent);
     case EventAttribute::alertReminder:
@@ -67,7 +67,7 @@ void bindAttribute(Statement& statement, int parameter, EventAttribute attribute
     case EventAttribute::repReminder:
         return statement.bindInteger(parameter, values.repReminder);
     case EventAttribute::remMess:
-        return statement.bindText(parameter, values.remMess);
+        return statement.bindOptionalText(parameter, values.remMess);
     case EventAttribute::timeFormat:
         return statement.bindInteger(parameter, values.timeFormat);
     case EventAttribute::color:
@@ -75,9 +75,9 @@ void bindAttribute(Statement& statement, int parameter, EventAttribute attribute
     case EventAttribute::gradient:
         return statement.bindInteger(parameter, values.gradient);
     case EventAttribute::photoPath:
-        return statement.bindText(parameter, values.photoPath);
+        return statement.bindOptionalText(parameter, values.photoPath);
     case EventAttribute::unsplashPath:
-        return statement.bindText(parameter, values.unsplashPath);
+        return statement.bindOptionalText(parameter, values.unsplashPath);
     case EventAttribute::eventType:
         return statement.bindInteger(parameter, values.eventType ? 1 : 0);
     case EventAttribute::id:

@@ -36,9 +36,9 @@ void Statement::bindText(int parameter, std::string_view value) {
     sqlite3_bind_text64(statement_, parameter, data, value.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
 }
 
-void Statement::bindText(int parameter, const std::optional<std::string>& value) {
+void Statement::bindOptionalText(int parameter, const std::optional<std::string>& value) {
     if (value)
-        bindText(parameter, std::string_view(*value));
+        bindText(parameter, *value);
     else
         bindNull(parameter);
 }
