@@ -19,7 +19,7 @@ struct FakeDesktop {
 
     bool isUp = true;
     std::vector<Shown> shown;
-    std::function<void(const Notice&)> onShow = [](const Notice&) {};
+    std::function<void(int call)> onShow = [](int) {};
 };
 
 /// One process's line to the desktop. What is under way when it is dropped never arrives, or is not answered.
@@ -39,9 +39,10 @@ public:
     }
 
     void show(const Notice& notice, std::function<void(const Result<std::string>&)> answer) override {
-        ++calls;
-        onCall(notice);
-        underWay_.push_back(line_.once(there_, [this, notice, answer] { arrive(notice, answer); }));
+        const auto call = ++calls;
+        onCall(call, notice);
+        underWay_.push_back(
+            line_.once(there_, [this, call, notice, answer] { arrive(call, notice, answer); }));
     }
 
     void comeUp() {
@@ -52,17 +53,20 @@ public:
     void open(const std::string& token, const std::string& activation) { events_.opened(token, activation); }
 
     int calls = 0;
-    std::function<void(const Notice&)> onCall = [](const Notice&) {};
+    std::function<void(int call, const Notice&)> onCall = [](int, const Notice&) {};
+    std::function<void(int call)> onFailure = [](int) {};
 
 private:
-    void arrive(const Notice& notice, const std::function<void(const Result<std::string>&)>& answer) {
+    void arrive(int call, const Notice& notice,
+                const std::function<void(const Result<std::string>&)>& answer) {
         if (!desktop_.isUp) {
+            onFailure(call);
             answer(Error{"Desktop", 1, "Nobody shows notifications"});
             return;
         }
         const auto token = "shown-" + std::to_string(desktop_.shown.size());
         desktop_.shown.push_back({token, notice, line_.now()});
-        desktop_.onShow(notice);
+        desktop_.onShow(call);
         underWay_.push_back(line_.once(back_, [answer, token] { answer(token); }));
     }
 
