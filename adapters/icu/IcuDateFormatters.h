@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Ports/DateFormatter.h"
+#include "icu/DeviceZone.h"
+
+#include <string>
+
+namespace tessivo {
+
+/// Date texts by ICU: the locale's own calendar, digits and month names, and nothing but a whole text in the
+/// pattern's form is read. A text without a year or day reads as some fixed day of the calendar's choice.
+class IcuDateFormatters final : public DateFormatters {
+public:
+    /// The device's locale and time zone, looked at anew for each formatter.
+    IcuDateFormatters() = default;
+
+    /// A fixed locale ("fa_IR") and time zone ("Asia/Tehran").
+    IcuDateFormatters(std::string locale, const std::string& timeZone);
+
+    std::unique_ptr<DateFormatter> make(std::string_view pattern) const override;
+
+private:
+    std::string locale_; ///< empty: the device's
+    DeviceZone zone_;
+};
+
+} // namespace tessivo
