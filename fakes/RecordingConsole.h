@@ -25,8 +25,6 @@ public:
         lines_.emplace_back(line);
     }
 
-    [[noreturn]] void stopProgram(std::string_view text) override { throw ProgramStopped(std::string(text)); }
-
     [[nodiscard]] std::vector<std::string> lines() const {
         const std::scoped_lock lock(mutex_);
         return lines_;
@@ -42,6 +40,9 @@ public:
         const std::scoped_lock lock(mutex_);
         return std::ranges::find(lines_, line) != lines_.end();
     }
+
+protected:
+    void stop(std::string_view text) override { throw ProgramStopped(std::string(text)); }
 
 private:
     mutable std::mutex mutex_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace tessivo {
@@ -46,6 +47,9 @@ inline constexpr std::array<GradientItem, 30> sectionsGradient{{
     {"Gradient50", "Gradient49", 2}, {"Gradient51", "Gradient52", 1}, {"Gradient53", "Gradient54", 1},
     {"Gradient55", "Gradient56", 4}, {"Gradient57", "Gradient58", 1}, {"Gradient60", "Gradient59", 2},
 }};
+
+/// The gradient of an event for which nothing else was chosen, and of the card that previews it.
+inline constexpr std::size_t defaultGradientRow = 1;
 
 /// Row `index` of a table. An index that is no row stops the program: the event was stored with a background
 /// that does not exist.

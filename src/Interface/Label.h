@@ -6,7 +6,7 @@ namespace tessivo::ui {
 
 enum class TextAlignment { Natural, Left, Center, Right };
 
-/// Text that is read, not edited. Natural and left alignment follow the direction of the language.
+/// Text that is read, not edited. In a language that runs from right to left, left and right change places.
 class Label : public View {
 public:
     using View::View;

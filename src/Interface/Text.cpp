@@ -1,5 +1,7 @@
 #include "Interface/Text.h"
 
+#include <algorithm>
+
 namespace tessivo::ui {
 namespace {
 
@@ -48,7 +50,7 @@ std::size_t utf16Length(std::string_view text) {
 
 std::string replacing(std::string_view text, TextRange range, std::string_view replacement) {
     const std::size_t begin = byteOffset(text, range.location);
-    const std::size_t end = byteOffset(text.substr(begin), range.length) + begin;
+    const std::size_t end = std::max(begin, byteOffset(text, range.location + range.length));
     std::string result(text.substr(0, begin));
     result += replacement;
     result += text.substr(end);

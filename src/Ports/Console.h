@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <string_view>
 
 namespace tessivo {
@@ -14,7 +15,14 @@ public:
 
     /// Writes `text` and ends the program at once, with nothing tidied up: what was saved is saved. For a
     /// state in which going on would show or store something wrong.
-    [[noreturn]] virtual void stopProgram(std::string_view text) = 0;
+    [[noreturn]] void stopProgram(std::string_view text) {
+        stop(text);
+        std::abort();
+    }
+
+protected:
+    /// Writes `text` and ends the program; must not return.
+    virtual void stop(std::string_view text) = 0;
 };
 
 } // namespace tessivo

@@ -1,0 +1,156 @@
+#include "AddEventVC/EventBackgroundViewController.h"
+
+#include "AddEventVC/BackgrounCell.h"
+#include "Event/CoreDataStack.h"
+#include "Event/CounterText.h"
+#include "Event/EventDate.h"
+#include "Event/ReminderScheduler.h"
+#include "Extension/EventCardText.h"
+#include "Ports/Clock.h"
+#include "Ports/Console.h"
+#include "Ports/Uuid.h"
+#include "Support/LocalizationVariables.h"
+#include "Support/ScreenFactory.h"
+
+namespace tessivo {
+namespace {
+
+constexpr auto reuseIdentifier = "BackgrounCell";
+constexpr double swatchSpacing = 16;
+
+std::unique_ptr<ui::LineLayout> stripLayout() {
+    return std::make_unique<ui::LineLayout>(ui::LineLayout::Axis::Horizontal, swatchSpacing, swatchSpacing);
+}
+
+} // namespace
+
+EventBackgroundViewController::EventBackgroundViewController(SharedServices& services)
+    : WizardScreen(services),
+      currentDate(services.platform().clock.now()),
+      eventView(controls, "eventView", services.platform().colors, services.platform().console),
+      colorCollection(controls, "colorCollection", stripLayout()),
+      gradientCollection(controls, "gradientCollection", stripLayout()) {}
+
+void EventBackgroundViewController::viewDidLoad() {
+    dateFormatter = platform().dateFormatters.make(dateFormat);
+    eventFormatter = platform().dateFormatters.make(fullFormat);
+    buildFrame("Background", "steps4", texts().done);
+    nextButton.addTarget(ui::PressEvent::UpInside, [this] { doneButtonTapped(); });
+    for (ui::View* row : std::initializer_list<ui::View*>{
+             &previewLabel, &eventView, &colorsLabel, &colorCollection, &gradientsLabel, &gradientCollection})
+        view().addSubview(*row);
+    // Confirming at once must give a whole event, so a background is chosen from the start.
+    if (!eventData)
+        eventData.emplace();
+    eventData->gradient = static_cast<std::int16_t>(defaultGradientRow);
+    eventData->color = NO_VALUE;
+    selectedGradientIndexPath = static_cast<int>(defaultGradientRow);
+    buildStrip(colorCollection);
+    buildStrip(gradientCollection);
+    showDraft();
+}
+
+void EventBackgroundViewController::buildStrip(ui::CollectionView& strip) {
+    strip.registerCell(reuseIdentifier, [] { return std::make_shared<BackgrounCell>(); });
+    strip.dataSource = weakSelf<ui::CollectionViewDataSource>(this);
+    strip.delegate = weakSelf<ui::CollectionViewDelegate>(this);
+    strip.setFrame({0, 0, screen().width(), BackgrounCell::side});
+    strip.reloadData();
+}
+
+void EventBackgroundViewController::showDraft() {
+    eventView.eventInformationLabel.setStyledText(
+        makeEventCardText(eventData->dateEvent.value_or(""), eventData->title.value_or(""), screen()));
+    const auto counter = counterText(eventDay(), currentDate, eventData->timeFormat.value_or(0), unitWords,
+                                     platform().console);
+    if (counter)
+        eventView.timeLabel.setStyledText(makeEventCardText(counter->unit, counter->number, screen()));
+}
+
+Instant EventBackgroundViewController::eventDay() const {
+    if (const auto date =
+            eventDateOf(eventData->dateEvent, eventData->timeEvent, *eventFormatter, *dateFormatter))
+        return *date;
+    platform().console.stopProgram("The date of the new event does not read.");
+}
+
+int EventBackgroundViewController::numberOfItems(ui::CollectionView& collection) {
+    return static_cast<int>(&collection == &colorCollection ? sectionsColor.size() : sectionsGradient.size());
+}
+
+std::shared_ptr<ui::CollectionViewCell>
+EventBackgroundViewController::cellForItem(ui::CollectionView& collection, int item) {
+    const auto cell =
+        std::static_pointer_cast<BackgrounCell>(collection.dequeueReusableCell(reuseIdentifier));
+    if (&collection == &colorCollection) {
+        cell->showColor(colorItemAt(item, platform().console));
+        cell->setMarked(selectedColorIndexPath == item);
+    } else {
+        cell->showGradient(gradientItemAt(item, platform().console), platform().colors, platform().console);
+        cell->setMarked(selectedGradientIndexPath == item);
+    }
+    return cell;
+}
+
+ui::Size EventBackgroundViewController::sizeForItem(ui::CollectionView&, int) {
+    return {BackgrounCell::side, BackgrounCell::side};
+}
+
+void EventBackgroundViewController::didSelectItem(ui::CollectionView& collection, int item) {
+    if (&collection == &colorCollection)
+        chooseColor(item);
+    else
+        chooseGradient(item);
+}
+
+ui::GradientLayer* EventBackgroundViewController::previewGradient() const {
+    return eventView.sublayers().empty() ? nullptr : eventView.sublayers().front().get();
+}
+
+void EventBackgroundViewController::chooseColor(int row) {
+    eventView.photoView.setImage({});
+    if (auto* gradient = previewGradient())
+        gradient->setHidden(true);
+    eventView.setBackgroundColor(ui::ColorRef::named(colorItemAt(row, platform().console).color));
+    eventData->photoPath.reset();
+    eventData->gradient = NO_VALUE;
+    eventData->color = static_cast<std::int16_t>(row);
+    eventData->unsplashPath.reset();
+    selectedColorIndexPath = row;
+    selectedGradientIndexPath.reset();
+    reloadStrips();
+}
+
+void EventBackgroundViewController::chooseGradient(int row) {
+    eventView.photoView.setImage({});
+    if (auto* gradient = previewGradient()) {
+        gradient->setHidden(false);
+        applyGradientItem(*gradient, gradientItemAt(row, platform().console), platform().colors,
+                          platform().console);
+        eventView.layerChanged();
+    }
+    eventData->photoPath.reset();
+    eventData->gradient = static_cast<std::int16_t>(row);
+    eventData->color = NO_VALUE;
+    eventData->unsplashPath.reset();
+    selectedGradientIndexPath = row;
+    selectedColorIndexPath.reset();
+    reloadStrips();
+}
+
+void EventBackgroundViewController::reloadStrips() {
+    colorCollection.reloadData();
+    gradientCollection.reloadData();
+}
+
+void EventBackgroundViewController::doneButtonTapped() {
+    const Instant day = eventDay();
+    currentDate = platform().clock.now();
+    eventData->eventType = !isPast(day, currentDate);
+    eventData->id = platform().uuids.random();
+    services().coreDataStack().addEvent(*eventData);
+    services().reminderScheduler().finishWizard(*eventData);
+    show(services().screens().makeTabShell());
+}
+
+} // namespace tessivo

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "AddEventVC/Label.h"
+#include "AddEventVC/WizardScreen.h"
+#include "Event/EventItem.h"
+#include "Extension/EventView.h"
+#include "Interface/CollectionView.h"
+#include "Ports/DateFormatter.h"
+
+namespace tessivo {
+
+/// The last step of the wizard: the background. Confirming it makes the event.
+class EventBackgroundViewController final : public WizardScreen,
+                                            public ui::CollectionViewDataSource,
+                                            public ui::CollectionViewDelegate {
+public:
+    explicit EventBackgroundViewController(SharedServices& services);
+
+    std::optional<EventItem> eventData;
+    /// The marked item of each strip.
+    std::optional<int> selectedColorIndexPath;
+    std::optional<int> selectedGradientIndexPath;
+    Instant currentDate;
+
+    EventView eventView;
+    InfoLabel previewLabel{controls, "previewLabel", "Preview"};
+    InfoLabel colorsLabel{controls, "colorsLabel", "Solid Colors"};
+    InfoLabel gradientsLabel{controls, "gradientsLabel", "Gradients"};
+    ui::CollectionView colorCollection;
+    ui::CollectionView gradientCollection;
+
+    [[nodiscard]] std::string screenName() const override { return "EventBackgroundViewController"; }
+
+    void doneButtonTapped();
+
+    [[nodiscard]] int numberOfItems(ui::CollectionView& collection) override;
+    [[nodiscard]] std::shared_ptr<ui::CollectionViewCell> cellForItem(ui::CollectionView& collection,
+                                                                      int item) override;
+    [[nodiscard]] ui::Size sizeForItem(ui::CollectionView& collection, int item) override;
+    void didSelectItem(ui::CollectionView& collection, int item) override;
+
+protected:
+    void viewDidLoad() override;
+
+private:
+    void buildStrip(ui::CollectionView& strip);
+    void showDraft();
+    void chooseColor(int row);
+    void chooseGradient(int row);
+    void reloadStrips();
+    [[nodiscard]] Instant eventDay() const;
+    [[nodiscard]] ui::GradientLayer* previewGradient() const;
+
+    std::unique_ptr<DateFormatter> dateFormatter;
+    std::unique_ptr<DateFormatter> eventFormatter;
+};
+
+} // namespace tessivo

@@ -1,0 +1,68 @@
+#include "Extension/TabBar/CustomTabBarController.h"
+
+#include "Event/FetchEventDataType.h"
+#include "Extension/TabTitleColors.h"
+#include "MainVC/MainViewController.h"
+#include "Ports/Console.h"
+#include "Ports/SavedSettings.h"
+#include "Support/LocalizationVariables.h"
+#include "Support/ScreenFactory.h"
+#include "Support/SettingKeys.h"
+
+namespace tessivo {
+namespace {
+
+constexpr double barHeight = 64;
+constexpr double addButtonDivisor = 5.86;
+constexpr double addButtonOffsetDivisor = 11.72;
+
+} // namespace
+
+CustomTabBarController::CustomTabBarController(SharedServices& services)
+    : TabBarController(services.window()),
+      SlideTransitions(services.window().animations),
+      services_(services) {}
+
+void CustomTabBarController::viewDidLoad() {
+    services_.platform().settings.setBoolean(settingKeys::isFirstLaunch, true);
+    services_.fetchEventDataType().refreshEvents();
+    addButton.setImageName("addButton");
+    addButton.setBackgroundColor(ui::ColorRef::clear());
+    addButton.setAccessibilityName(services_.localizationVariables().addEvent);
+    addButton.addTarget(ui::PressEvent::UpInside, [this] { addEvent(); });
+    tabBar.setBackgroundColor(ui::ColorRef::white());
+    view().addSubview(tabBar);
+    view().addSubview(addButton);
+    placeBar();
+}
+
+void CustomTabBarController::viewWillAppear() {
+    delegate = weakSelf<ui::TabBarControllerDelegate>(this);
+    const auto defaultScreen = services_.platform().settings.integer(settingKeys::defaultScreen);
+    if (!defaultScreen)
+        services_.platform().console.stopProgram("The first tab is not set.");
+    const auto titleColor = ui::ColorRef::named(*defaultScreen == 0 ? "pastColor" : "futureColor");
+    setViewControllers({std::make_shared<MainViewController>(services_, ListType::Past),
+                        std::make_shared<MainViewController>(services_, ListType::Future)},
+                       {{"Past", "Past", "pastSelect", titleColor, {}},
+                        {"Future", "Future", "futureSelect", titleColor, {}}});
+    applySelectedTitleColors(tabBar);
+    setSelectedIndex(static_cast<std::size_t>(*defaultScreen));
+}
+
+void CustomTabBarController::placeBar() {
+    const double width = screen().width();
+    const double top = screen().height() - barHeight;
+    const double size = width / addButtonDivisor;
+    tabBar.setFrame({0, top, width, barHeight});
+    addButton.setFrame({(width - size) / 2, top - width / addButtonOffsetDivisor, size, size});
+}
+
+void CustomTabBarController::addEvent() {
+    auto wizard = services_.screens().makeAddWizard();
+    wizard->modalPresentationStyle = ui::PresentationStyle::Custom;
+    wizard->transitioningDelegate = weakSelf<ui::TransitioningDelegate>(this);
+    present(std::move(wizard));
+}
+
+} // namespace tessivo

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Extension/SlideTransitions.h"
+#include "Interface/Button.h"
+#include "Interface/TabBarController.h"
+#include "Support/SharedServices.h"
+
+namespace tessivo {
+
+/// The two lists, Past and Future, with the floating button that adds an event. Every flow that ends in the
+/// lists ends in a new one of these, over all that stood.
+class CustomTabBarController final : public ui::TabBarController,
+                                     public ui::TabBarControllerDelegate,
+                                     public SlideTransitions {
+public:
+    explicit CustomTabBarController(SharedServices& services);
+
+    ui::Button addButton{controls, "addButton"};
+
+    [[nodiscard]] std::string screenName() const override { return "CustomTabBarController"; }
+
+    void addEvent();
+    /// The tabs themselves need nothing at a change of tab; the lists do.
+    void didSelectViewController(ui::TabBarController&, ui::ViewController&) override {}
+
+protected:
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+    void screenSizeDidChange() override { placeBar(); }
+
+private:
+    void placeBar();
+
+    SharedServices& services_;
+};
+
+} // namespace tessivo

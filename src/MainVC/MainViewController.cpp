@@ -1,0 +1,150 @@
+#include "MainVC/MainViewController.h"
+
+#include "Event/CoreDataStack.h"
+#include "Event/FetchEventDataType.h"
+#include "Extension/TabTitleColors.h"
+#include "MainVC/CardSize.h"
+#include "MainVC/EventCell.h"
+#include "Ports/Calendar.h"
+#include "Ports/Clock.h"
+#include "Ports/Console.h"
+#include "Ports/Timers.h"
+#include "Support/LocalizationVariables.h"
+#include "Support/ScreenFactory.h"
+
+#include <algorithm>
+
+namespace tessivo {
+namespace {
+
+constexpr auto reuseIdentifier = "EventCell";
+constexpr double topInset = 10;
+constexpr double cardSpacing = 16;
+constexpr Seconds minute{60.0};
+
+} // namespace
+
+MainViewController::MainViewController(SharedServices& services, ListType listType)
+    : Screen(services),
+      SlideTransitions(services.window().animations),
+      type(listType),
+      collection(controls, "collection",
+                 std::make_unique<ui::LineLayout>(ui::LineLayout::Axis::Vertical, cardSpacing, topInset)),
+      coreDataManager(services.makeCoreDataStack()) {}
+
+MainViewController::~MainViewController() = default;
+
+void MainViewController::viewDidLoad() {
+    view().setBackgroundColor(ui::ColorRef::named("mainBack"));
+    titleLabel.setFont({32, ui::FontWeight::Bold});
+    titleLabel.setText("Tessivo");
+    settingButton.setImageName("gearshapeFill");
+    settingButton.setAccessibilityName(texts().setting);
+    settingButton.addTarget(ui::PressEvent::UpInside, [this] { settingButtonTapped(); });
+    mainlabel.setFont({screen().isLarge() ? 25.0 : 17.0, ui::FontWeight::Regular});
+    mainlabel.setTextColor(ui::ColorRef::named("disabled"));
+    mainlabel.setAlignment(ui::TextAlignment::Center);
+    mainlabel.setNumberOfLines(2);
+    mainlabel.setText(texts().addEvent);
+    collection.setBackgroundColor(ui::ColorRef::named("mainBack"));
+    collection.registerCell(reuseIdentifier,
+                            [&shared = services()] { return std::make_shared<EventCell>(shared); });
+    collection.dataSource = weakSelf<ui::CollectionViewDataSource>(this);
+    collection.delegate = weakSelf<ui::CollectionViewDelegate>(this);
+    collection.setFrame(view().bounds());
+    view().addSubview(collection);
+    view().addSubview(titleLabel);
+    view().addSubview(settingButton);
+    view().addSubview(mainlabel);
+    if (auto* tabs = dynamic_cast<ui::TabBarController*>(parent()))
+        tabs->delegate = weakSelf<ui::TabBarControllerDelegate>(this);
+}
+
+void MainViewController::viewWillAppear() {
+    scheduleTick();
+    refreshAndReload();
+}
+
+void MainViewController::screenSizeDidChange() {
+    collection.invalidateLayout();
+}
+
+void MainViewController::scheduleTick() {
+    const Instant now = platform().clock.now();
+    DateComponents nextMinute = platform().calendar.components(now);
+    *nextMinute.minute += 1;
+    nextMinute.second = 0;
+    const Seconds wait = platform().calendar.date(nextMinute) - now;
+    services().keep(platform().timers.once(wait, [list = self()] { list->timerFired(); }));
+}
+
+void MainViewController::timerFired() {
+    refreshAndReload();
+    services().keep(platform().timers.repeating(minute, [list = self()] {
+        list->services().fetchEventDataType().refreshEvents();
+        list->collection.reloadData();
+    }));
+}
+
+void MainViewController::refreshAndReload() {
+    services().fetchEventDataType().refreshEvents();
+    records = EventRows();
+    collection.reloadData();
+}
+
+std::shared_ptr<MainViewController> MainViewController::self() {
+    return std::static_pointer_cast<MainViewController>(shared_from_this());
+}
+
+void MainViewController::settingButtonTapped() {
+    auto settings = services().screens().makeSettings([list = std::weak_ptr(self())] {
+        if (const auto standing = list.lock())
+            standing->collection.reloadData();
+    });
+    if (settings)
+        present(std::move(settings));
+}
+
+int MainViewController::numberOfItems(ui::CollectionView&) {
+    EventRows rows = services().coreDataStack().fetchEvents();
+    const bool future = type == ListType::Future;
+    std::erase_if(rows, [future](const auto& row) { return row->eventType() != future; });
+    records = std::move(rows);
+    numberOfObjectsInSection = static_cast<int>(records->size());
+    mainlabel.setHidden(numberOfObjectsInSection != 0);
+    return numberOfObjectsInSection;
+}
+
+std::shared_ptr<ui::CollectionViewCell> MainViewController::cellForItem(ui::CollectionView& collectionView,
+                                                                        int item) {
+    if (!records || item < 0 || static_cast<std::size_t>(item) >= records->size())
+        platform().console.stopProgram("The list has no event " + std::to_string(item) + ".");
+    const auto cell =
+        std::static_pointer_cast<EventCell>(collectionView.dequeueReusableCell(reuseIdentifier));
+    cell->configure(*(*records)[static_cast<std::size_t>(item)]);
+    return cell;
+}
+
+ui::Size MainViewController::sizeForItem(ui::CollectionView&, int) {
+    return cardSize(savedEventSize(platform()), screen());
+}
+
+void MainViewController::didSelectItem(ui::CollectionView& collectionView, int item) {
+    const auto cell = std::static_pointer_cast<EventCell>(collectionView.cellForItem(item));
+    if (!cell || !cell->recordID)
+        return;
+    // A stack of its own: what the full screen changes and does not save must not show in the list.
+    auto fullEvent =
+        services().screens().makeFullEvent(services().makeCoreDataStack()->fetchEvent(*cell->recordID));
+    if (!fullEvent)
+        return;
+    fullEvent->modalPresentationStyle = ui::PresentationStyle::Custom;
+    fullEvent->transitioningDelegate = weakSelf<ui::TransitioningDelegate>(this);
+    present(std::move(fullEvent));
+}
+
+void MainViewController::didSelectViewController(ui::TabBarController& tabs, ui::ViewController&) {
+    applySelectedTitleColors(tabs.tabBar);
+}
+
+} // namespace tessivo

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "Event/EventContext.h"
+#include "Extension/SlideTransitions.h"
+#include "Interface/Button.h"
+#include "Interface/CollectionView.h"
+#include "Interface/Label.h"
+#include "Interface/TabBarController.h"
+#include "Support/Screen.h"
+
+namespace tessivo {
+
+class CoreDataStack;
+
+enum class ListType { Past = 1, Future = 2 };
+
+/// One list of events, as cards in one column.
+///
+/// A minute tick keeps it true. Each appearance starts one more, and none is ever stopped: a list that is
+/// covered goes on rolling its events, and stays alive for it.
+class MainViewController final : public Screen,
+                                 public SlideTransitions,
+                                 public ui::CollectionViewDataSource,
+                                 public ui::CollectionViewDelegate,
+                                 public ui::TabBarControllerDelegate {
+public:
+    MainViewController(SharedServices& services, ListType type);
+    ~MainViewController() override;
+
+    const ListType type;
+    /// The rows shown, in card order.
+    std::optional<EventRows> records;
+    int numberOfObjectsInSection = 0;
+
+    ui::CollectionView collection;
+    ui::Label titleLabel{controls, "titleLabel"};
+    ui::Button settingButton{controls, "settingButton"};
+    /// Shows while the list is empty.
+    ui::Label mainlabel{controls, "mainlabel"};
+
+    [[nodiscard]] std::string screenName() const override { return "MainViewController"; }
+
+    void settingButtonTapped();
+
+    [[nodiscard]] int numberOfItems(ui::CollectionView& collectionView) override;
+    [[nodiscard]] std::shared_ptr<ui::CollectionViewCell> cellForItem(ui::CollectionView& collectionView,
+                                                                      int item) override;
+    [[nodiscard]] ui::Size sizeForItem(ui::CollectionView& collectionView, int item) override;
+    void didSelectItem(ui::CollectionView& collectionView, int item) override;
+    void didSelectViewController(ui::TabBarController& tabs, ui::ViewController& selected) override;
+
+protected:
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+    void screenSizeDidChange() override;
+
+private:
+    void scheduleTick();
+    void timerFired();
+    void refreshAndReload();
+    [[nodiscard]] std::shared_ptr<MainViewController> self();
+
+    std::unique_ptr<CoreDataStack> coreDataManager;
+};
+
+} // namespace tessivo

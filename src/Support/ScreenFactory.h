@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace tessivo {
+
+class EventCoreData;
+
+namespace ui {
+class ViewController;
+}
+
+/// Makes the screens that lead to each other in circles, so that none of their folders needs the others. A
+/// null screen is one that the program does not have: nothing is shown.
+class ScreenFactory {
+public:
+    virtual ~ScreenFactory() = default;
+
+    /// The two lists with their tabs, as a flow ends in them.
+    [[nodiscard]] virtual std::shared_ptr<ui::ViewController> makeTabShell() = 0;
+    /// The first step of the wizard that makes an event.
+    [[nodiscard]] virtual std::shared_ptr<ui::ViewController> makeAddWizard() = 0;
+    /// One event over the whole screen.
+    [[nodiscard]] virtual std::shared_ptr<ui::ViewController>
+    makeFullEvent(std::shared_ptr<EventCoreData> record) = 0;
+    /// `sizeChanged` is called when the user has chosen another card size.
+    [[nodiscard]] virtual std::shared_ptr<ui::ViewController>
+    makeSettings(std::function<void()> sizeChanged) = 0;
+
+    /// Opens the machine's page on which the user may allow notifications; quietly does nothing where it has
+    /// none.
+    virtual void openNotificationSettings() = 0;
+};
+
+} // namespace tessivo

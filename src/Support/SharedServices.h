@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Ports/Subscription.h"
+#include "Support/Platform.h"
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace tessivo {
+
+class CoreDataStack;
+class FetchEventDataType;
+class LocalizationVariables;
+class ReminderScheduler;
+class ScreenFactory;
+
+namespace ui {
+struct WindowContext;
+}
+
+/// What the program's screens share, each made on first use and kept for the life of the program. Main
+/// thread.
+class SharedServices {
+public:
+    /// All of these outlive the services.
+    SharedServices(const Platform& platform, ui::WindowContext& window, ScreenFactory& screens);
+    ~SharedServices();
+    SharedServices(const SharedServices&) = delete;
+    SharedServices& operator=(const SharedServices&) = delete;
+
+    [[nodiscard]] const Platform& platform() const { return platform_; }
+    [[nodiscard]] ui::WindowContext& window() const { return window_; }
+    [[nodiscard]] ScreenFactory& screens() const { return screens_; }
+
+    /// The stack through which all changes go.
+    [[nodiscard]] CoreDataStack& coreDataStack();
+    /// A stack of the caller's own, for reading.
+    [[nodiscard]] std::unique_ptr<CoreDataStack> makeCoreDataStack() const;
+    [[nodiscard]] FetchEventDataType& fetchEventDataType();
+    [[nodiscard]] ReminderScheduler& reminderScheduler();
+    [[nodiscard]] const LocalizationVariables& localizationVariables();
+
+    /// Keeps something going for the life of the program, whoever started it.
+    void keep(Subscription subscription) { kept_.push_back(std::move(subscription)); }
+
+private:
+    Platform platform_;
+    ui::WindowContext& window_;
+    ScreenFactory& screens_;
+    std::unique_ptr<CoreDataStack> coreDataStack_;
+    std::unique_ptr<ReminderScheduler> reminderScheduler_;
+    std::unique_ptr<FetchEventDataType> fetchEventDataType_;
+    std::unique_ptr<LocalizationVariables> localizationVariables_;
+    std::vector<Subscription> kept_;
+};
+
+} // namespace tessivo

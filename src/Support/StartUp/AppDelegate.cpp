@@ -1,0 +1,50 @@
+#include "Support/StartUp/AppDelegate.h"
+
+#include "Event/FetchEventDataType.h"
+#include "Interface/PresentationStack.h"
+#include "Ports/Console.h"
+#include "Ports/SavedSettings.h"
+#include "Support/ScreenFactory.h"
+#include "Support/SettingKeys.h"
+#include "Support/SharedServices.h"
+
+namespace tessivo {
+namespace {
+
+struct FirstValue {
+    std::string_view key;
+    long value;
+};
+
+constexpr FirstValue firstValues[] = {
+    {settingKeys::defaultScreen, 0},
+    {settingKeys::eventSize, 1},
+    {settingKeys::secondOpen, 0},
+};
+
+} // namespace
+
+void AppDelegate::didFinishLaunching(ui::PresentationStack& window) {
+    fillAbsentSettings();
+    countLaunch();
+    services_.fetchEventDataType().refreshEvents();
+    window.setRoot(services_.screens().makeTabShell());
+}
+
+void AppDelegate::fillAbsentSettings() {
+    SavedSettings& settings = services_.platform().settings;
+    for (const auto& [key, value] : firstValues) {
+        if (!settings.integer(key))
+            settings.setInteger(key, value);
+    }
+}
+
+void AppDelegate::countLaunch() {
+    const Platform& platform = services_.platform();
+    const auto launches = platform.settings.integer(settingKeys::secondOpen);
+    if (!launches)
+        platform.console.stopProgram("The launch counter cannot be read.");
+    platform.settings.setInteger(settingKeys::secondOpen, *launches + 1);
+}
+
+} // namespace tessivo
