@@ -20,6 +20,10 @@ struct Schema {
     int applicationId = 0; ///< one number per kind of file, never zero
     int version = 0;       ///< of the tables, from 1 on
     const char* sql = "";  ///< makes all tables of a new file
+
+    /// Counts the rows that break the tables' CHECK limits, which SQLite overlooks in a file that it opens
+    /// for reading; null where there are no such limits.
+    const char* countOfBrokenRows = nullptr;
 };
 
 enum class Step { Row, Done, Failed };

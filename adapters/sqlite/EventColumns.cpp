@@ -31,7 +31,9 @@ std::optional<Uuid> uuid(const Statement& row, int column) {
 } // namespace
 
 // Keys are never given twice: another context may still hold the object of a deleted row.
-const Schema eventSchema{.applicationId = 0x54534556, .version = 1, .sql = R"(
+const Schema eventSchema{.applicationId = 0x54534556,
+                         .version = 1,
+                         .sql = R"(
 CREATE TABLE events(
     key INTEGER PRIMARY KEY AUTOINCREMENT,
     title TEXT,
@@ -50,6 +52,13 @@ CREATE TABLE events(
     id BLOB CHECK(length(id) = 16)
 ) STRICT;
 CREATE INDEX events_by_id ON events(id);
+)",
+                         .countOfBrokenRows = R"(
+SELECT count(*) FROM events
+WHERE repEvent NOT BETWEEN -32768 AND 32767 OR alertReminder NOT BETWEEN -32768 AND 32767
+   OR repReminder NOT BETWEEN -32768 AND 32767 OR timeFormat NOT BETWEEN -32768 AND 32767
+   OR color NOT BETWEEN -32768 AND 32767 OR gradient NOT BETWEEN -32768 AND 32767
+   OR eventType NOT IN (0, 1) OR length(id) <> 16
 )"};
 
 void bindAttribute(Statement& statement, int parameter, EventAttribute attribute, const EventRecord& values) {

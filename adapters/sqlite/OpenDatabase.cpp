@@ -42,9 +42,10 @@ Outcome makeFolders(const std::filesystem::path& folder) {
         return std::nullopt;
     if (auto error = makeFolders(folder.parent_path()))
         return error;
-    if (::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST)
-        return systemFailure("Cannot make the folder", folder);
-    return std::nullopt;
+    const bool made = ::mkdir(folder.c_str(), S_IRWXU) == 0;
+    if (made || (errno == EEXIST && std::filesystem::is_directory(folder, ignored)))
+        return std::nullopt;
+    return systemFailure("Cannot make the folder", folder);
 }
 
 /// Sees that there is a plain file that can be written, in a folder that can: SQLite by itself would make the
@@ -126,12 +127,20 @@ Result<std::string> ask(sqlite3* connection, const char* sql) {
     return std::string(statement.text(0));
 }
 
-Outcome expectWhole(sqlite3* connection) {
+Outcome expectWhole(sqlite3* connection, const Schema& schema) {
     const auto answer = ask(connection, "PRAGMA quick_check(1)");
     if (!answer)
         return answer.error();
     if (answer.value() != "ok")
         return failure(SQLITE_CORRUPT, "the file is damaged: " + answer.value());
+    if (schema.countOfBrokenRows == nullptr)
+        return std::nullopt;
+    const auto broken = ask(connection, schema.countOfBrokenRows);
+    if (!broken)
+        return broken.error();
+    if (broken.value() != "0")
+        return failure(SQLITE_CORRUPT,
+                       "the file is damaged: values beyond their limits in " + broken.value() + " rows");
     return std::nullopt;
 }
 
@@ -143,7 +152,7 @@ Outcome expectOwn(sqlite3* connection, const Schema& schema) {
     if (!version)
         return version.error();
     if (application.value() != std::to_string(schema.applicationId))
-        return failure(SQLITE_NOTADB, "the file belongs to another program");
+        return failure(SQLITE_NOTADB, "the file does not belong to this program");
     if (version.value() != std::to_string(schema.version))
         return failure(SQLITE_MISMATCH, "the file is of version " + version.value() +
                                             ", this program reads version " + std::to_string(schema.version));
@@ -157,13 +166,13 @@ Outcome examine(const std::filesystem::path& file, const Schema& schema) {
         return connection.error();
     if (auto error = expectOwn(connection.value().get(), schema))
         return error;
-    return hasPendingChanges(file) ? std::nullopt : expectWhole(connection.value().get());
+    return hasPendingChanges(file) ? std::nullopt : expectWhole(connection.value().get(), schema);
 }
 
 /// Takes up what a killed program left beside the file, if the whole is sound: else both stay as they are.
-Outcome recover(sqlite3* connection) {
+Outcome recover(sqlite3* connection, const Schema& schema) {
     sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
-    if (auto error = expectWhole(connection))
+    if (auto error = expectWhole(connection, schema))
         return error;
     sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
     return std::nullopt;
@@ -215,7 +224,7 @@ Result<Connection> openExamined(const std::filesystem::path& file, const Schema&
     if (!connection)
         return inFile(file, connection.error());
     if (recovering) {
-        if (auto error = recover(connection.value().get()))
+        if (auto error = recover(connection.value().get(), schema))
             return inFile(file, *error);
     }
     if (auto error = prepareForUse(connection.value().get(), schema))
