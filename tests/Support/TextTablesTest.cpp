@@ -1,0 +1,89 @@
+#include "Support/LocalizationVariables.h"
+#include "json/JsonLocalizedTexts.h"
+#include "json/TextTable.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <vector>
+
+namespace tessivo {
+namespace {
+
+using testing::UnorderedElementsAre;
+using testing::UnorderedElementsAreArray;
+
+std::string contentsOf(const char* language) {
+    std::ifstream stream(std::filesystem::path(TESSIVO_TEXTS) / (std::string(language) + ".json"));
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// Notes the keys that are asked for, and answers with the key in brackets.
+class AskedKeys final : public LocalizedTexts {
+public:
+    std::string localizedString(std::string_view key) const override {
+        asked.emplace_back(key);
+        return "[" + std::string(key) + "]";
+    }
+
+    mutable std::vector<std::string> asked;
+};
+
+TEST(LocalizationVariables, AskOnceForEachKeyAndKeepTheAnswerUnderIt) {
+    const AskedKeys texts;
+    const LocalizationVariables variables(texts);
+    EXPECT_EQ(texts.asked.size(), 30U);
+    EXPECT_EQ(std::set(texts.asked.begin(), texts.asked.end()).size(), 30U);
+    EXPECT_EQ(texts.asked.front(), "firstOnBoardingHeader");
+    EXPECT_EQ(texts.asked.back(), "done");
+    EXPECT_EQ(variables.and_, "[and]");
+    EXPECT_EQ(variables.addEvent, "[addEvent]");
+    EXPECT_EQ(variables.inACertain, "[inACertain]");
+    EXPECT_EQ(variables.next, "[next]");
+}
+
+class EveryLanguage : public testing::TestWithParam<const char*> {};
+
+TEST_P(EveryLanguage, HasExactlyTheTextsThatScreensShow) {
+    const AskedKeys wanted;
+    const LocalizationVariables variables(wanted);
+    const auto table = readTextTable(contentsOf(GetParam()));
+    ASSERT_TRUE(table) << table.error().description;
+    std::vector<std::string> keys;
+    for (const auto& [key, text] : table.value()) {
+        keys.push_back(key);
+        EXPECT_NE(text.find_first_not_of(" \n"), std::string::npos) << key << " is blank";
+    }
+    EXPECT_THAT(keys, UnorderedElementsAreArray(wanted.asked));
+}
+
+TEST_P(EveryLanguage, KeepsTheShapesThatScreensLeanOn) {
+    const auto texts = JsonLocalizedTexts::fromJson(contentsOf(GetParam()));
+    ASSERT_TRUE(texts);
+    const LocalizationVariables shown(texts.value());
+    EXPECT_EQ(std::ranges::count(shown.addEvent, '\n'), 1) << "the empty list says two lines";
+    for (const std::string& oneLine :
+         {shown.next, shown.done, shown.eventTitle, shown.addTitle, shown.alertRate, shown.days,
+          shown.inACertain, shown.yourEventTitle, shown.dateOfEvent})
+        EXPECT_EQ(oneLine.find('\n'), std::string::npos) << oneLine;
+    EXPECT_NE(shown.alertYes, shown.alertNo);
+    EXPECT_TRUE(shown.share.ends_with(' ') || shown.share.ends_with("：")) << "an address follows at once";
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, EveryLanguage, testing::Values("en", "de", "fr", "es", "ru", "ja", "ar"),
+                         [](const auto& test) { return std::string(test.param); });
+
+TEST(EveryLanguageFile, IsOneOfTheTestedOnes) {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(TESSIVO_TEXTS))
+        names.push_back(entry.path().filename().string());
+    EXPECT_THAT(names, UnorderedElementsAre("en.json", "de.json", "fr.json", "es.json", "ru.json", "ja.json",
+                                            "ar.json"));
+}
+
+} // namespace
+} // namespace tessivo
