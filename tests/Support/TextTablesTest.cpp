@@ -18,7 +18,8 @@ using testing::UnorderedElementsAre;
 using testing::UnorderedElementsAreArray;
 
 std::string contentsOf(const char* language) {
-    std::ifstream stream(std::filesystem::path(TESSIVO_TEXTS) / (std::string(language) + ".json"));
+    std::ifstream stream(std::filesystem::path(TESSIVO_RESOURCES "/texts") /
+                         (std::string(language) + ".json"));
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
@@ -79,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, EveryLanguage, testing::Values("en", "de", "fr",
 
 TEST(EveryLanguageFile, IsOneOfTheTestedOnes) {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(TESSIVO_TEXTS))
+    for (const auto& entry : std::filesystem::directory_iterator(TESSIVO_RESOURCES "/texts"))
         names.push_back(entry.path().filename().string());
     EXPECT_THAT(names, UnorderedElementsAre("en.json", "de.json", "fr.json", "es.json", "ru.json", "ja.json",
                                             "ar.json"));
