@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <thread>
 
 namespace tessivo {
 namespace {
@@ -89,6 +90,22 @@ TEST(IcuCalendar, SkippedAndRepeatedTimesHaveOneMoment) {
     const IcuCalendar calendar("en_US", "Europe/Berlin");
     EXPECT_EQ(calendar.date(at(2025, 3, 30, 2, 30)), instantAt(1'743'296'400));
     EXPECT_EQ(calendar.date(at(2025, 10, 26, 2, 30)), instantAt(1'761'438'600));
+}
+
+TEST(IcuCalendar, ServesTwoThreadsAtOnce) {
+    const IcuCalendar calendar("en_US", "Europe/Berlin");
+    const auto steps = [&calendar](Instant from, Instant to) {
+        int wrong = 0;
+        for (int round = 0; round < 2000; ++round)
+            wrong += calendar.adding(CalendarUnit::Month, 1, from) != to;
+        return wrong;
+    };
+    int wrongThere = 0;
+    std::thread other(
+        [&] { wrongThere = steps(calendar.date(at(2025, 1, 31)), calendar.date(at(2025, 2, 28))); });
+    const int wrongHere = steps(calendar.date(at(1999, 12, 5)), calendar.date(at(2000, 1, 5)));
+    other.join();
+    EXPECT_EQ(wrongHere + wrongThere, 0);
 }
 
 TEST(IcuCalendar, FollowsAChangeOfTheDevicesZone) {
