@@ -1,0 +1,83 @@
+#include "Extension/TabBar/CustomTabBarController.h"
+
+#include "AddEventVC/EventTitleViewController.h"
+#include "MainVC/MainViewController.h"
+#include "Ports/SavedSettings.h"
+#include "Support/SettingKeys.h"
+#include "support/Program.h"
+
+#include <gmock/gmock.h>
+
+namespace tessivo {
+namespace {
+
+class TabShellTest : public testing::Test {
+protected:
+    CustomTabBarController& tabs() { return program.top<CustomTabBarController>(); }
+
+    Program program;
+};
+
+TEST_F(TabShellTest, TheTabsStandInOrderWithTheirColours) {
+    ASSERT_EQ(tabs().tabBar.items().size(), 2U);
+    const auto& past = tabs().tabBar.items()[0];
+    const auto& future = tabs().tabBar.items()[1];
+    EXPECT_EQ(past.title, "Past");
+    EXPECT_EQ(past.selectedImageName, "pastSelect");
+    EXPECT_EQ(past.selectedTitleColor, ui::ColorRef::named("pastColor"));
+    EXPECT_EQ(future.title, "Future");
+    EXPECT_EQ(future.selectedImageName, "futureSelect");
+    EXPECT_EQ(future.selectedTitleColor, ui::ColorRef::named("futureColor"));
+}
+
+TEST_F(TabShellTest, TitlesAtRestHaveTheColourOfTheDefaultTab) {
+    EXPECT_EQ(tabs().tabBar.items()[1].titleColor, ui::ColorRef::named("pastColor"));
+    program.services().platform().settings.setInteger(settingKeys::defaultScreen, 1);
+    program.restart();
+    EXPECT_EQ(tabs().tabBar.items()[0].titleColor, ui::ColorRef::named("futureColor"));
+}
+
+TEST_F(TabShellTest, TheAddButtonStandsHalfOverTheBarByTheScreensWidth) {
+    program.screen.resize({586, 1000}, 1);
+    EXPECT_EQ(tabs().addButton.frame().size(), (ui::Size{100, 100}));
+    EXPECT_NEAR(tabs().tabBar.frame().minY() - tabs().addButton.frame().minY(), 50, 1e-9);
+    EXPECT_NEAR(tabs().addButton.frame().midX(), 293, 1e-9);
+}
+
+TEST_F(TabShellTest, AddingSlidesTheWizardInAndBackSlidesItOut) {
+    auto& shell = tabs();
+    shell.addButton.tap();
+    auto& wizard = program.top<EventTitleViewController>();
+    EXPECT_TRUE(program.stack().isInTransition());
+    EXPECT_EQ(wizard.view().drawnFrame().x, 390);
+    program.timeline.advance(Seconds(0.15));
+    EXPECT_NEAR(wizard.view().drawnFrame().x, 195, 60);
+    EXPECT_NEAR(shell.view().drawnFrame().x, -195, 60);
+    program.settle();
+    EXPECT_EQ(wizard.view().drawnFrame().x, 0);
+    wizard.prevButton.tap();
+    program.settle();
+    EXPECT_EQ(program.stack().screens().size(), 1U);
+    EXPECT_EQ(shell.view().drawnFrame().x, 0);
+}
+
+TEST_F(TabShellTest, EveryAppearanceBuildsNewLists) {
+    const auto* former = tabs().viewControllers()[0].get();
+    tabs().addButton.tap();
+    program.settle();
+    program.top<EventTitleViewController>().prevButton.tap();
+    program.settle();
+    EXPECT_NE(tabs().viewControllers()[0].get(), former);
+}
+
+TEST_F(TabShellTest, TheListsHearTabChangesFromTheirFirstShowing) {
+    auto& shell = tabs();
+    EXPECT_EQ(shell.delegate.lock().get(),
+              dynamic_cast<ui::TabBarControllerDelegate*>(shell.viewControllers()[0].get()));
+    shell.select(1);
+    EXPECT_EQ(shell.delegate.lock().get(),
+              dynamic_cast<ui::TabBarControllerDelegate*>(shell.viewControllers()[1].get()));
+}
+
+} // namespace
+} // namespace tessivo

@@ -1,0 +1,210 @@
+#include "MainVC/MainViewController.h"
+
+#include "Event/CoreDataStack.h"
+#include "Event/EventItem.h"
+#include "Extension/TabBar/CustomTabBarController.h"
+#include "MainVC/EventCell.h"
+#include "Ports/SavedSettings.h"
+#include "Support/SettingKeys.h"
+#include "support/Program.h"
+
+#include <gmock/gmock.h>
+
+namespace tessivo {
+namespace {
+
+class ListTest : public testing::Test {
+protected:
+    EventItem event(const std::string& title, const std::string& day, std::optional<std::string> time = {}) {
+        EventItem item;
+        item.title = title;
+        item.dateEvent = day;
+        item.timeEvent = std::move(time);
+        item.repEvent = 0;
+        item.timeFormat = 0;
+        item.alertReminder = item.repReminder = item.gradient = NO_VALUE;
+        item.color = 0;
+        item.eventType = true;
+        item.id = program.services().platform().uuids.random();
+        return item;
+    }
+
+    void store(const EventItem& item) { program.services().coreDataStack().addEvent(item); }
+
+    MainViewController& list(ListType type) {
+        auto& tabs = program.top<CustomTabBarController>();
+        tabs.select(type == ListType::Past ? 0 : 1);
+        auto& shown = dynamic_cast<MainViewController&>(*tabs.selectedViewController());
+        shown.collection.reloadData();
+        return shown;
+    }
+
+    static EventCell& card(MainViewController& list, int item) {
+        return dynamic_cast<EventCell&>(*list.collection.cellForItem(item));
+    }
+
+    Program program;
+};
+
+TEST_F(ListTest, EachListShowsItsOwnEventsInTheOrderOfMaking) {
+    store(event("b", "25 June 2030"));
+    auto past = event("gone", "01 June 2030");
+    past.eventType = false;
+    store(past);
+    store(event("a", "24 June 2030"));
+    auto& future = list(ListType::Future);
+    EXPECT_EQ(future.numberOfObjectsInSection, 2);
+    EXPECT_EQ(card(future, 0).eventInformationLabel.text(), "b\n25 June 2030");
+    EXPECT_EQ(card(future, 1).eventInformationLabel.text(), "a\n24 June 2030");
+    auto& gone = list(ListType::Past);
+    EXPECT_EQ(gone.numberOfObjectsInSection, 1);
+    EXPECT_EQ(card(gone, 0).timeLabel.text(), "Since 490\nHours");
+}
+
+TEST_F(ListTest, TheFirstEventHidesTheEmptyText) {
+    auto& future = list(ListType::Future);
+    EXPECT_FALSE(future.mainlabel.isHidden());
+    store(event("first", "25 June 2030"));
+    future.collection.reloadData();
+    EXPECT_TRUE(future.mainlabel.isHidden());
+}
+
+TEST_F(ListTest, CardsFollowTheChosenSize) {
+    store(event("sized", "25 June 2030"));
+    const std::tuple<long, double> cases[] = {{0, 844 / 4.6136}, {1, 844 / 4.06}, {2, 844 / 3.5}};
+    auto& future = list(ListType::Future);
+    for (const auto& [choice, height] : cases) {
+        program.services().platform().settings.setInteger(settingKeys::eventSize, choice);
+        future.collection.reloadData();
+        const auto frame = card(future, 0).frame();
+        EXPECT_NEAR(frame.width, 390 / 1.1, 1e-9);
+        EXPECT_NEAR(frame.height, height, 1e-9);
+        EXPECT_NEAR(frame.midX(), 195, 1e-9);
+        EXPECT_NEAR(frame.y, 10, 1e-9);
+    }
+    program.services().platform().settings.setInteger(settingKeys::eventSize, 3);
+    future.collection.reloadData();
+    EXPECT_TRUE(future.collection.visibleCells().empty());
+}
+
+TEST_F(ListTest, TheTickComesAtTheWholeMinuteAndThenEachMinute) {
+    store(event("at 10:31", "21 June 2030", "10:31 AM"));
+    auto& future = list(ListType::Future);
+    EXPECT_EQ(future.numberOfObjectsInSection, 1);
+    program.timeline.advance(Seconds(44.9)); // 10:30:59.9
+    EXPECT_EQ(future.numberOfObjectsInSection, 1);
+    program.timeline.advance(Seconds(0.2)); // the event is past from the instant after its own
+    store(event("at 10:32", "21 June 2030", "10:32 AM"));
+    future.collection.reloadData();
+    program.timeline.advance(Seconds(60));
+    EXPECT_EQ(future.numberOfObjectsInSection, 1) << "10:31 has gone to Past, 10:32 is still ahead";
+    program.timeline.advance(Seconds(60));
+    EXPECT_EQ(future.numberOfObjectsInSection, 0);
+    EXPECT_EQ(list(ListType::Past).numberOfObjectsInSection, 2);
+}
+
+TEST_F(ListTest, ACoveredListGoesOnTicking) {
+    store(event("soon", "21 June 2030", "10:31 AM"));
+    list(ListType::Future);
+    program.top<CustomTabBarController>().addButton.tap();
+    program.timeline.advance(Seconds(120));
+    EXPECT_FALSE(program.services().coreDataStack().fetchEvents().front()->eventType());
+}
+
+TEST_F(ListTest, NumbersStandStillWhileTheListStandsAndMoveWithANewOne) {
+    store(event("in two hours", "21 June 2030", "12:45 PM"));
+    auto& future = list(ListType::Future);
+    EXPECT_EQ(card(future, 0).timeLabel.text(), "In 2\nHours");
+    auto* cell = &card(future, 0);
+    program.timeline.advance(Seconds(3600));
+    EXPECT_EQ(&card(future, 0), cell);
+    EXPECT_EQ(card(future, 0).timeLabel.text(), "In 2\nHours");
+    program.restart();
+    EXPECT_EQ(card(list(ListType::Future), 0).timeLabel.text(), "In 1\nHours");
+}
+
+TEST_F(ListTest, AReusedCardShowsNothingOfItsFormerEvent) {
+    auto faded = event("faded", "25 June 2030");
+    faded.color = NO_VALUE;
+    faded.gradient = 4;
+    store(faded);
+    auto& future = list(ListType::Future);
+    auto& cell = card(future, 0);
+    ASSERT_EQ(cell.contentView.sublayers().size(), 1U);
+    EXPECT_NEAR(cell.contentView.sublayers()[0]->frame().height, 844 / 4.06, 1e-9);
+
+    auto& store = program.services().coreDataStack();
+    store.updateBackground(*faded.id, 6, NO_VALUE, {}, {});
+    future.collection.reloadData();
+    EXPECT_EQ(&card(future, 0), &cell);
+    EXPECT_TRUE(cell.contentView.sublayers().empty());
+    EXPECT_EQ(cell.contentView.backgroundColor(), ui::ColorRef::named("color 7"));
+}
+
+TEST_F(ListTest, AUnitThatDoesNotExistLeavesTheOldNumber) {
+    auto odd = event("odd", "25 June 2030");
+    store(odd);
+    auto& future = list(ListType::Future);
+    const std::string before = card(future, 0).timeLabel.text();
+    program.services().coreDataStack().updateDateAndTime(*odd.id, odd.dateEvent, {}, 5, 0, true);
+    ASSERT_FALSE(program.console.printed("nul"));
+    future.collection.reloadData();
+    EXPECT_EQ(card(future, 0).timeLabel.text(), before);
+    EXPECT_TRUE(program.console.printed("nul"));
+}
+
+TEST_F(ListTest, RowsThatBreakTheRecordStopTheProgram) {
+    const std::pair<const char*, void (*)(EventItem&)> cases[] = {
+        {"no background", [](EventItem& item) { item.color = NO_VALUE; }},
+        {"a colour beyond the table", [](EventItem& item) { item.color = 30; }},
+        {"a gradient below the table",
+         [](EventItem& item) { item.color = NO_VALUE, item.gradient = std::int16_t{-1}; }},
+        {"no title", [](EventItem& item) { item.title.reset(); }},
+        {"no date", [](EventItem& item) { item.dateEvent.reset(); }},
+        {"a date in another language", [](EventItem& item) { item.dateEvent = "25 Juni 2030"; }},
+        {"a time that is none", [](EventItem& item) { item.timeEvent = "25:00"; }},
+        {"no identity", [](EventItem& item) { item.id.reset(); }},
+    };
+    for (const auto& [what, spoil] : cases) {
+        EventItem broken = event("broken", "25 June 2030");
+        spoil(broken);
+        EventCell cell(program.services());
+        EventRecord record;
+        record.title = broken.title;
+        record.dateEvent = broken.dateEvent;
+        record.timeEvent = broken.timeEvent;
+        record.color = *broken.color;
+        record.gradient = *broken.gradient;
+        record.id = broken.id;
+        EXPECT_THROW(cell.configure(EventCoreData(record)), fakes::ProgramStopped) << what;
+    }
+}
+
+TEST_F(ListTest, AnEmptyTimeIsNoTime) {
+    auto finished = event("finished", "20 June 2030", "");
+    finished.eventType = false;
+    store(finished);
+    EXPECT_EQ(card(list(ListType::Past), 0).timeLabel.text(), "Since 34\nHours");
+}
+
+TEST_F(ListTest, WhatIsNotThereYetDoesNothing) {
+    store(event("tapped", "25 June 2030"));
+    auto& future = list(ListType::Future);
+    future.collection.tapItem(0);
+    future.settingButton.tap();
+    EXPECT_EQ(program.stack().screens().size(), 1U);
+}
+
+TEST_F(ListTest, LargeScreensGetLargerType) {
+    program.screen.resize({834, 1194}, 2);
+    program.restart();
+    store(event("large", "25 June 2030"));
+    auto& future = list(ListType::Future);
+    EXPECT_EQ(future.mainlabel.font().size, 25);
+    const auto& runs = card(future, 0).eventInformationLabel.styledText().runs;
+    EXPECT_EQ(runs[0].font, (ui::Font{30, ui::FontWeight::Semibold}));
+    EXPECT_EQ(runs[1].font, (ui::Font{24, ui::FontWeight::Regular}));
+}
+
+} // namespace
+} // namespace tessivo

@@ -1,0 +1,61 @@
+#include "Event/CoreDataStack.h"
+#include "Event/EventItem.h"
+#include "Extension/TabBar/CustomTabBarController.h"
+#include "MainVC/MainViewController.h"
+#include "Ports/SavedSettings.h"
+#include "Support/SettingKeys.h"
+#include "support/Program.h"
+
+#include <gmock/gmock.h>
+
+namespace tessivo {
+namespace {
+
+class StartTest : public testing::Test {
+protected:
+    SavedSettings& settings() { return program.services().platform().settings; }
+
+    ListType firstList() {
+        auto& tabs = program.top<CustomTabBarController>();
+        return dynamic_cast<MainViewController&>(*tabs.selectedViewController()).type;
+    }
+
+    Program program;
+};
+
+TEST_F(StartTest, TheFirstLaunchFillsTheSettings) {
+    EXPECT_EQ(settings().integer(settingKeys::defaultScreen), 0);
+    EXPECT_EQ(settings().integer(settingKeys::eventSize), 1);
+    EXPECT_EQ(settings().integer(settingKeys::secondOpen), 1);
+    EXPECT_EQ(settings().boolean(settingKeys::isFirstLaunch), true);
+    EXPECT_EQ(firstList(), ListType::Past);
+}
+
+TEST_F(StartTest, LaterLaunchesCountAndKeepWhatWasChosen) {
+    settings().setInteger(settingKeys::eventSize, 2);
+    settings().setInteger(settingKeys::defaultScreen, 1);
+    program.restart();
+    program.restart();
+    EXPECT_EQ(settings().integer(settingKeys::secondOpen), 3);
+    EXPECT_EQ(settings().integer(settingKeys::eventSize), 2);
+    EXPECT_EQ(firstList(), ListType::Future);
+}
+
+TEST_F(StartTest, ALaunchMovesWhatHasPassedMeanwhile) {
+    EventItem item;
+    item.title = "Train";
+    item.dateEvent = "21 June 2030";
+    item.timeEvent = "11:00 AM";
+    item.repEvent = item.timeFormat = 0;
+    item.alertReminder = item.repReminder = item.gradient = NO_VALUE;
+    item.color = 3;
+    item.eventType = true;
+    item.id = program.services().platform().uuids.random();
+    program.services().coreDataStack().addEvent(item);
+    program.timeline.setWall(program.timeline.now() + Seconds(3600));
+    program.restart();
+    EXPECT_FALSE(program.services().coreDataStack().fetchEvent(*item.id)->eventType());
+}
+
+} // namespace
+} // namespace tessivo
