@@ -103,8 +103,11 @@ TEST(IcuDateFormatters, AFormatterReadsOnAfterAFailure) {
     EXPECT_THAT(date->date("01 January 1970"), Optional(Eq(instantAt(0))));
 }
 
-TEST(IcuDateFormatters, AWallTimeThatComesTwiceIsTheFirst) {
+TEST(IcuDateFormatters, AWallTimeThatAClockChangeSkipsIsTheChangeAndOneThatComesTwiceTheFirst) {
     const IcuDateFormatters formatters("en_US", "Europe/Berlin");
+    for (const char* skipped : {"30 March 2025 2:00 AM", "30 March 2025 2:30 AM", "30 March 2025 3:00 AM"})
+        EXPECT_THAT(formatters.make(fullFormat)->date(skipped), Optional(Eq(instantAt(1'743'296'400))))
+            << skipped;
     EXPECT_THAT(formatters.make(fullFormat)->date("26 October 2025 2:30 AM"),
                 Optional(Eq(instantAt(1'761'438'600))));
 }
