@@ -40,9 +40,9 @@ int bindAttributes(Statement& statement, const EventAttributes& attributes, cons
 } // namespace
 
 /// The open file and its statements, each prepared at its first use.
-class SqliteEventStore::Session final {
+class SqliteEventStore::OpenFile final {
 public:
-    explicit Session(Database database) : database_(std::move(database)) {}
+    explicit OpenFile(Database database) : database_(std::move(database)) {}
 
     Outcome fetch(const std::optional<Uuid>& id, EventRowReceiver& rows) {
         const std::string select = "SELECT key, " + columnList() + " FROM events";
@@ -137,19 +137,19 @@ SqliteEventStore::SqliteEventStore(std::filesystem::path file) : file_(std::move
 SqliteEventStore::~SqliteEventStore() = default;
 
 std::optional<LoadFailure> SqliteEventStore::load() {
-    if (session_)
+    if (open_)
         return std::nullopt;
     auto database = Database::open(file_, eventSchema);
     if (!database) {
         const Error& error = database.error();
         return LoadFailure{error, {{"code", std::to_string(error.code)}, {"file", file_.string()}}};
     }
-    session_ = std::make_unique<Session>(std::move(database.value()));
+    open_ = std::make_unique<OpenFile>(std::move(database.value()));
     return std::nullopt;
 }
 
 Outcome SqliteEventStore::fetch(std::optional<std::string_view> predicate, EventRowReceiver& rows) {
-    if (!session_)
+    if (!open_)
         return Error{"SQLite", SQLITE_MISUSE, "the store is not loaded"};
     std::optional<Uuid> id;
     if (predicate) {
@@ -157,13 +157,13 @@ Outcome SqliteEventStore::fetch(std::optional<std::string_view> predicate, Event
         if (!id)
             return Error{"SQLite", SQLITE_ERROR, "the predicate cannot be read: " + std::string(*predicate)};
     }
-    return session_->fetch(id, rows);
+    return open_->fetch(id, rows);
 }
 
 Outcome SqliteEventStore::save(std::span<EventChange> changes) {
-    if (!session_)
+    if (!open_)
         return Error{"SQLite", SQLITE_MISUSE, "the store is not loaded"};
-    return session_->save(changes);
+    return open_->save(changes);
 }
 
 } // namespace tessivo::sqlite

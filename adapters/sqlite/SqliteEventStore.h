@@ -19,10 +19,10 @@ public:
     Outcome save(std::span<EventChange> changes) override;
 
 private:
-    class Session;
+    class OpenFile;
 
     std::filesystem::path file_;
-    std::unique_ptr<Session> session_; ///< none until the store is loaded
+    std::unique_ptr<OpenFile> open_; ///< none until the store is loaded
 };
 
 } // namespace tessivo::sqlite

@@ -10,6 +10,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <ostream>
 #include <vector>
 
 namespace tessivo {
@@ -24,6 +25,10 @@ struct Implementation {
     const char* name;
     std::function<std::unique_ptr<EventStore>(const std::filesystem::path&)> make;
 };
+
+void PrintTo(const Implementation& implementation, std::ostream* stream) {
+    *stream << implementation.name;
+}
 
 const Implementation implementations[] = {
     {"Memory", [](const auto&) { return std::make_unique<fakes::MemoryEventStore>(); }},

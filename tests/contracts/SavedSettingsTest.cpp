@@ -10,6 +10,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <ostream>
 
 namespace tessivo {
 namespace {
@@ -27,6 +28,10 @@ struct Implementation {
 
 Made openSqlite(const std::filesystem::path& file, Console& console) {
     return std::make_unique<sqlite::SqliteSavedSettings>(file, console);
+}
+
+void PrintTo(const Implementation& implementation, std::ostream* stream) {
+    *stream << implementation.name;
 }
 
 const Implementation implementations[] = {
