@@ -21,4 +21,9 @@ std::shared_ptr<ui::ViewController> Screens::makeSettings(std::function<void()>)
     return nullptr;
 }
 
+void Screens::openNotificationSettings() {
+    if (openNotificationSettings_)
+        openNotificationSettings_();
+}
+
 } // namespace tessivo

@@ -18,9 +18,15 @@ public:
     makeFullEvent(std::shared_ptr<EventCoreData> record) override;
     [[nodiscard]] std::shared_ptr<ui::ViewController>
     makeSettings(std::function<void()> sizeChanged) override;
-    void openNotificationSettings() override {}
+    void openNotificationSettings() override;
+
+    /// What `openNotificationSettings` does.
+    void onOpenNotificationSettings(std::function<void()> open) {
+        openNotificationSettings_ = std::move(open);
+    }
 
 private:
+    std::function<void()> openNotificationSettings_;
     SharedServices* services_ = nullptr;
 };
 
