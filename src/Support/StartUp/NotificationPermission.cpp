@@ -3,6 +3,8 @@
 #include "Interface/AlertController.h"
 #include "SettingVC/NotificationSettingsController.h"
 
+#include <algorithm>
+
 namespace tessivo {
 
 NotificationPermission::NotificationPermission(ui::PresentationStack& stack, NotificationCenter& center,
@@ -35,8 +37,12 @@ void NotificationPermission::show(std::shared_ptr<ui::ViewController> screen) {
 void NotificationPermission::showWaiting() {
     if (waiting_.empty() || stack_.isInTransition() || !stack_.top())
         return;
+    if (const auto standing = standing_.lock();
+        standing && std::ranges::count(stack_.screens(), standing) > 0)
+        return;
     const auto next = waiting_.front();
     waiting_.pop_front();
+    standing_ = next;
     stack_.top()->present(next);
 }
 

@@ -34,6 +34,7 @@ private:
     MainQueue& mainQueue_;
     std::function<void(bool)> changeAnswer_;
     std::deque<std::shared_ptr<ui::ViewController>> waiting_;
+    std::weak_ptr<ui::ViewController> standing_; ///< one at a time
     Subscription stackChanges_;
 };
 
