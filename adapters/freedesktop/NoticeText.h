@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessivo::freedesktop {
+
+/// `text` with what the bus would refuse, bytes that are no UTF-8 and zeros, replaced by U+FFFD.
+[[nodiscard]] std::string validText(std::string_view text);
+
+/// `text` such that a desktop which reads markup shows it as it stands.
+[[nodiscard]] std::string escapedMarkup(std::string_view text);
+
+} // namespace tessivo::freedesktop

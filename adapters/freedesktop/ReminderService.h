@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Ports/Error.h"
+#include "freedesktop/Handles.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace tessivo::freedesktop {
+
+class SessionBus;
+
+/// Whether version `left` ("1.10.2") comes after `right`. A part that is no number counts as 0.
+[[nodiscard]] bool isNewerVersion(std::string_view left, std::string_view right);
+
+/// The helper's place on the bus: at most one process has it, and only that one shows reminders. The bus must
+/// outlive it.
+///
+/// A newer helper that finds an older one in its place asks it to hand over, waits in the bus's line for the
+/// name, and begins when it gets it, be it that the older has finished or has died.
+class ReminderService final {
+public:
+    /// Called on the loop's thread.
+    struct Events {
+        std::function<void()> begun;        ///< this process has the place now
+        std::function<void()> queueChanged; ///< the program has changed the queue
+        std::function<void()> handOver;     ///< a newer helper waits for this one to end
+    };
+
+    ReminderService(SessionBus& bus, std::string version, Events events);
+    ReminderService(const ReminderService&) = delete;
+    ReminderService& operator=(const ReminderService&) = delete;
+
+    /// Asks for the place. True says that it is given, or will be; false that a helper which is as new has
+    /// it. `begun` is called in a later turn of the loop.
+    [[nodiscard]] Result<bool> claim();
+
+private:
+    static int queueChanged(sd_bus_message* call, void* data, sd_bus_error*);
+    static int handOver(sd_bus_message* call, void* data, sd_bus_error*);
+    static int nameAcquired(sd_bus_message* signal, void* data, sd_bus_error*);
+
+    [[nodiscard]] bool ownerHandsOver();
+
+    static const sd_bus_vtable vtable[];
+
+    SessionBus& bus_;
+    std::string version_;
+    Events events_;
+    Owned<sd_bus_slot> object_;
+    Owned<sd_bus_slot> acquired_;
+};
+
+/// Tells the helper that the queue has changed, and starts it where it does not run and the desktop knows
+/// how. Does nothing without a session bus. Any thread; blocks for the moment that it takes to reach the bus.
+void tellReminderHelper();
+
+} // namespace tessivo::freedesktop
