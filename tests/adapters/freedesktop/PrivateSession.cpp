@@ -1,0 +1,89 @@
+#include "PrivateSession.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+
+namespace tessivo {
+namespace {
+
+constexpr const char* busConfiguration = R"(<busconfig>
+  <type>session</type>
+  <listen>unix:dir=%</listen>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+)";
+
+/// The first line that a program prints, which goes on running.
+std::string firstLine(Process& process, const std::vector<std::string>& command) {
+    std::array<int, 2> ends{};
+    if (::pipe(ends.data()) != 0)
+        throw std::runtime_error("no pipe");
+    process = Process(command, ends[1]);
+    ::close(ends[1]);
+    std::string line;
+    for (char character = 0; ::read(ends[0], &character, 1) == 1 && character != '\n';)
+        line += character;
+    ::close(ends[0]);
+    return line;
+}
+
+bool isInstalled(const char* program) {
+    return !outputOf({"which", program}).empty();
+}
+
+} // namespace
+
+bool PrivateSession::isPossible() {
+    return isInstalled("dbus-daemon") && isInstalled("Xvfb") && isInstalled("dunst") && isInstalled("busctl");
+}
+
+PrivateSession::PrivateSession() {
+    ::setenv("XDG_DATA_HOME", folder_.path().c_str(), 1);
+    ::setenv("XDG_CONFIG_HOME", folder_.path().c_str(), 1);
+    startBus();
+    startDisplay();
+}
+
+void PrivateSession::startBus() {
+    const auto file = folder_ / "bus.conf";
+    std::string configuration = busConfiguration;
+    configuration.replace(configuration.find('%'), 1, folder_.path().string());
+    std::ofstream(file) << configuration;
+    const auto address =
+        firstLine(bus_, {"dbus-daemon", "--nofork", "--print-address", "--config-file=" + file.string()});
+    ::setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
+}
+
+void PrivateSession::startDisplay() {
+    const auto number =
+        firstLine(display_, {"Xvfb", "-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp"});
+    ::setenv("DISPLAY", (":" + number).c_str(), 1);
+}
+
+void PrivateSession::startDaemon() {
+    daemon_ = Process({"dunst"});
+    if (!eventually([] { return isOnBus("org.freedesktop.Notifications"); }))
+        throw std::runtime_error("The notification daemon does not come up");
+}
+
+bool PrivateSession::isOnBus(const std::string& name) {
+    return outputOf({"busctl", "--user", "list", "--acquired", "--no-legend"}).find(name + " ") !=
+           std::string::npos;
+}
+
+bool PrivateSession::hasShown(const std::string& title, const std::string& body) const {
+    (void)outputOf({"dunstctl", "close-all"}); // only what is closed is in the history
+    const auto history = outputOf({"dunstctl", "history"});
+    return history.find("\"data\" : \"" + title + "\"") != std::string::npos &&
+           history.find("\"data\" : \"" + body + "\"") != std::string::npos;
+}
+
+} // namespace tessivo

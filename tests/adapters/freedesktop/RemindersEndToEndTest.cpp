@@ -1,0 +1,172 @@
+#include "PrivateSession.h"
+#include "fakes/RecordingConsole.h"
+#include "fakes/Timeline.h"
+#include "freedesktop/BusNames.h"
+#include "freedesktop/DataFolder.h"
+#include "freedesktop/EventLoop.h"
+#include "freedesktop/FreedesktopNotificationCenter.h"
+#include "freedesktop/ReminderService.h"
+#include "freedesktop/SessionBus.h"
+#include "icu/IcuCalendar.h"
+#include "sqlite/SqliteNotificationQueue.h"
+#include "standard/SystemClock.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <future>
+#include <memory>
+
+namespace tessivo::freedesktop {
+namespace {
+
+/// The built helper and the program's side of the queue, on a session of their own. Here real time passes.
+class RemindersEndToEndTest : public testing::Test {
+protected:
+    void SetUp() override {
+        if (!PrivateSession::isPossible())
+            GTEST_SKIP() << "This machine has no dbus-daemon, Xvfb, dunst or busctl";
+        session = std::make_unique<PrivateSession>();
+        queue = std::make_unique<sqlite::SqliteNotificationQueue>(reminderQueueFile(), console);
+        center = std::make_unique<FreedesktopNotificationCenter>(
+            *queue, calendar, line, [](const auto& answer) { answer(true); }, tellReminderHelper);
+    }
+
+    void startHelper() {
+        helper = Process({TESSIVO_HELPER});
+        ASSERT_TRUE(eventually([] { return PrivateSession::isOnBus(remindersName); }));
+    }
+
+    Outcome add(const std::string& title, const std::string& body, double fromNow) {
+        std::promise<Outcome> added;
+        const auto fields = calendar.components(clock.now() + Seconds(fromNow));
+        center->add({title, {title, body, true}, {fields, false}},
+                    [&](const Outcome& error) { added.set_value(error); });
+        return added.get_future().get();
+    }
+
+    [[nodiscard]] bool arrives(const std::string& title, const std::string& body) const {
+        return eventually([&] { return session->hasShown(title, body); });
+    }
+
+    std::unique_ptr<PrivateSession> session;
+    fakes::RecordingConsole console;
+    fakes::Timeline line;
+    SystemClock clock;
+    IcuCalendar calendar;
+    std::unique_ptr<sqlite::SqliteNotificationQueue> queue;
+    std::unique_ptr<FreedesktopNotificationCenter> center;
+    Process helper;
+};
+
+TEST_F(RemindersEndToEndTest, AReminderArrivesThoughTheHelperWasKilledMeanwhile) {
+    session->startDaemon();
+    startHelper();
+    ASSERT_EQ(add("Tea & cake", "at <b>Anna's</b>", 3), std::nullopt);
+    helper.kill();
+    startHelper();
+    EXPECT_TRUE(arrives("Tea & cake", "at &lt;b&gt;Anna's&lt;/b&gt;"));
+    EXPECT_TRUE(eventually([&] { return queue->pending().value()->empty(); }));
+}
+
+TEST_F(RemindersEndToEndTest, AReminderWaitsForADaemonAndForTheNextOne) {
+    startHelper();
+    ASSERT_EQ(add("Early", "bird", -5), std::nullopt);
+    session->startDaemon();
+    EXPECT_TRUE(arrives("Early", "bird"));
+    session->killDaemon();
+    ASSERT_EQ(add("Late", "owl", -5), std::nullopt);
+    session->startDaemon();
+    EXPECT_TRUE(arrives("Late", "owl"));
+}
+
+/// Notes that it was activated, under the name of the program.
+int activated(sd_bus_message* call, void* data, sd_bus_error*) {
+    *static_cast<bool*>(data) = true;
+    return sd_bus_reply_method_return(call, nullptr);
+}
+
+TEST_F(RemindersEndToEndTest, AClickOpensTheProgram) {
+    static const sd_bus_vtable program[] = {
+        SD_BUS_VTABLE_START(0), SD_BUS_METHOD("Activate", "a{sv}", "", activated, SD_BUS_VTABLE_UNPRIVILEGED),
+        SD_BUS_VTABLE_END};
+    auto loop = EventLoop::make();
+    ASSERT_TRUE(loop);
+    auto bus = SessionBus::open(loop.value());
+    ASSERT_TRUE(bus) << bus.error().description;
+    bool opened = false;
+    ASSERT_GE(sd_bus_add_object_vtable(bus.value().handle(), nullptr, applicationPath,
+                                       "org.freedesktop.Application", program, &opened),
+              0);
+    ASSERT_GE(sd_bus_request_name(bus.value().handle(), applicationId, 0), 0);
+
+    session->startDaemon();
+    startHelper();
+    ASSERT_EQ(add("Click", "me", -5), std::nullopt);
+    ASSERT_TRUE(eventually([&] { return queue->pending().value()->empty(); }));
+    (void)outputOf({"dunstctl", "action", "0"});
+    EXPECT_TRUE(eventually([&] {
+        sd_event_run(loop.value().handle(), 0);
+        return opened;
+    }));
+}
+
+TEST_F(RemindersEndToEndTest, ASecondHelperLeavesTheFirstAlone) {
+    startHelper();
+    Process second({TESSIVO_HELPER});
+    std::optional<int> code;
+    EXPECT_TRUE(eventually([&] { return (code = second.exitCode()).has_value(); }));
+    EXPECT_EQ(code, 0);
+    EXPECT_EQ(helper.exitCode(), std::nullopt);
+}
+
+TEST_F(RemindersEndToEndTest, AnOlderHelperHandsOverToANewerOne) {
+    startHelper();
+    auto loop = EventLoop::make();
+    ASSERT_TRUE(loop);
+    auto bus = SessionBus::open(loop.value());
+    ASSERT_TRUE(bus) << bus.error().description;
+    bool begun = false;
+    ReminderService newer(bus.value(), "99.0", {[&] { begun = true; }, [] {}, [] {}});
+    const auto claimed = newer.claim();
+    ASSERT_TRUE(claimed) << claimed.error().description;
+    EXPECT_TRUE(claimed.value());
+    EXPECT_TRUE(eventually([&] {
+        sd_event_run(loop.value().handle(), 0);
+        return begun;
+    }));
+    std::optional<int> code;
+    EXPECT_TRUE(eventually([&] { return (code = helper.exitCode()).has_value(); }));
+    EXPECT_EQ(code, 0);
+}
+
+TEST_F(RemindersEndToEndTest, AHelperWhoseProgramIsReplacedGoesOnAsTheNewOne) {
+    const auto program = session->folder() / "tessivo-reminders";
+    std::filesystem::copy(TESSIVO_HELPER, program);
+    helper = Process({program});
+    ASSERT_TRUE(eventually([] { return PrivateSession::isOnBus(remindersName); }));
+    std::filesystem::copy(TESSIVO_HELPER, program.string() + ".new");
+    std::filesystem::rename(program.string() + ".new", program);
+    const auto running = "/proc/" + std::to_string(helper.id()) + "/exe";
+    EXPECT_TRUE(eventually([&] {
+        std::error_code ignored;
+        return std::filesystem::equivalent(running, program, ignored);
+    }));
+    EXPECT_TRUE(eventually([] { return PrivateSession::isOnBus(remindersName); }));
+    helper.terminate();
+    std::optional<int> code;
+    EXPECT_TRUE(eventually([&] { return (code = helper.exitCode()).has_value(); }));
+    EXPECT_EQ(code, 0);
+}
+
+TEST(RemindersWithoutBusTest, TheHelperEndsAndTheProgramGoesOn) {
+    ::setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere", 1);
+    tellReminderHelper();
+    Process helper({TESSIVO_HELPER});
+    std::optional<int> code;
+    EXPECT_TRUE(eventually([&] { return (code = helper.exitCode()).has_value(); }));
+    EXPECT_EQ(code, 1);
+}
+
+} // namespace
+} // namespace tessivo::freedesktop
