@@ -1,0 +1,215 @@
+#include "freedesktop/FreedesktopNotificationCenter.h"
+
+#include "Event/CoreDataStack.h"
+#include "Event/EventItem.h"
+#include "Event/FetchEventDataType.h"
+#include "Event/ReminderScheduler.h"
+#include "fakes/FakeNotificationQueue.h"
+#include "fakes/MemoryEventStore.h"
+#include "fakes/RecordingConsole.h"
+#include "fakes/Timeline.h"
+#include "icu/IcuCalendar.h"
+#include "icu/IcuDateFormatters.h"
+
+#include <gmock/gmock.h>
+
+#include <future>
+#include <memory>
+#include <optional>
+
+namespace tessivo::freedesktop {
+namespace {
+
+using testing::ElementsAre;
+
+class FreedesktopNotificationCenterTest : public testing::Test {
+protected:
+    static NotificationRequest request(const std::string& identifier,
+                                       const DateComponents& components = {2027, 1, 31, 9, 0, {}}) {
+        return {identifier, {"Title", "words", true}, {components, false}};
+    }
+
+    Outcome add(const NotificationRequest& added) {
+        std::promise<Outcome> outcome;
+        center->add(added, [&](const Outcome& error) { outcome.set_value(error); });
+        return outcome.get_future().get();
+    }
+
+    std::vector<std::string> identifiers() const {
+        std::vector<std::string> all;
+        for (const auto& queued : *disk.pending)
+            all.push_back(queued.request.identifier);
+        return all;
+    }
+
+    fakes::Timeline line{instantAt(1'800'000'000)};
+    IcuCalendar calendar{"en_US", "America/New_York"};
+    fakes::QueueDisk disk;
+    fakes::FakeNotificationQueue queue{disk};
+    std::vector<std::function<void(bool)>> questions;
+    int timesTold = 0;
+    std::optional<FreedesktopNotificationCenter> center{
+        std::in_place,
+        queue,
+        calendar,
+        line,
+        [this](auto answer) { questions.push_back(std::move(answer)); },
+        [this] { ++timesTold; }};
+};
+
+struct ComponentsCase {
+    const char* name;
+    DateComponents components;
+    bool isMoment;
+};
+
+class ComponentsTest : public FreedesktopNotificationCenterTest,
+                       public testing::WithParamInterface<ComponentsCase> {};
+
+TEST_P(ComponentsTest, AreRefusedWhereTheyNameNoMoment) {
+    EXPECT_EQ(add(request("a", GetParam().components)) == std::nullopt, GetParam().isMoment);
+    center->finish();
+    EXPECT_EQ(disk.pending->size(), GetParam().isMoment ? 1U : 0U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, ComponentsTest,
+                         testing::Values(ComponentsCase{"ADay", {2027, 1, 31, {}, {}, {}}, true},
+                                         ComponentsCase{
+                                             "TheLastSecondOfADay", {2027, 1, 31, 23, 59, 59}, true},
+                                         ComponentsCase{"LeapDay", {2028, 2, 29, 0, 0, {}}, true},
+                                         ComponentsCase{"GoneBy", {1999, 1, 1, 0, 0, {}}, true},
+                                         ComponentsCase{"SkippedByTheClocks", {2027, 3, 14, 2, 30, {}}, true},
+                                         ComponentsCase{"NoLeapYear", {2027, 2, 29, 0, 0, {}}, false},
+                                         ComponentsCase{"MonthZero", {2027, 0, 1, 0, 0, {}}, false},
+                                         ComponentsCase{"DayZero", {2027, 1, 0, 0, 0, {}}, false},
+                                         ComponentsCase{"Month13", {2027, 13, 1, 0, 0, {}}, false},
+                                         ComponentsCase{"Hour24", {2027, 1, 1, 24, 0, {}}, false},
+                                         ComponentsCase{"MinuteBelowZero", {2027, 1, 1, 0, -1, {}}, false},
+                                         ComponentsCase{"Second60", {2027, 1, 1, 0, 0, 60}, false},
+                                         ComponentsCase{"NoYear", {{}, 1, 1, 0, 0, {}}, false},
+                                         ComponentsCase{"Nothing", {}, false}),
+                         [](const auto& test) { return test.param.name; });
+
+TEST_F(FreedesktopNotificationCenterTest, CompletionsStayOffTheMainThread) {
+    std::promise<std::thread::id> thread;
+    center->getNotificationSettings(
+        [&](AuthorizationStatus) { thread.set_value(std::this_thread::get_id()); });
+    EXPECT_NE(thread.get_future().get(), std::this_thread::get_id());
+}
+
+TEST_F(FreedesktopNotificationCenterTest, TellsTheHelperOnceWhenTheWorkIsDoneAndNotForMereLooks) {
+    center->getPendingNotificationRequests([](const auto&) {});
+    center->getNotificationSettings([](AuthorizationStatus) {});
+    center->finish();
+    EXPECT_EQ(timesTold, 0);
+
+    center.emplace(
+        queue, calendar, line, [](const auto&) {}, [this] { ++timesTold; });
+    std::promise<void> go;
+    center->getNotificationSettings([ready = go.get_future().share()](AuthorizationStatus) { ready.wait(); });
+    for (const auto* identifier : {"a", "b", "c"})
+        center->add(request(identifier), [](const Outcome&) {});
+    center->removePendingNotificationRequests({"a"});
+    go.set_value();
+    center->finish();
+    EXPECT_EQ(timesTold, 1);
+    EXPECT_THAT(identifiers(), ElementsAre("b", "c"));
+}
+
+TEST_F(FreedesktopNotificationCenterTest, FinishDoesAlsoWhatCompletionsAskFor) {
+    center->getPendingNotificationRequests([&](const auto&) {
+        center->add(request("a"), [&](const Outcome&) {
+            center->removePendingNotificationRequests({"a"});
+            center->add(request("b"), [](const Outcome&) {});
+        });
+    });
+    center->finish();
+    EXPECT_THAT(identifiers(), ElementsAre("b"));
+}
+
+TEST_F(FreedesktopNotificationCenterTest, DestroyingItAtWorkCallsNothingAfterwards) {
+    auto stillThere = std::make_shared<bool>(true);
+    for (int number = 0; number < 1000; ++number)
+        center->getNotificationSettings([stillThere](AuthorizationStatus) { EXPECT_TRUE(*stillThere); });
+    center.reset();
+    *stillThere = false;
+    EXPECT_EQ(stillThere.use_count(), 1);
+}
+
+TEST_F(FreedesktopNotificationCenterTest, TheSettingsPageAnswersAnOpenQuestionAndMayChangeTheAnswer) {
+    std::promise<bool> answer;
+    center->requestAuthorization(7, [&](bool granted, const Outcome&) { answer.set_value(granted); });
+    center->setAuthorization(true);
+    EXPECT_TRUE(answer.get_future().get());
+    center->setAuthorization(false);
+    EXPECT_NE(add(request("a")), std::nullopt);
+    EXPECT_EQ(disk.authorization, AuthorizationStatus::Denied);
+}
+
+TEST_F(FreedesktopNotificationCenterTest, AnAnswerThatComesAfterTheEndIsIgnored) {
+    center->requestAuthorization(7, [](bool, const Outcome&) { FAIL(); });
+    center->finish();
+    line.runPosted();
+    ASSERT_EQ(questions.size(), 1U);
+    center.reset();
+    questions[0](true);
+    EXPECT_EQ(disk.authorization, AuthorizationStatus::NotDetermined);
+}
+
+TEST_F(FreedesktopNotificationCenterTest, AQueueThatFailsIsToldOrGivesNothing) {
+    EXPECT_EQ(add(request("a")), std::nullopt);
+    center->finish();
+    disk.writeFailure = Error{"SQLite", 13, "database or disk is full"};
+    disk.readFailure = Error{"SQLite", 10, "disk I/O error"};
+    center.emplace(
+        queue, calendar, line, [](const auto&) {}, [] {});
+    EXPECT_EQ(add(request("b")), disk.readFailure);
+    std::promise<std::size_t> size;
+    center->getPendingNotificationRequests([&](const auto& all) { size.set_value(all.size()); });
+    EXPECT_EQ(size.get_future().get(), 0U);
+    std::promise<Outcome> asked;
+    center->requestAuthorization(7, [&](bool granted, const Outcome& error) {
+        EXPECT_FALSE(granted);
+        asked.set_value(error);
+    });
+    EXPECT_EQ(asked.get_future().get(), disk.readFailure);
+}
+
+// The pass goes on on the main thread while the answers to its questions come on the center's.
+TEST_F(FreedesktopNotificationCenterTest, ThePassAndItsAnswersRunBesideEachOther) {
+    const IcuDateFormatters formatters("en_US", "America/New_York");
+    fakes::RecordingConsole console;
+    fakes::MemoryEventStore store;
+    CoreDataStack shared(store, console);
+    ReminderScheduler scheduler(*center, calendar, formatters, line, console);
+    FetchEventDataType pass(store, shared, scheduler, formatters, calendar, line, console);
+    constexpr int events = 60;
+    for (int number = 0; number < events; ++number) {
+        EventItem item;
+        item.title = std::to_string(number);
+        item.dateEvent = "0" + std::to_string(1 + number % 9) + " January 2027";
+        item.repEvent = static_cast<std::int16_t>(number % 2);
+        item.alertReminder = 0;
+        item.repReminder = 0;
+        item.remMess = "";
+        item.timeFormat = item.color = item.gradient = 0;
+        item.eventType = number % 3 != 0;
+        item.id = Uuid{{static_cast<std::uint8_t>(number)}};
+        shared.addEvent(item);
+    }
+    for (int minute = 0; minute < 20; ++minute) {
+        pass.refreshEvents();
+        for (const auto& event : shared.fetchEvents()) {
+            shared.updateTitle(*event->id(), "title of minute " + std::to_string(minute));
+            scheduler.editTitle(*event);
+        }
+        line.advance(Seconds(60));
+    }
+    center->finish();
+    EXPECT_EQ(disk.pending->size(), static_cast<std::size_t>(events));
+    for (const auto& queued : *disk.pending)
+        EXPECT_EQ(queued.request.content.title, "title of minute 19");
+}
+
+} // namespace
+} // namespace tessivo::freedesktop
