@@ -12,7 +12,8 @@ namespace {
 
 constexpr const char* busConfiguration = R"(<busconfig>
   <type>session</type>
-  <listen>unix:dir=%</listen>
+  <listen>unix:dir=FOLDER</listen>
+  <servicedir>FOLDER</servicedir>
   <policy context="default">
     <allow send_destination="*" eavesdrop="true"/>
     <allow eavesdrop="true"/>
@@ -55,7 +56,8 @@ PrivateSession::PrivateSession() {
 void PrivateSession::startBus() {
     const auto file = folder_ / "bus.conf";
     std::string configuration = busConfiguration;
-    configuration.replace(configuration.find('%'), 1, folder_.path().string());
+    for (const std::string_view place : {"FOLDER", "FOLDER"})
+        configuration.replace(configuration.find(place), place.size(), folder_.path().string());
     std::ofstream(file) << configuration;
     const auto address =
         firstLine(bus_, {"dbus-daemon", "--nofork", "--print-address", "--config-file=" + file.string()});

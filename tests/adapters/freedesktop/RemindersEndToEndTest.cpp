@@ -14,6 +14,7 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <fstream>
 #include <future>
 #include <memory>
 
@@ -78,6 +79,16 @@ TEST_F(RemindersEndToEndTest, AReminderWaitsForADaemonAndForTheNextOne) {
     ASSERT_EQ(add("Late", "owl", -5), std::nullopt);
     session->startDaemon();
     EXPECT_TRUE(arrives("Late", "owl"));
+}
+
+TEST_F(RemindersEndToEndTest, TheBusStartsTheHelperWhenTheQueueChanges) {
+    std::ofstream(session->folder() / "helper.service")
+        << "[D-BUS Service]\nName=" << remindersName << "\nExec=" << TESSIVO_HELPER << '\n';
+    (void)outputOf({"busctl", "--user", "call", "org.freedesktop.DBus", "/org/freedesktop/DBus",
+                    "org.freedesktop.DBus", "ReloadConfig"});
+    session->startDaemon();
+    ASSERT_EQ(add("Start", "me", -5), std::nullopt);
+    EXPECT_TRUE(arrives("Start", "me"));
 }
 
 /// Notes that it was activated, under the name of the program.
