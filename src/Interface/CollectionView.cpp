@@ -66,9 +66,9 @@ void CollectionView::moveItems(int from, int by) {
 
 void CollectionView::invalidateLayout() {
     prepareLayout();
+    showVisibleCells();
     for (const auto& [item, cell] : visible_)
         cell->place(layout_->frame(item));
-    showVisibleCells();
     visibleCellsChanges_.emit();
 }
 

@@ -1,17 +1,11 @@
 #pragma once
 
 #include "Interface/View.h"
-
-#include <cstdint>
+#include "Ports/Bitmap.h"
 
 namespace tessivo::ui {
 
-/// A picture in memory: rows of red, green, blue, alpha bytes without gaps, alpha not premultiplied.
-struct Bitmap {
-    int width = 0;
-    int height = 0;
-    std::vector<std::uint8_t> pixels;
-};
+using tessivo::Bitmap;
 
 /// A picture of the program's resources by its name, or one that was loaded; empty of both is no picture.
 struct Image {

@@ -61,7 +61,7 @@ private:
 };
 
 /// Editable text of one line, with a placeholder that shows while it is empty.
-class TextField final : public TextInput {
+class TextField : public TextInput {
 public:
     using TextInput::TextInput;
 

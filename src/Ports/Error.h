@@ -9,9 +9,10 @@ namespace tessivo {
 
 /// What went wrong outside the program, in the machine's own words.
 struct Error {
-    std::string domain;      ///< which part of the machine speaks: "SQLite", "NetworkService"
-    int code = 0;            ///< that part's own number
-    std::string description; ///< one sentence, as the console prints it
+    std::string domain;          ///< which part of the machine speaks: "SQLite", "NetworkService"
+    int code = 0;                ///< that part's own number
+    std::string description;     ///< one sentence, as the console prints it
+    std::string failureReason{}; ///< what may lie behind it, where that is known
 
     friend bool operator==(const Error&, const Error&) = default;
 };

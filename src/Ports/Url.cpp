@@ -1,0 +1,179 @@
+#include "Ports/Url.h"
+
+#include <algorithm>
+
+namespace tessivo {
+namespace {
+
+constexpr std::string_view pathMarks = "-._~!$&'()*+,;=:@/";
+constexpr std::string_view queryMarks = "-._~!$&'()*+,;=:@/?";
+constexpr std::string_view queryItemMarks = "-._~!$'()*,;:@/?";
+constexpr std::string_view authorityMarks = "-._~!$&'()*+,;=:@[]";
+
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+constexpr bool isLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+constexpr int hexDigit(char c) {
+    if (isDigit(c))
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    return c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
+}
+
+bool isAllowed(char c, std::string_view marks) {
+    return isLetter(c) || isDigit(c) || marks.find(c) != std::string_view::npos;
+}
+
+bool isEscape(std::string_view text) {
+    return text.size() >= 3 && text[0] == '%' && hexDigit(text[1]) >= 0 && hexDigit(text[2]) >= 0;
+}
+
+/// Allowed characters and whole percent escapes only.
+bool isWellFormed(std::string_view text, std::string_view marks) {
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (isEscape(text.substr(at)))
+            at += 2;
+        else if (!isAllowed(text[at], marks))
+            return false;
+    }
+    return true;
+}
+
+std::string escaped(std::string_view text, std::string_view marks) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string result;
+    result.reserve(text.size());
+    for (const char c : text) {
+        if (isAllowed(c, marks)) {
+            result += c;
+            continue;
+        }
+        const auto byte = static_cast<unsigned char>(c);
+        result += '%';
+        result += digits[byte >> 4u];
+        result += digits[byte & 0xFu];
+    }
+    return result;
+}
+
+std::string unescaped(std::string_view text) {
+    std::string result;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (isEscape(text.substr(at))) {
+            result += static_cast<char>(hexDigit(text[at + 1]) * 16 + hexDigit(text[at + 2]));
+            at += 2;
+        } else {
+            result += text[at];
+        }
+    }
+    return result;
+}
+
+bool isScheme(std::string_view text) {
+    return !text.empty() && isLetter(text.front()) &&
+           std::ranges::all_of(text, [](char c) { return isAllowed(c, "+-."); });
+}
+
+bool isAuthority(std::string_view text) {
+    if (!isWellFormed(text, authorityMarks))
+        return false;
+    const std::string_view host = text.substr(text.find('@') + 1); // npos + 1 is 0
+    const auto colon = host.rfind(':');
+    if (colon == std::string_view::npos || host.find(']', colon) != std::string_view::npos)
+        return true;
+    return std::ranges::all_of(host.substr(colon + 1), isDigit);
+}
+
+/// Cuts `text` before the first of `marks` and gives what was cut off, mark included.
+std::string_view cutAt(std::string_view& text, std::string_view marks) {
+    const auto at = std::min(text.find_first_of(marks), text.size());
+    const std::string_view tail = text.substr(at);
+    text = text.substr(0, at);
+    return tail;
+}
+
+} // namespace
+
+std::optional<Url> Url::parse(std::string_view text) {
+    if (text.empty())
+        return std::nullopt;
+    Url url;
+    std::string_view rest = text;
+    std::string_view fragment = cutAt(rest, "#");
+    std::string_view query = cutAt(rest, "?");
+    if (!fragment.empty()) {
+        fragment.remove_prefix(1);
+        if (!isWellFormed(fragment, queryMarks))
+            return std::nullopt;
+        url.fragment_ = fragment;
+    }
+    if (!query.empty()) {
+        query.remove_prefix(1);
+        if (!isWellFormed(query, queryMarks))
+            return std::nullopt;
+        url.query_ = query;
+    }
+    if (const auto colon = rest.find(':'); colon < rest.find('/')) {
+        if (!isScheme(rest.substr(0, colon)))
+            return std::nullopt;
+        url.origin_ = rest.substr(0, colon + 1);
+        rest.remove_prefix(colon + 1);
+    }
+    if (rest.starts_with("//")) {
+        std::string_view authority = rest.substr(2);
+        const std::string_view path = cutAt(authority, "/");
+        if (!isAuthority(authority))
+            return std::nullopt;
+        url.origin_ += "//";
+        url.origin_ += authority;
+        rest = path;
+    }
+    if (!isWellFormed(rest, pathMarks))
+        return std::nullopt;
+    url.path_ = rest;
+    return url;
+}
+
+std::string Url::absoluteString() const {
+    std::string text = origin_ + path_;
+    if (query_)
+        text += "?" + *query_;
+    if (fragment_)
+        text += "#" + *fragment_;
+    return text;
+}
+
+std::string Url::lastPathComponent() const {
+    std::string_view path = path_;
+    while (path.size() > 1 && path.ends_with('/'))
+        path.remove_suffix(1);
+    if (path == "/")
+        return "/";
+    return unescaped(path.substr(path.rfind('/') + 1)); // npos + 1 is 0
+}
+
+Url Url::withPath(std::string_view path) const {
+    Url url = *this;
+    url.path_ = escaped(path, pathMarks);
+    return url;
+}
+
+Url Url::withQuery(std::string_view query) const {
+    Url url = *this;
+    url.query_ = escaped(query, queryMarks);
+    return url;
+}
+
+Url Url::appendingQueryItem(std::string_view name, std::string_view value) const {
+    Url url = *this;
+    const std::string before = query_ && !query_->empty() ? *query_ + "&" : "";
+    url.query_ = before + escaped(name, queryItemMarks) + "=" + escaped(value, queryItemMarks);
+    return url;
+}
+
+} // namespace tessivo
