@@ -39,17 +39,17 @@ bool listsMarkup(sd_bus_message* reply) {
 } // namespace
 
 DesktopNotificationDisplay::DesktopNotificationDisplay(SessionBus& bus) : bus_(bus) {
-    const auto match = [this](const char* sender, const char* path, const char* interface, const char* member,
-                              sd_bus_message_handler_t handler) {
+    const auto match = [this](const std::string& rule, sd_bus_message_handler_t handler) {
         take(matches_.emplace_back(), [&](auto made) {
-            return sd_bus_match_signal_async(bus_.handle(), made, sender, path, interface, member, handler,
-                                             nullptr, this);
+            return sd_bus_add_match_async(bus_.handle(), made, ("type='signal'," + rule).c_str(), handler,
+                                          nullptr, this);
         });
     };
-    match("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameOwnerChanged",
-          ownerChanged);
-    match(notificationsName, notificationsPath, notificationsName, "ActivationToken", activationTokenCame);
-    match(notificationsName, notificationsPath, notificationsName, "ActionInvoked", actionWasInvoked);
+    // Narrow rules: what does not match does not wake the process.
+    const std::string name = notificationsName;
+    match("sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0='" + name + "'", ownerChanged);
+    match("sender='" + name + "',interface='" + name + "',member='ActivationToken'", activationTokenCame);
+    match("sender='" + name + "',interface='" + name + "',member='ActionInvoked'", actionWasInvoked);
 }
 
 DesktopNotificationDisplay::~DesktopNotificationDisplay() = default;
@@ -128,10 +128,8 @@ int DesktopNotificationDisplay::ownerChanged(sd_bus_message* signal, void* data,
     const char* before = nullptr;
     const char* after = nullptr;
     auto& display = *static_cast<DesktopNotificationDisplay*>(data);
-    if (sd_bus_message_read(signal, "sss", &name, &before, &after) < 0 ||
-        std::string_view(name) != notificationsName)
-        return 0;
-    if (*after != '\0' && display.events_.available)
+    const bool isRead = sd_bus_message_read(signal, "sss", &name, &before, &after) >= 0;
+    if (isRead && *after != '\0' && display.events_.available)
         display.events_.available();
     return 0;
 }
