@@ -10,7 +10,8 @@ trap 'rm -rf "$folder"' EXIT
 XDG_DATA_HOME="$folder" dbus-run-session -- sh -c '
     "$1" &
     helper=$!
-    until busctl --user status org.tessivo.Tessivo.Reminders >/dev/null 2>&1; do :; done
+    until dbus-send --session --print-reply --dest=org.freedesktop.DBus /org/freedesktop/DBus \
+        org.freedesktop.DBus.GetNameOwner string:org.tessivo.Tessivo.Reminders >/dev/null 2>&1; do :; done
     wakes() { awk "/^voluntary_ctxt_switches/ { print \$2 }" "/proc/$helper/status"; }
     sleep 2 # the start, which opens the queue, is over
     before=$(wakes)

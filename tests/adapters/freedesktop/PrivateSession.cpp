@@ -1,5 +1,7 @@
 #include "PrivateSession.h"
 
+#include "freedesktop/Handles.h"
+
 #include <unistd.h>
 
 #include <array>
@@ -9,6 +11,9 @@
 
 namespace tessivo {
 namespace {
+
+using freedesktop::Owned;
+using freedesktop::take;
 
 constexpr const char* busConfiguration = R"(<busconfig>
   <type>session</type>
@@ -36,6 +41,20 @@ std::string firstLine(Process& process, const std::vector<std::string>& command)
     return line;
 }
 
+/// The bus's own answer; null where it gives none.
+Owned<sd_bus_message> callBus(const char* method, const char* argument) {
+    Owned<sd_bus> bus;
+    if (take(bus, [](auto made) { return sd_bus_open_user(made); }) < 0)
+        return nullptr;
+    constexpr const char* name = "org.freedesktop.DBus";
+    Owned<sd_bus_message> reply;
+    take(reply, [&](auto made) {
+        return sd_bus_call_method(bus.get(), name, "/org/freedesktop/DBus", name, method, nullptr, made,
+                                  argument != nullptr ? "s" : "", argument);
+    });
+    return reply;
+}
+
 bool isInstalled(const char* program) {
     return !outputOf({"which", program}).empty();
 }
@@ -43,7 +62,7 @@ bool isInstalled(const char* program) {
 } // namespace
 
 bool PrivateSession::isPossible() {
-    return isInstalled("dbus-daemon") && isInstalled("Xvfb") && isInstalled("dunst") && isInstalled("busctl");
+    return isInstalled("dbus-daemon") && isInstalled("Xvfb") && isInstalled("dunst");
 }
 
 PrivateSession::PrivateSession() {
@@ -77,8 +96,15 @@ void PrivateSession::startDaemon() {
 }
 
 bool PrivateSession::isOnBus(const std::string& name) {
-    return outputOf({"busctl", "--user", "list", "--acquired", "--no-legend"}).find(name + " ") !=
-           std::string::npos;
+    int has = 0;
+    const auto reply = callBus("NameHasOwner", name.c_str());
+    return reply && sd_bus_message_read(reply.get(), "b", &has) >= 0 && has != 0;
+}
+
+void PrivateSession::addService(const std::string& name, const std::string& program) {
+    std::ofstream(folder_ / "added.service")
+        << "[D-BUS Service]\nName=" << name << "\nExec=" << program << '\n';
+    (void)callBus("ReloadConfig", nullptr);
 }
 
 bool PrivateSession::hasShown(const std::string& title, const std::string& body) const {

@@ -25,6 +25,9 @@ public:
 
     [[nodiscard]] static bool isOnBus(const std::string& name);
 
+    /// From now on the bus starts `program` when somebody calls `name`.
+    void addService(const std::string& name, const std::string& program);
+
     [[nodiscard]] const TemporaryFolder& folder() const { return folder_; }
 
 private:

@@ -14,7 +14,6 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <fstream>
 #include <future>
 #include <memory>
 
@@ -26,7 +25,7 @@ class RemindersEndToEndTest : public testing::Test {
 protected:
     void SetUp() override {
         if (!PrivateSession::isPossible())
-            GTEST_SKIP() << "This machine has no dbus-daemon, Xvfb, dunst or busctl";
+            GTEST_SKIP() << "This machine has no dbus-daemon, Xvfb or dunst";
         session = std::make_unique<PrivateSession>();
         queue = std::make_unique<sqlite::SqliteNotificationQueue>(reminderQueueFile(), console);
         center = std::make_unique<FreedesktopNotificationCenter>(
@@ -82,10 +81,7 @@ TEST_F(RemindersEndToEndTest, AReminderWaitsForADaemonAndForTheNextOne) {
 }
 
 TEST_F(RemindersEndToEndTest, TheBusStartsTheHelperWhenTheQueueChanges) {
-    std::ofstream(session->folder() / "helper.service")
-        << "[D-BUS Service]\nName=" << remindersName << "\nExec=" << TESSIVO_HELPER << '\n';
-    (void)outputOf({"busctl", "--user", "call", "org.freedesktop.DBus", "/org/freedesktop/DBus",
-                    "org.freedesktop.DBus", "ReloadConfig"});
+    session->addService(remindersName, TESSIVO_HELPER);
     session->startDaemon();
     ASSERT_EQ(add("Start", "me", -5), std::nullopt);
     EXPECT_TRUE(arrives("Start", "me"));
