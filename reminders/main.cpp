@@ -34,7 +34,7 @@ Ending run(const std::filesystem::path& program, Console& console) {
     }
 
     const SystemClock clock;
-    const IcuCalendar calendar;
+    const IcuCalendar calendar(freedesktop::queueLocale);
     sqlite::SqliteNotificationQueue queue(freedesktop::reminderQueueFile(), console);
     freedesktop::DesktopNotificationDisplay display(bus.value());
     freedesktop::TimerfdAlarm alarm(loop.value());

@@ -11,4 +11,7 @@ namespace tessivo::freedesktop {
 /// The queue of reminders in it, which the program and the helper share.
 [[nodiscard]] std::filesystem::path reminderQueueFile();
 
+/// The locale whose calendar the days in that queue are of: the Gregorian, for everybody.
+inline constexpr const char* queueLocale = "en_US";
+
 } // namespace tessivo::freedesktop

@@ -15,23 +15,32 @@ bool isWithin(const std::optional<int>& value, int end) {
     return !value || (*value >= 0 && *value < end);
 }
 
-/// Whether there is such a day and such a time of day. A time that a clock change skips is one nevertheless.
-bool nameAMoment(const DateComponents& components, const Calendar& calendar) {
+/// The day of `components`, seen in another calendar; the time of day is the same in all. Where there is no
+/// such day or time, nothing. A time that a clock change skips is one nevertheless: noon tells a day, and is
+/// never skipped.
+std::optional<DateComponents> translated(const DateComponents& components, const Calendar& from,
+                                         const Calendar& to) {
     const auto& [year, month, day, hour, minute, second] = components;
     if (!year || !month || !day || !isWithin(hour, 24) || !isWithin(minute, 60) || !isWithin(second, 60))
-        return false;
-    const auto noon = calendar.components(calendar.date({year, month, day, 12, 0, 0}));
-    return noon.year == year && noon.month == month && noon.day == day;
+        return std::nullopt;
+    const auto noon = from.date({year, month, day, 12, 0, 0});
+    const auto back = from.components(noon);
+    if (back.year != year || back.month != month || back.day != day)
+        return std::nullopt;
+    const auto other = to.components(noon);
+    return DateComponents{other.year, other.month, other.day, hour, minute, second};
 }
 
 } // namespace
 
 FreedesktopNotificationCenter::FreedesktopNotificationCenter(NotificationQueue& queue,
-                                                             const Calendar& calendar, MainQueue& mainQueue,
-                                                             Question question,
+                                                             const Calendar& calendar,
+                                                             const Calendar& queueCalendar,
+                                                             MainQueue& mainQueue, Question question,
                                                              std::function<void()> queueChanged)
     : queue_(queue),
       calendar_(calendar),
+      queueCalendar_(queueCalendar),
       mainQueue_(mainQueue),
       question_(std::move(question)),
       queueChanged_(std::move(queueChanged)),
@@ -113,10 +122,13 @@ Outcome FreedesktopNotificationCenter::addToQueue(const NotificationRequest& req
         return status.error();
     if (status.value() == AuthorizationStatus::Denied)
         return centerError(1, "Notifications are not allowed");
-    if (!nameAMoment(request.trigger.dateComponents, calendar_))
+    const auto components = translated(request.trigger.dateComponents, calendar_, queueCalendar_);
+    if (!components)
         return centerError(2, "There is no such date");
     helperMustKnow_ = true;
-    return queue_.add(request);
+    auto queued = request;
+    queued.trigger.dateComponents = *components;
+    return queue_.add(queued);
 }
 
 const std::vector<NotificationRequest>& FreedesktopNotificationCenter::pendingRequests() {
@@ -127,8 +139,10 @@ const std::vector<NotificationRequest>& FreedesktopNotificationCenter::pendingRe
     } else if (read.value() != listed_) {
         listed_ = std::move(read.value());
         pending_.clear();
-        for (const auto& queued : *listed_)
-            pending_.push_back(queued.request);
+        for (const auto& queued : *listed_) {
+            auto& components = pending_.emplace_back(queued.request).trigger.dateComponents;
+            components = translated(components, queueCalendar_, calendar_).value_or(components);
+        }
     }
     return pending_;
 }

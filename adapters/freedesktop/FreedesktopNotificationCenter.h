@@ -27,10 +27,13 @@ public:
     /// goes unanswered.
     using Question = std::function<void(std::function<void(bool granted)> answer)>;
 
-    /// `queue` belongs to the center from now on, and must outlive it with the others. `queueChanged` tells
-    /// the helper and is called on the center's thread.
-    FreedesktopNotificationCenter(NotificationQueue& queue, const Calendar& calendar, MainQueue& mainQueue,
-                                  Question question, std::function<void()> queueChanged);
+    /// `queue` belongs to the center from now on, and must outlive it with the others. `calendar` is the
+    /// device's; the queue keeps days of `queueCalendar`, which is the same for every process that reads it,
+    /// whatever language the process was started in. `queueChanged` tells the helper and is called on the
+    /// center's thread.
+    FreedesktopNotificationCenter(NotificationQueue& queue, const Calendar& calendar,
+                                  const Calendar& queueCalendar, MainQueue& mainQueue, Question question,
+                                  std::function<void()> queueChanged);
     FreedesktopNotificationCenter(const FreedesktopNotificationCenter&) = delete;
     FreedesktopNotificationCenter& operator=(const FreedesktopNotificationCenter&) = delete;
 
@@ -66,6 +69,7 @@ private:
 
     NotificationQueue& queue_;
     const Calendar& calendar_;
+    const Calendar& queueCalendar_;
     MainQueue& mainQueue_;
     Question question_;
     std::function<void()> queueChanged_;

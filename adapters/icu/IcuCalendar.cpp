@@ -30,8 +30,10 @@ UCalendarDateFields fieldOf(CalendarUnit unit) {
 
 } // namespace
 
-IcuCalendar::IcuCalendar() {
-    makeCalendar(deviceLocale(LocalePurpose::Dates));
+IcuCalendar::IcuCalendar() : IcuCalendar(deviceLocale(LocalePurpose::Dates)) {}
+
+IcuCalendar::IcuCalendar(const std::string& locale) {
+    makeCalendar(locale);
 }
 
 IcuCalendar::IcuCalendar(const std::string& locale, const std::string& timeZone) : zone_(timeZone) {

@@ -17,6 +17,9 @@ public:
     /// The device's locale as it stands now, and its time zone as it stands at each use.
     IcuCalendar();
 
+    /// A fixed locale ("th_TH"), and the device's time zone as it stands at each use.
+    explicit IcuCalendar(const std::string& locale);
+
     /// A fixed locale ("th_TH") and time zone ("Asia/Bangkok").
     IcuCalendar(const std::string& locale, const std::string& timeZone);
 

@@ -69,7 +69,7 @@ private:
     fakes::FakeNotificationQueue queue_{disk_};
     std::function<void(bool)> answer_;
     freedesktop::FreedesktopNotificationCenter center_{
-        queue_, calendar_, line_, [this](auto answer) { answer_ = std::move(answer); }, [] {}};
+        queue_, calendar_, calendar_, line_, [this](auto answer) { answer_ = std::move(answer); }, [] {}};
 };
 
 struct Implementation {

@@ -44,16 +44,14 @@ protected:
 
     fakes::Timeline line{instantAt(1'800'000'000)};
     IcuCalendar calendar{"en_US", "America/New_York"};
+    IcuCalendar queueCalendar{"en_US", "America/New_York"};
     fakes::QueueDisk disk;
     fakes::FakeNotificationQueue queue{disk};
     std::vector<std::function<void(bool)>> questions;
     int timesTold = 0;
     std::optional<FreedesktopNotificationCenter> center{
-        std::in_place,
-        queue,
-        calendar,
-        line,
-        [this](auto answer) { questions.push_back(std::move(answer)); },
+        std::in_place,          queue, calendar,
+        queueCalendar,          line,  [this](auto answer) { questions.push_back(std::move(answer)); },
         [this] { ++timesTold; }};
 };
 
@@ -90,6 +88,21 @@ INSTANTIATE_TEST_SUITE_P(Cases, ComponentsTest,
                                          ComponentsCase{"Nothing", {}, false}),
                          [](const auto& test) { return test.param.name; });
 
+TEST_F(FreedesktopNotificationCenterTest, AnotherCalendarsDaysGoIntoTheQueueInItsOwn) {
+    const IcuCalendar persian("fa_IR", "Asia/Tehran");
+    const IcuCalendar gregorian("en_US", "Asia/Tehran");
+    center.emplace(
+        queue, persian, gregorian, line, [](const auto&) {}, [] {});
+    const DateComponents newYear{1406, 1, 1, 0, 30, {}};
+    ASSERT_EQ(add(request("a", newYear)), std::nullopt);
+    std::promise<DateComponents> pending;
+    center->getPendingNotificationRequests(
+        [&](const auto& all) { pending.set_value(all.at(0).trigger.dateComponents); });
+    EXPECT_EQ(pending.get_future().get(), newYear);
+    center->finish();
+    EXPECT_EQ(disk.pending->front().request.trigger.dateComponents, (DateComponents{2027, 3, 21, 0, 30, {}}));
+}
+
 TEST_F(FreedesktopNotificationCenterTest, CompletionsStayOffTheMainThread) {
     std::promise<std::thread::id> thread;
     center->getNotificationSettings(
@@ -104,7 +117,7 @@ TEST_F(FreedesktopNotificationCenterTest, TellsTheHelperOnceWhenTheWorkIsDoneAnd
     EXPECT_EQ(timesTold, 0);
 
     center.emplace(
-        queue, calendar, line, [](const auto&) {}, [this] { ++timesTold; });
+        queue, calendar, queueCalendar, line, [](const auto&) {}, [this] { ++timesTold; });
     std::promise<void> go;
     center->getNotificationSettings([ready = go.get_future().share()](AuthorizationStatus) { ready.wait(); });
     for (const auto* identifier : {"a", "b", "c"})
@@ -162,7 +175,7 @@ TEST_F(FreedesktopNotificationCenterTest, AQueueThatFailsIsToldOrGivesNothing) {
     disk.writeFailure = Error{"SQLite", 13, "database or disk is full"};
     disk.readFailure = Error{"SQLite", 10, "disk I/O error"};
     center.emplace(
-        queue, calendar, line, [](const auto&) {}, [] {});
+        queue, calendar, queueCalendar, line, [](const auto&) {}, [] {});
     EXPECT_EQ(add(request("b")), disk.readFailure);
     std::promise<std::size_t> size;
     center->getPendingNotificationRequests([&](const auto& all) { size.set_value(all.size()); });

@@ -29,7 +29,7 @@ protected:
         session = std::make_unique<PrivateSession>();
         queue = std::make_unique<sqlite::SqliteNotificationQueue>(reminderQueueFile(), console);
         center = std::make_unique<FreedesktopNotificationCenter>(
-            *queue, calendar, line, [](const auto& answer) { answer(true); }, tellReminderHelper);
+            *queue, calendar, calendar, line, [](const auto& answer) { answer(true); }, tellReminderHelper);
     }
 
     void startHelper() {
