@@ -5,7 +5,6 @@
 #include "MainVC/MainViewController.h"
 #include "Ports/Console.h"
 #include "Ports/SavedSettings.h"
-#include "Support/LocalizationVariables.h"
 #include "Support/ScreenFactory.h"
 #include "Support/SettingKeys.h"
 
@@ -28,7 +27,7 @@ void CustomTabBarController::viewDidLoad() {
     services_.fetchEventDataType().refreshEvents();
     addButton.setImageName("addButton");
     addButton.setBackgroundColor(ui::ColorRef::clear());
-    addButton.setAccessibilityName(services_.localizationVariables().addEvent);
+    addButton.setAccessibilityName("Add Event");
     addButton.addTarget(ui::PressEvent::UpInside, [this] { addEvent(); });
     tabBar.setBackgroundColor(ui::ColorRef::white());
     view().addSubview(tabBar);

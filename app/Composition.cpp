@@ -1,0 +1,62 @@
+#include "app/Composition.h"
+
+#include "Ports/Console.h"
+#include "Support/StartUp/AppDelegate.h"
+
+#include <QFile>
+
+#include <array>
+
+namespace tessivo {
+namespace {
+
+constexpr std::array<std::string_view, 7> languageNames{"en", "de", "fr", "es", "ru", "ja", "ar"};
+
+std::string resource(const std::string& name) {
+    QFile file(QString::fromStdString(":/tessivo/" + name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
+
+/// The program's own tables are part of it: one that does not read is a broken build.
+template <class Table>
+Table table(const std::string& name, Console& console) {
+    auto read = Table::fromJson(resource(name));
+    if (!read)
+        console.stopProgram(name + ": " + read.error().description);
+    return std::move(read.value());
+}
+
+} // namespace
+
+Composition::Composition(Settings settings, Clock& clock, Console& console)
+    : settings_(std::move(settings)),
+      colors_(table<JsonNamedColors>("colors.json", console)),
+      texts_(table<JsonLocalizedTexts>("texts/" + settings_.language + ".json", console)),
+      savedSettings_(settings_.data / "settings.sqlite", console),
+      eventStore_(settings_.data / "events.sqlite"),
+      notificationQueue_(settings_.data / "reminders.sqlite", console),
+      notificationCenter_(
+          notificationQueue_, calendar_, queueCalendar_, mainQueue_,
+          [this](std::function<void(bool)> answer) { permission_.ask(std::move(answer)); },
+          settings_.tellReminderHelper),
+      services_({console, clock, timers_, mainQueue_, calendar_, dateFormatters_, textCounting_, colors_,
+                 texts_, savedSettings_, uuids_, eventStore_, notificationCenter_},
+                window_, screens_),
+      permission_(stack_, notificationCenter_, mainQueue_,
+                  [this](bool allowed) { notificationCenter_.setAuthorization(allowed); }),
+      shell_(stack_, colors_, console) {
+    screens_.use(services_);
+    screens_.onOpenNotificationSettings([this] { permission_.openSettings(); });
+}
+
+void Composition::start() {
+    AppDelegate(services_).didFinishLaunching(stack_);
+    shell_.open();
+    frameClock_.setWindow(shell_.window());
+}
+
+std::vector<std::string_view> Composition::languages() {
+    return {languageNames.begin(), languageNames.end()};
+}
+
+} // namespace tessivo

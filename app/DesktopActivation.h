@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <functional>
+
+namespace tessivo {
+
+/// The program's place on the session bus, by which a click on a reminder or a second start finds the window
+/// that is open already.
+class DesktopActivation final : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    /// Called with the desktop's permission to come to the front, empty where it gave none.
+    using Activated = std::function<void(const QString& activationToken)>;
+
+    explicit DesktopActivation(Activated activated) : activated_(std::move(activated)) {}
+
+    /// Takes the place. False where another window has it: that one has been asked to come to the front.
+    /// Without a session bus the answer is true, and nobody finds this window.
+    [[nodiscard]] bool claim();
+
+public Q_SLOTS:
+    void Activate(const QVariantMap& platformData);
+    void Open(const QStringList& uris, const QVariantMap& platformData);
+    void ActivateAction(const QString& name, const QVariantList& parameters, const QVariantMap& platformData);
+
+private:
+    Activated activated_;
+};
+
+} // namespace tessivo

@@ -1,0 +1,41 @@
+#include "app/Composition.h"
+#include "app/DesktopActivation.h"
+#include "freedesktop/DataFolder.h"
+#include "freedesktop/ReminderService.h"
+#include "icu/DeviceLocale.h"
+#include "standard/StandardConsole.h"
+#include "standard/SystemClock.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QLocale>
+
+int main(int argc, char** argv) {
+    using namespace tessivo;
+
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tessivo"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.tessivo.Tessivo"));
+    QFont font;
+    font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Noto Color Emoji")});
+    QGuiApplication::setFont(font);
+
+    StandardConsole console;
+    SystemClock clock;
+    const std::string language = languageFor(deviceLocale(LocalePurpose::Texts), Composition::languages());
+    QGuiApplication::setLayoutDirection(QLocale(QString::fromStdString(language)).textDirection());
+
+    Composition* running = nullptr;
+    DesktopActivation activation([&](const QString& token) {
+        if (running)
+            running->shell().raise(token);
+    });
+    if (!activation.claim())
+        return 0;
+
+    Composition composition({freedesktop::dataFolder(), language, freedesktop::tellReminderHelper}, clock,
+                            console);
+    running = &composition;
+    composition.start();
+    return QGuiApplication::exec();
+}

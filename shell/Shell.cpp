@@ -1,0 +1,56 @@
+#include "Shell.h"
+
+#include "Ports/Console.h"
+#include "bridge/BridgeContext.h"
+#include "bridge/IconProvider.h"
+#include "bridge/WindowItem.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+// Made by the build: makes the bridge's types known to QML, which a static library does not do by itself.
+extern void qml_register_types_Tessivo(); // NOLINT(readability-identifier-naming)
+
+namespace tessivo::shell {
+
+struct Shell::Parts {
+    Parts(ui::PresentationStack& stack, const NamedColors& colors, Console& console)
+        : context{colors, console}, window(stack, context) {}
+
+    BridgeContext context;
+    WindowItem window;
+    QQmlApplicationEngine engine; ///< last, so that no drawing outlives what it draws
+};
+
+Shell::Shell(ui::PresentationStack& stack, const NamedColors& colors, Console& console)
+    : parts_(std::make_unique<Parts>(stack, colors, console)) {}
+
+Shell::~Shell() = default;
+
+void Shell::open() {
+    QQmlApplicationEngine& engine = parts_->engine;
+    qml_register_types_Tessivo();
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
+    engine.setInitialProperties({{QStringLiteral("item"), QVariant::fromValue(&parts_->window)}});
+    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tessivo/Main.qml")));
+    if (!window())
+        parts_->context.console.stopProgram("The window cannot be drawn.");
+}
+
+QQuickWindow* Shell::window() const {
+    const auto roots = parts_->engine.rootObjects();
+    return roots.isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(roots.front());
+}
+
+void Shell::raise(const QString& activationToken) {
+    if (!activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+    if (auto* shown = window()) {
+        shown->show();
+        shown->raise();
+        shown->requestActivate();
+    }
+}
+
+} // namespace tessivo::shell

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Interface/Button.h"
+#include "bridge/ViewItem.h"
+
+namespace tessivo::shell {
+
+class ButtonItem final : public ViewItem {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Buttons belong to the program")
+    Q_PROPERTY(QString title READ title NOTIFY contentChanged FINAL)
+    Q_PROPERTY(QString image READ image NOTIFY contentChanged FINAL)
+    Q_PROPERTY(bool enabled READ enabled NOTIFY contentChanged FINAL)
+    Q_PROPERTY(double size READ size NOTIFY contentChanged FINAL)
+    Q_PROPERTY(int weight READ weight NOTIFY contentChanged FINAL)
+    Q_PROPERTY(QColor titleColor READ titleColor NOTIFY contentChanged FINAL)
+    Q_PROPERTY(QColor tint READ tint NOTIFY contentChanged FINAL)
+
+public:
+    ButtonItem(ui::Button& button, const BridgeContext& context, QObject* parent)
+        : ViewItem(button, context, parent), button_(button) {}
+
+    [[nodiscard]] QString title() const { return QString::fromStdString(button_.title()); }
+    [[nodiscard]] QString image() const { return QString::fromStdString(button_.imageName()); }
+    [[nodiscard]] bool enabled() const { return button_.isEnabled(); }
+    [[nodiscard]] double size() const { return button_.font().size; }
+    [[nodiscard]] int weight() const { return static_cast<int>(button_.font().weight); }
+    [[nodiscard]] QColor titleColor() const { return context().color(button_.titleColor()); }
+    [[nodiscard]] QColor tint() const { return context().color(button_.tint()); }
+    [[nodiscard]] QString accessibleName() const override {
+        const QString own = ViewItem::accessibleName();
+        return own.isEmpty() ? title() : own;
+    }
+
+    Q_INVOKABLE void press() { button_.press(ui::PressEvent::Down); }
+    Q_INVOKABLE void releaseInside() { button_.press(ui::PressEvent::UpInside); }
+    Q_INVOKABLE void releaseOutside() { button_.press(ui::PressEvent::UpOutside); }
+
+private:
+    ui::Button& button_;
+};
+
+} // namespace tessivo::shell

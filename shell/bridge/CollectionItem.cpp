@@ -1,0 +1,77 @@
+#include "bridge/CollectionItem.h"
+
+#include <algorithm>
+
+namespace tessivo::shell {
+
+void CellItem::setItem(int item) {
+    if (std::exchange(item_, item) != item)
+        Q_EMIT itemChanged();
+}
+
+CellModel::CellModel(ui::CollectionView& collection, const BridgeContext& context, QObject* parent)
+    : QAbstractListModel(parent), collection_(collection), context_(context) {
+    update();
+}
+
+int CellModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QVariant CellModel::data(const QModelIndex& index, int role) const {
+    if (role != Cell || !index.isValid())
+        return {};
+    return QVariant::fromValue(rows_[static_cast<std::size_t>(index.row())]);
+}
+
+QHash<int, QByteArray> CellModel::roleNames() const {
+    return {{Cell, "cell"}};
+}
+
+void CellModel::update() {
+    const auto& visible = collection_.visibleCells();
+    const auto itemOf = [&](const CellItem& row) { return collection_.itemFor(row.cell()); };
+    for (std::size_t row = rows_.size(); row > 0; --row) {
+        if (itemOf(*rows_[row - 1]))
+            continue;
+        const int index = static_cast<int>(row) - 1;
+        beginRemoveRows({}, index, index);
+        rows_[row - 1]->deleteLater();
+        rows_.erase(rows_.begin() + index);
+        endRemoveRows();
+    }
+    for (const auto& [item, cell] : visible) {
+        const auto found =
+            std::ranges::find_if(rows_, [&](const CellItem* row) { return &row->cell() == cell.get(); });
+        if (found != rows_.end()) {
+            (*found)->setItem(item);
+            continue;
+        }
+        auto* added = new CellItem(cell, context_, this);
+        added->setItem(item);
+        const int index = static_cast<int>(rows_.size());
+        beginInsertRows({}, index, index);
+        rows_.push_back(added);
+        endInsertRows();
+    }
+}
+
+CollectionItem::CollectionItem(ui::CollectionView& collection, const BridgeContext& context, QObject* parent)
+    : ViewItem(collection, context, parent),
+      collection_(collection),
+      cells_(collection, context, this),
+      visibleCells_(collection.onVisibleCellsChange([this] { cells_.update(); })),
+      scrollRequests_(collection.onScrollRequest(
+          [this](ui::Point offset) { Q_EMIT scrollRequested(offset.x, offset.y); })) {}
+
+void CollectionItem::resize(double width, double height) {
+    ui::Rect frame = collection_.frame();
+    if (frame.width == width && frame.height == height)
+        return;
+    frame.width = width;
+    frame.height = height;
+    collection_.setFrame(frame);
+    collection_.layoutIfNeeded();
+}
+
+} // namespace tessivo::shell

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "Interface/CollectionView.h"
+#include "bridge/ItemSet.h"
+#include "bridge/ViewItem.h"
+
+#include <QAbstractListModel>
+
+#include <memory>
+#include <vector>
+
+namespace tessivo::shell {
+
+/// A cell for QML: its place in the collection and its controls by name.
+class CellItem final : public ViewItem {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Cells belong to the program")
+    Q_PROPERTY(int item READ item NOTIFY itemChanged FINAL)
+    Q_PROPERTY(bool selected READ selected NOTIFY contentChanged FINAL)
+
+public:
+    CellItem(std::shared_ptr<ui::CollectionViewCell> cell, const BridgeContext& context, QObject* parent)
+        : ViewItem(*cell, context, parent),
+          cell_(std::move(cell)),
+          controls_(cell_->controls, context, this) {}
+
+    [[nodiscard]] const ui::CollectionViewCell& cell() const { return *cell_; }
+    [[nodiscard]] int item() const { return item_; }
+    [[nodiscard]] bool selected() const { return cell_->isSelected(); }
+    void setItem(int item);
+    Q_INVOKABLE tessivo::shell::ViewItem* control(const QString& name) { return controls_.control(name); }
+
+Q_SIGNALS:
+    void itemChanged();
+
+private:
+    std::shared_ptr<ui::CollectionViewCell> cell_;
+    ItemSet controls_;
+    int item_ = -1;
+};
+
+/// The cells on the screen. Rows keep their cell while it is on the screen, so that QML keeps its drawing.
+class CellModel final : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Cells belong to the program")
+
+public:
+    enum Role { Cell = Qt::UserRole };
+
+    CellModel(ui::CollectionView& collection, const BridgeContext& context, QObject* parent);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    /// Makes the rows those of the cells on the screen now.
+    void update();
+
+private:
+    ui::CollectionView& collection_;
+    const BridgeContext& context_;
+    std::vector<CellItem*> rows_;
+};
+
+class CollectionItem final : public ViewItem {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Collections belong to the program")
+    Q_PROPERTY(tessivo::shell::CellModel* cells READ cells CONSTANT FINAL)
+    Q_PROPERTY(double contentWidth READ contentWidth NOTIFY contentChanged FINAL)
+    Q_PROPERTY(double contentHeight READ contentHeight NOTIFY contentChanged FINAL)
+
+public:
+    CollectionItem(ui::CollectionView& collection, const BridgeContext& context, QObject* parent);
+
+    [[nodiscard]] CellModel* cells() { return &cells_; }
+    [[nodiscard]] double contentWidth() const { return collection_.contentSize().width; }
+    [[nodiscard]] double contentHeight() const { return collection_.contentSize().height; }
+
+    /// How large the collection is drawn.
+    Q_INVOKABLE void resize(double width, double height);
+    /// Where the user has scrolled to.
+    Q_INVOKABLE void scrolledTo(double x, double y) { collection_.scrolledTo({x, y}); }
+    /// The user taps an item.
+    Q_INVOKABLE void tapItem(int item) { collection_.tapItem(item); }
+
+Q_SIGNALS:
+    /// The program scrolls.
+    void scrollRequested(double x, double y);
+
+private:
+    ui::CollectionView& collection_;
+    CellModel cells_;
+    Subscription visibleCells_;
+    Subscription scrollRequests_;
+};
+
+} // namespace tessivo::shell

@@ -1,0 +1,42 @@
+#include "bridge/ViewItem.h"
+
+namespace tessivo::shell {
+
+ViewItem::ViewItem(ui::View& view, const BridgeContext& context, QObject* parent)
+    : QObject(parent), view_(view), context_(context), changes_(view.onChange([this](ui::ViewChange change) {
+          switch (change) {
+          case ui::ViewChange::Content:
+              Q_EMIT contentChanged();
+              break;
+          case ui::ViewChange::Appearance:
+              Q_EMIT appearanceChanged();
+              break;
+          case ui::ViewChange::Geometry:
+              Q_EMIT geometryChanged();
+              break;
+          case ui::ViewChange::Hierarchy:
+              break;
+          }
+      })) {}
+
+Fill ViewItem::fill() const {
+    Fill fill;
+    fill.color = context_.color(view_.backgroundColor());
+    // A later layer lies over an earlier one.
+    for (const auto& layer : view_.sublayers()) {
+        if (layer->isHidden())
+            continue;
+        fill.fades = true;
+        fill.first = toQColor(layer->colors().first);
+        fill.second = toQColor(layer->colors().second);
+        fill.start = {layer->startPoint().x, layer->startPoint().y};
+        fill.end = {layer->endPoint().x, layer->endPoint().y};
+    }
+    return fill;
+}
+
+QString ViewItem::accessibleName() const {
+    return QString::fromStdString(view_.accessibilityName());
+}
+
+} // namespace tessivo::shell

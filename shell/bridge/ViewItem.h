@@ -1,0 +1,60 @@
+#pragma once
+
+#include "Interface/View.h"
+#include "bridge/BridgeContext.h"
+#include "bridge/Values.h"
+
+#include <QObject>
+
+namespace tessivo::shell {
+
+/// A view of the program for QML. The view outlives it.
+class ViewItem : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Views belong to the program")
+    Q_PROPERTY(bool shown READ shown NOTIFY appearanceChanged FINAL)
+    Q_PROPERTY(double alpha READ alpha NOTIFY appearanceChanged FINAL)
+    Q_PROPERTY(tessivo::shell::Fill fill READ fill NOTIFY appearanceChanged FINAL)
+    Q_PROPERTY(double cornerRadius READ cornerRadius NOTIFY appearanceChanged FINAL)
+    Q_PROPERTY(bool interactive READ interactive NOTIFY contentChanged FINAL)
+    Q_PROPERTY(QString accessibleName READ accessibleName NOTIFY contentChanged FINAL)
+    Q_PROPERTY(double x READ x NOTIFY geometryChanged FINAL)
+    Q_PROPERTY(double y READ y NOTIFY geometryChanged FINAL)
+    Q_PROPERTY(double width READ width NOTIFY geometryChanged FINAL)
+    Q_PROPERTY(double height READ height NOTIFY geometryChanged FINAL)
+    Q_PROPERTY(double scale READ scale NOTIFY geometryChanged FINAL)
+
+public:
+    ViewItem(ui::View& view, const BridgeContext& context, QObject* parent);
+
+    [[nodiscard]] bool shown() const { return !view_.isHidden(); }
+    [[nodiscard]] double alpha() const { return view_.drawnValue(ui::AnimatableProperty::Alpha); }
+    [[nodiscard]] Fill fill() const;
+    [[nodiscard]] double cornerRadius() const { return view_.cornerRadius(); }
+    [[nodiscard]] bool interactive() const { return view_.isUserInteractionEnabled(); }
+    [[nodiscard]] virtual QString accessibleName() const;
+    [[nodiscard]] double x() const { return view_.drawnFrame().x; }
+    [[nodiscard]] double y() const { return view_.drawnFrame().y; }
+    [[nodiscard]] double width() const { return view_.drawnFrame().width; }
+    [[nodiscard]] double height() const { return view_.drawnFrame().height; }
+    [[nodiscard]] double scale() const { return view_.drawnValue(ui::AnimatableProperty::Scale); }
+
+    /// The user taps the view.
+    Q_INVOKABLE void tap() { view_.tap(); }
+
+Q_SIGNALS:
+    void appearanceChanged();
+    void geometryChanged();
+    void contentChanged();
+
+protected:
+    [[nodiscard]] const BridgeContext& context() const { return context_; }
+
+private:
+    ui::View& view_;
+    const BridgeContext& context_;
+    Subscription changes_;
+};
+
+} // namespace tessivo::shell

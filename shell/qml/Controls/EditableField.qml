@@ -1,0 +1,68 @@
+import QtQuick
+import Tessivo
+
+// A text of one line that the user edits. The program sees each change after it is made and may take it back.
+FocusScope {
+    id: control
+
+    required property TextInputItem input
+    property bool focusAtStart: false
+
+    implicitHeight: Math.max(56, field.implicitHeight + 2 * input.verticalInset)
+    focus: focusAtStart
+
+    Rectangle {
+        anchors.fill: parent
+        radius: control.input.cornerRadius
+        color: control.input.fill.color
+        border.color: field.activeFocus ? Theme.accent : "transparent"
+        border.width: 1.5
+    }
+    TextInput {
+        id: field
+        anchors.fill: parent
+        anchors.leftMargin: control.input.horizontalInset
+        anchors.rightMargin: control.input.horizontalInset
+        focus: true
+        activeFocusOnTab: true
+        verticalAlignment: TextInput.AlignVCenter
+        horizontalAlignment: Qt.application.layoutDirection === Qt.RightToLeft ? TextInput.AlignRight
+                                                                              : TextInput.AlignLeft
+        clip: true
+        selectByMouse: true
+        font.pixelSize: control.input.size
+        color: control.input.color
+        selectionColor: Theme.accent
+        onTextEdited: control.input.edit(text)
+        onAccepted: control.input.pressReturn()
+        onActiveFocusChanged: activeFocus ? control.input.beginEditing() : control.input.endEditing()
+        Accessible.role: Accessible.EditableText
+        Accessible.name: control.input.accessibleName
+    }
+    Text {
+        anchors.fill: field
+        visible: field.text.length === 0 && field.preeditText.length === 0
+        text: control.input.placeholder
+        font: field.font
+        color: Theme.muted
+        horizontalAlignment: field.horizontalAlignment
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    Connections {
+        target: control.input
+        function onRefused() {
+            const place = field.cursorPosition - (field.text.length - control.input.text.length);
+            field.text = control.input.text;
+            field.cursorPosition = Math.max(0, Math.min(place, field.text.length));
+        }
+        function onContentChanged() {
+            if (field.text !== control.input.text)
+                field.text = control.input.text;
+            if (!control.input.editing && field.activeFocus)
+                field.focus = false;
+        }
+    }
+    Component.onCompleted: field.text = input.text
+}

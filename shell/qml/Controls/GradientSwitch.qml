@@ -1,0 +1,60 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tessivo
+
+// The program's switch: its own fade fills it while it is on.
+T.AbstractButton {
+    id: control
+
+    required property SwitchItem item
+
+    implicitWidth: 51
+    implicitHeight: 31
+    enabled: item.interactive
+    activeFocusOnTab: true
+    focusPolicy: Qt.StrongFocus
+    onClicked: item.toggle()
+    Keys.onReturnPressed: clicked()
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: item.accessibleName
+    Accessible.checkable: true
+    Accessible.checked: item.on
+    Accessible.onPressAction: clicked()
+    Accessible.onToggleAction: clicked()
+
+    background: Item {
+        Rectangle {
+            anchors.fill: parent
+            radius: height / 2
+            color: "#D3D7E0"
+        }
+        CardPaint {
+            anchors.fill: parent
+            radius: height / 2
+            fill: control.item.fill
+            opacity: control.item.on ? 1 : 0
+            Behavior on opacity { NumberAnimation { duration: Theme.quick } }
+        }
+    }
+    contentItem: Item {
+        Rectangle {
+            readonly property bool atEnd: control.item.on !== (Qt.application.layoutDirection === Qt.RightToLeft)
+            y: 2
+            x: atEnd ? parent.width - width - 2 : 2
+            width: 27
+            height: 27
+            radius: 13.5
+            color: "white"
+            Behavior on x { NumberAnimation { duration: Theme.quick; easing.type: Easing.InOutQuad } }
+            SoftShadow { radius: 13.5; strength: 0.03 }
+        }
+    }
+    // Larger than it looks, so that a finger hits it.
+    MouseArea {
+        anchors.fill: parent
+        anchors.margins: -(Theme.touch - 31) / 2
+        enabled: control.enabled
+        onClicked: control.clicked()
+    }
+    FocusRing { visible: control.visualFocus; radius: 18 }
+}

@@ -1,0 +1,34 @@
+import QtQuick
+import Tessivo
+
+// The card that previews an event on the wizard's screens.
+CardPaint {
+    id: card
+
+    required property ScreenItem screen
+    readonly property ViewItem view: screen.control("eventView")
+    readonly property LabelItem timeLabel: screen.control("eventView.timeLabel") as LabelItem
+    readonly property LabelItem informationLabel: screen.control("eventView.eventInformationLabel") as LabelItem
+
+    implicitHeight: 200
+    fill: view.fill
+    radius: view.cornerRadius
+    Accessible.role: Accessible.StaticText
+    Accessible.name: informationLabel.text + ", " + timeLabel.text
+
+    CardLabel {
+        label: card.timeLabel
+        anchors.top: parent.top
+        anchors.right: parent.right
+        anchors.margins: 24
+        width: parent.width - 48
+    }
+    CardLabel {
+        label: card.informationLabel
+        anchors.left: parent.left
+        anchors.bottom: parent.bottom
+        anchors.margins: 24
+        width: parent.width - 48
+    }
+    SoftShadow { radius: card.radius }
+}

@@ -1,0 +1,10 @@
+import QtQuick
+import Tessivo
+
+// The small heading over a row.
+StyledLabel {
+    x: 4
+    topPadding: 10
+    font.pixelSize: Theme.caption + 1
+    font.weight: Font.Medium
+}

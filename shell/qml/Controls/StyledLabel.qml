@@ -1,0 +1,22 @@
+import QtQuick
+import Tessivo
+
+// A label of one look, in the label's own font and colour.
+Text {
+    id: text
+
+    required property LabelItem label
+
+    visible: label.shown
+    text: label.text
+    color: label.pieces.length > 0 ? label.pieces[0].color : label.color
+    font.pixelSize: label.size
+    font.weight: label.weight
+    horizontalAlignment: label.alignment
+    maximumLineCount: label.lineLimit
+    wrapMode: label.lineLimit === 1 ? Text.NoWrap : Text.Wrap
+    elide: Text.ElideRight
+    textFormat: Text.PlainText
+    Accessible.role: Accessible.StaticText
+    Accessible.name: label.accessibleName
+}

@@ -1,0 +1,32 @@
+pragma Singleton
+
+import QtQuick
+import Tessivo
+
+// The looks that all screens share: an 8 point grid, one type scale, colours of the catalogue.
+QtObject {
+    property WindowItem window
+
+    function named(name: string): color {
+        return window ? window.color(name) : "transparent";
+    }
+
+    readonly property color backdrop: "#DDE1EA"
+    readonly property color accent: named("button")
+    readonly property color field: named("backText")
+    readonly property color line: named("Line")
+    readonly property color muted: named("disabled")
+    readonly property color page: named("mainBack")
+    readonly property color ink: "#15171C"
+
+    readonly property int margin: 16
+    readonly property int touch: 44
+    readonly property int rowHeight: 52
+    readonly property int radius: 16
+    readonly property int caption: 13
+    readonly property int body: 17
+    readonly property int headline: 20
+
+    readonly property int quick: 160
+    readonly property int calm: 280
+}

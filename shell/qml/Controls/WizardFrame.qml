@@ -1,0 +1,93 @@
+import QtQuick
+import Tessivo
+
+// What the steps of the wizard share: Back, the progress, the heading, room for the step's rows, and Next.
+FocusScope {
+    id: frame
+
+    required property ScreenItem screen
+    default property alias rows: column.data
+    property alias rowSpacing: column.spacing
+    readonly property ButtonItem nextButton: screen.control("nextButton") as ButtonItem
+    readonly property ButtonItem prevButton: screen.control("prevButton") as ButtonItem
+    readonly property LabelItem titleLabel: screen.control("titleLabel") as LabelItem
+    readonly property ImageItem topImage: screen.control("topImage") as ImageItem
+
+    /// A tap on the screen beside every control.
+    signal tappedBeside
+
+    focus: true
+    Keys.onEscapePressed: prevButton.releaseInside()
+    Keys.onBackPressed: prevButton.releaseInside()
+
+    Rectangle {
+        anchors.fill: parent
+        color: frame.screen.view.fill.color
+    }
+    MouseArea {
+        anchors.fill: parent
+        onClicked: {
+            frame.forceActiveFocus();
+            frame.screen.view.tap();
+            frame.tappedBeside();
+        }
+    }
+    IconButton {
+        id: back
+        button: frame.prevButton
+        directional: true
+        anchors.left: parent.left
+        anchors.leftMargin: 6
+        y: 10
+    }
+    Icon {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.verticalCenter: back.verticalCenter
+        name: frame.topImage.image
+        tint: Theme.accent
+        side: 8
+        ratio: 20
+        mirror: Qt.application.layoutDirection === Qt.RightToLeft
+        Accessible.ignored: true
+    }
+    Flickable {
+        id: flick
+        anchors.top: back.bottom
+        anchors.bottom: next.top
+        anchors.bottomMargin: 8
+        width: parent.width
+        contentHeight: column.y + column.height + 24
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+
+        StyledLabel {
+            id: heading
+            label: frame.titleLabel
+            x: Theme.margin
+            y: 8
+            width: parent.width - 2 * Theme.margin
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 22
+            Accessible.role: Accessible.Heading
+        }
+        Column {
+            id: column
+            x: Theme.margin
+            y: heading.y + heading.height + 20
+            width: parent.width - 2 * Theme.margin
+            spacing: 8
+        }
+    }
+    TextButton {
+        id: next
+        button: frame.nextButton
+        filled: true
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.leftMargin: Theme.margin
+        anchors.rightMargin: Theme.margin
+        // The screen raises Next out of the keyboard's way: a negative offset from the foot of the safe area.
+        anchors.bottomMargin: Qt.inputMethod.visible ? Math.max(16, -button.y) : 16
+    }
+}

@@ -1,0 +1,52 @@
+import QtQuick
+import Tessivo
+
+// The card of one event.
+FocusScope {
+    id: card
+
+    required property CellItem cell
+    readonly property CollectionFlick list: parent?.parent as CollectionFlick
+    readonly property ViewItem content: cell.control("contentView")
+    readonly property LabelItem timeLabel: cell.control("timeLabel") as LabelItem
+    readonly property LabelItem informationLabel: cell.control("eventInformationLabel") as LabelItem
+
+    x: cell.x
+    y: cell.y
+    width: cell.width
+    height: cell.height
+    activeFocusOnTab: true
+    Keys.onReturnPressed: list.collection.tapItem(cell.item)
+    Accessible.role: Accessible.Button
+    Accessible.name: cell.accessibleName
+    Accessible.onPressAction: list.collection.tapItem(cell.item)
+
+    SoftShadow { radius: card.cell.cornerRadius }
+    CardPaint {
+        anchors.fill: parent
+        radius: card.content.cornerRadius
+        fill: card.content.fill
+        scale: touch.pressed ? 0.985 : 1
+        Behavior on scale { NumberAnimation { duration: Theme.quick } }
+        CardLabel {
+            label: card.timeLabel
+            anchors.top: parent.top
+            anchors.right: parent.right
+            anchors.margins: 24
+            width: parent.width - 48
+        }
+        CardLabel {
+            label: card.informationLabel
+            anchors.left: parent.left
+            anchors.bottom: parent.bottom
+            anchors.margins: 24
+            width: parent.width - 48
+        }
+    }
+    MouseArea {
+        id: touch
+        anchors.fill: parent
+        onClicked: card.list.collection.tapItem(card.cell.item)
+    }
+    FocusRing { target: card; radius: card.cell.cornerRadius + 3 }
+}

@@ -1,0 +1,94 @@
+#include "Finger.h"
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <cstdlib>
+
+namespace tessivo::tour {
+namespace {
+
+constexpr int stepsOfADrag = 12;
+constexpr int settlingTime = 700; // ms: the longest slide, and the frames around it
+
+bool isDrawn(const QQuickItem& item) {
+    for (const QQuickItem* ancestor = &item; ancestor; ancestor = ancestor->parentItem()) {
+        if (!ancestor->isVisible() || ancestor->opacity() == 0)
+            return false;
+    }
+    return item.width() > 0;
+}
+
+/// The topmost drawn item of that name: later siblings lie over earlier ones.
+QQuickItem* search(QQuickItem& item, const QString& name) {
+    const auto children = item.childItems();
+    for (qsizetype index = children.size(); index > 0; --index) {
+        if (auto* found = search(*children[index - 1], name))
+            return found;
+    }
+    if (!isDrawn(item))
+        return nullptr;
+    const auto* interface = QAccessible::queryAccessibleInterface(&item);
+    return interface && interface->text(QAccessible::Name) == name ? &item : nullptr;
+}
+
+} // namespace
+
+Finger::Finger(QQuickWindow& window) : window_(window), device_(QTest::createTouchDevice()) {
+    QAccessible::setActive(true);
+}
+
+QQuickItem* Finger::find(const QString& name) {
+    auto* item = search(*window_.contentItem(), name);
+    if (!item) {
+        qCritical("There is nothing named %s on the screen", qPrintable(name));
+        std::exit(EXIT_FAILURE);
+    }
+    return item;
+}
+
+QRectF Finger::placeOf(const QString& name) {
+    const auto* item = find(name);
+    return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+}
+
+void Finger::tap(const QString& name) {
+    tapAt(placeOf(name).center());
+}
+
+void Finger::tapAt(QPointF point) {
+    QTest::touchEvent(&window_, device_).press(0, point.toPoint());
+    QTest::qWait(30);
+    QTest::touchEvent(&window_, device_).release(0, point.toPoint());
+    settle();
+}
+
+void Finger::drag(QPointF from, QPointF to) {
+    QTest::touchEvent(&window_, device_).press(0, from.toPoint());
+    for (int step = 1; step <= stepsOfADrag; ++step) {
+        const QPointF point = from + (to - from) * step / stepsOfADrag;
+        QTest::qWait(16);
+        QTest::touchEvent(&window_, device_).move(0, point.toPoint());
+    }
+    QTest::qWait(200);
+    QTest::touchEvent(&window_, device_).release(0, to.toPoint());
+    settle();
+}
+
+void Finger::type(const QString& text) {
+    // As an on-screen keyboard hands text over, so that characters of any kind come whole.
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+    settle();
+}
+
+void Finger::settle() {
+    QTest::qWait(settlingTime);
+}
+
+} // namespace tessivo::tour

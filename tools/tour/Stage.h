@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QSize>
+
+namespace tessivo::tour {
+
+/// A screen and a language to take pictures in.
+struct Stage {
+    const char* name;
+    QSize size;
+    const char* locale;
+    const char* language; ///< of the texts
+};
+
+inline constexpr Stage stages[] = {{"phone", {390, 844}, "en_US.UTF-8", "en"},
+                                   {"small-phone", {360, 640}, "de_DE.UTF-8", "de"},
+                                   {"tablet", {834, 1194}, "en_US.UTF-8", "en"},
+                                   {"desktop", {1280, 800}, "fr_FR.UTF-8", "fr"},
+                                   {"right-to-left", {390, 844}, "ar_EG.UTF-8", "ar"}};
+
+} // namespace tessivo::tour

@@ -1,0 +1,158 @@
+#include "Tour.h"
+
+#include "Interface/Button.h"
+#include "Interface/CollectionView.h"
+#include "Interface/Label.h"
+#include "Interface/SegmentedControl.h"
+#include "Interface/TextInput.h"
+#include "app/Composition.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QQuickWindow>
+
+namespace tessivo::tour {
+namespace {
+
+constexpr double rowHeight = 36;
+constexpr double dragThreshold = 12; ///< what a drag uses up before anything moves
+constexpr double wheelsMiddle = 98;  ///< below the row that they belong to
+constexpr double dayShares[] = {0.12, 0.47, 0.85};
+
+} // namespace
+
+Tour::Tour(Composition& program, const Stage& stage, const QDir& pictures)
+    : program_(program),
+      stage_(stage),
+      pictures_(pictures),
+      window_(*program.shell().window()),
+      finger_(window_) {}
+
+void Tour::run() {
+    window_.resize(stage_.size);
+    finger_.settle();
+    picture("empty");
+    addEvent({"Summer Holiday 🏖️", 2, 1, 0, 1, -1, 1, true});
+    addEvent({"Anna & Max: Wedding", 1, 2, 0, 2, 4, -1, false});
+    addEvent({"A long-awaited trip!", -1, 0, 2, 3, -1, 8, false});
+    addEvent({"Driving Test", 1, 0, 0, 0, 16, -1, false});
+    finger_.tap(QStringLiteral("Future"));
+    picture("future");
+    addEvent({"First Day at Work", 0, -1, -2, 4, -1, 13, false});
+    addEvent({"Moved House", -2, -1, 0, 1, 22, -1, false});
+    finger_.tap(QStringLiteral("Past"));
+    picture("past");
+}
+
+void Tour::addEvent(const Wish& wish) {
+    finger_.tap(QStringLiteral("Add Event"));
+    pictureIf(wish.inPictures, "title-empty");
+    finger_.tap(nameOf("textField"));
+    finger_.type(QString::fromUtf8(wish.title));
+    pictureIf(wish.inPictures, "title");
+    finger_.tap(nameOf("nextButton"));
+    pictureIf(wish.inPictures, "date-empty");
+    chooseDay(wish);
+    if (wish.inPictures)
+        chooseTimeAndRepeat(wish);
+    finger_.tap(nameOf("nextButton"));
+    pictureIf(wish.inPictures, "permission");
+    if (wish.inPictures)
+        finger_.tap(QStringLiteral("Allow"));
+    pictureIf(wish.inPictures, "reminder-off");
+    if (wish.inPictures)
+        chooseReminder(wish);
+    finger_.tap(nameOf("nextButton"));
+    pictureIf(wish.inPictures, "background");
+    chooseBackground(wish);
+    finger_.tap(nameOf("nextButton"));
+}
+
+void Tour::chooseDay(const Wish& wish) {
+    finger_.tap(nameOf("dayField"));
+    const QRectF row = finger_.placeOf(nameOf("dayField"));
+    turnWheel(row, 2, wish.years);
+    turnWheel(row, 1, wish.months);
+    turnWheel(row, 0, wish.days);
+    pictureIf(wish.inPictures, "date-wheels");
+    tapBeside();
+    finger_.tap(QString::fromUtf8(
+        std::initializer_list<const char*>{"Hours", "Days", "Weeks", "Months", "Years"}.begin()[wish.unit]));
+}
+
+void Tour::chooseTimeAndRepeat(const Wish& wish) {
+    finger_.tap(QStringLiteral("All Day"));
+    finger_.tap(nameOf("timeField"));
+    pictureIf(wish.inPictures, "time-wheels");
+    tapBeside();
+    finger_.tap(nameOf("repeatLapel"));
+    pictureIf(wish.inPictures, "repeat-sheet");
+    finger_.tap(QStringLiteral("Every year"));
+    const QRectF chosen = finger_.placeOf(QStringLiteral("Every year"));
+    finger_.drag({chosen.center().x(), chosen.top() - 5 * 52 - 40},
+                 {chosen.center().x(), stage_.size.height() - 10.0});
+    pictureIf(wish.inPictures, "date");
+}
+
+void Tour::chooseReminder(const Wish& wish) {
+    finger_.tap(QStringLiteral("Reminder"));
+    finger_.tap(nameOf("alertlabel"));
+    pictureIf(wish.inPictures, "alert-sheet");
+    finger_.tapAt({window_.width() / 2.0, 40});
+    finger_.tap(nameOf("reminderMess"));
+    finger_.type(QStringLiteral("Pack sunscreen, tickets and a good book"));
+    tapBeside();
+    pictureIf(wish.inPictures, "reminder");
+}
+
+void Tour::chooseBackground(const Wish& wish) {
+    const char* strip = wish.color >= 0 ? "colorCollection" : "gradientCollection";
+    const int item = wish.color >= 0 ? wish.color : wish.gradient;
+    auto& collection = dynamic_cast<ui::CollectionView&>(*program_.stack().top()->controls.find(strip));
+    collection.scrollToItem(item);
+    finger_.settle();
+    if (const auto cell = collection.cellForItem(item))
+        finger_.tap(QString::fromStdString(cell->accessibilityName()));
+    pictureIf(wish.inPictures, "background-chosen");
+}
+
+void Tour::turnWheel(QRectF rowAbove, int wheel, int rows) {
+    if (rows == 0)
+        return;
+    const bool reversed = QGuiApplication::layoutDirection() == Qt::RightToLeft;
+    const double share = reversed ? 1 - dayShares[wheel] : dayShares[wheel];
+    const QPointF start(rowAbove.left() + rowAbove.width() * share, rowAbove.bottom() + wheelsMiddle);
+    const double slack = rows > 0 ? dragThreshold : -dragThreshold;
+    finger_.drag(start, start - QPointF(0, rows * rowHeight + slack));
+}
+
+void Tour::tapBeside() {
+    finger_.tapAt(finger_.placeOf(nameOf("titleLabel")).center());
+}
+
+QString Tour::nameOf(const char* control) const {
+    const ui::View* view = program_.stack().top()->controls.find(control);
+    if (!view->accessibilityName().empty())
+        return QString::fromStdString(view->accessibilityName());
+    if (const auto* label = dynamic_cast<const ui::Label*>(view))
+        return QString::fromStdString(label->text());
+    if (const auto* button = dynamic_cast<const ui::Button*>(view))
+        return QString::fromStdString(button->title());
+    if (const auto* field = dynamic_cast<const ui::TextField*>(view))
+        return QString::fromStdString(field->placeholder());
+    return {};
+}
+
+void Tour::picture(const char* name) {
+    window_.grabWindow().save(pictures_.filePath(QStringLiteral("%1-%2-%3.png")
+                                                     .arg(QLatin1String(stage_.name))
+                                                     .arg(++count_, 2, 10, QLatin1Char('0'))
+                                                     .arg(QLatin1String(name))));
+}
+
+void Tour::pictureIf(bool wanted, const char* name) {
+    if (wanted)
+        picture(name);
+}
+
+} // namespace tessivo::tour

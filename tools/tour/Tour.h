@@ -1,0 +1,55 @@
+#pragma once
+
+#include "Finger.h"
+#include "Stage.h"
+
+#include <QDir>
+
+namespace tessivo {
+class Composition;
+}
+
+namespace tessivo::tour {
+
+/// One walk through the program on one stage, as a user would take it.
+class Tour {
+public:
+    Tour(Composition& program, const Stage& stage, const QDir& pictures);
+
+    void run();
+
+private:
+    /// An event to make, and whether to take pictures on the way.
+    struct Wish {
+        const char* title;
+        int days; ///< rows to turn each wheel by
+        int months;
+        int years;
+        int unit;
+        int color;    ///< item of the strip; -1 for none
+        int gradient; ///< likewise
+        bool inPictures;
+    };
+
+    void addEvent(const Wish& wish);
+    void chooseDay(const Wish& wish);
+    void chooseTimeAndRepeat(const Wish& wish);
+    void chooseReminder(const Wish& wish);
+    void chooseBackground(const Wish& wish);
+    void turnWheel(QRectF rowAbove, int wheel, int rows);
+    void tapBeside();
+    void picture(const char* name);
+    void pictureIf(bool wanted, const char* name);
+
+    /// What a screen reader says of a control of the top screen.
+    [[nodiscard]] QString nameOf(const char* control) const;
+
+    Composition& program_;
+    const Stage& stage_;
+    QDir pictures_;
+    QQuickWindow& window_;
+    Finger finger_;
+    int count_ = 0;
+};
+
+} // namespace tessivo::tour
