@@ -32,6 +32,9 @@ public:
     /// Starts on 21 June 2030, 10:30:15 in Berlin, in English.
     Program() { launch(); }
 
+    /// The same with a notification center of the test's, which must outlive the program.
+    explicit Program(NotificationCenter& center) : center_(center) { launch(); }
+
     /// Ends the program and starts it anew on the same folder.
     void restart() {
         run_.reset();
@@ -73,7 +76,7 @@ private:
               settings(program.folder / "settings.sqlite", program.console),
               services({program.console, program.timeline, program.timeline, program.timeline,
                         program.calendar, program.dateFormatters, program.textCounting_, program.colors_,
-                        program.texts_, settings, program.uuids_, eventStore, program.notifications},
+                        program.texts_, settings, program.uuids_, eventStore, program.center_},
                        window, screens),
               stack(window) {
             screens.use(services);
@@ -88,6 +91,8 @@ private:
         SharedServices services;
         ui::PresentationStack stack;
     };
+
+    NotificationCenter& center_ = notifications;
 
     void launch() { run_ = std::make_unique<Run>(*this); }
 

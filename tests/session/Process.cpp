@@ -1,4 +1,4 @@
-#include "Process.h"
+#include "session/Process.h"
 
 #include <sys/wait.h>
 #include <unistd.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Process.h"
+#include "session/Process.h"
 #include "support/TemporaryFolder.h"
 
 #include <string>

@@ -1,4 +1,7 @@
-#include "PrivateSession.h"
+#include "AddEventVC/EventBackgroundViewController.h"
+#include "AddEventVC/EventDateAndTimeViewController.h"
+#include "AddEventVC/ReminderViewController.h"
+#include "SelectValueVC/TableViewController.h"
 #include "fakes/RecordingConsole.h"
 #include "fakes/Timeline.h"
 #include "freedesktop/BusNames.h"
@@ -8,8 +11,10 @@
 #include "freedesktop/ReminderService.h"
 #include "freedesktop/SessionBus.h"
 #include "icu/IcuCalendar.h"
+#include "session/PrivateSession.h"
 #include "sqlite/SqliteNotificationQueue.h"
 #include "standard/SystemClock.h"
+#include "support/Wizard.h"
 
 #include <gmock/gmock.h>
 
@@ -164,6 +169,41 @@ TEST_F(RemindersEndToEndTest, AHelperWhoseProgramIsReplacedGoesOnAsTheNewOne) {
     std::optional<int> code;
     EXPECT_TRUE(eventually([&] { return (code = helper.exitCode()).has_value(); }));
     EXPECT_EQ(code, 0);
+}
+
+// The whole road: through the wizard's screens into the store and the queue, and from there to the desktop.
+TEST_F(RemindersEndToEndTest, AnEventOfTheWizardReminds) {
+    session->startDaemon();
+    startHelper();
+    {
+        Program program(*center);
+        program.timeline.setWall(clock.now());
+        openWizard(program).textField.editTo("Wedding <3");
+        auto& date = next<EventDateAndTimeViewController>(program);
+        date.datePicker.pick(program.timeline.now() + Seconds(2 * 86400));
+        auto& reminder = next<ReminderViewController>(program);
+        const auto answersCome = [&] {
+            program.timeline.runPosted();
+            line.runPosted(); // the user's answer
+            return reminder.reminderMess.isHidden() == false;
+        };
+        reminder.toggleSwitch.toggle();
+        ASSERT_TRUE(eventually(answersCome));
+        reminder.alertButton.tap();
+        program.top<TableViewController>().tableView.tapItem(9); // a week before: that moment has gone by
+        program.top<TableViewController>().dismiss();
+        program.settle();
+        reminder.reminderMess.beginEditing();
+        reminder.reminderMess.editTo("Rings & flowers");
+        next<EventBackgroundViewController>(program);
+        program.top<WizardScreen>().nextButton.tap();
+        line.runPosted();
+        helper.kill();
+        startHelper();
+        EXPECT_TRUE(arrives("Wedding <3", "Rings &amp; flowers"));
+        center->finish();
+        EXPECT_TRUE(program.console.printed("уведомление создано"));
+    }
 }
 
 TEST(RemindersWithoutBusTest, TheHelperEndsAndTheProgramGoesOn) {
