@@ -78,7 +78,8 @@ Ending run(const std::filesystem::path& program, Console& console) {
 
 int main(int, char** arguments) {
     StandardConsole console;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe");
+    std::error_code ignored; // without its own name it does not hear of being replaced
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored);
     switch (run(program, console)) {
     case Ending::Failed:
         return 1;

@@ -29,7 +29,9 @@ int folderChanged(sd_event_source*, const inotify_event* event, void* data) {
 } // namespace
 
 Subscription watchFile(EventLoop& loop, const std::filesystem::path& file, std::function<void()> changed) {
-    auto watch = std::make_shared<Watch>(file.filename().string(), std::move(changed), nullptr);
+    auto watch = std::make_shared<Watch>();
+    watch->name = file.filename().string();
+    watch->changed = std::move(changed);
     // A link is complete when it is made and is never closed; a file is complete when it is closed.
     const std::uint32_t complete = IN_MOVED_TO | IN_CLOSE_WRITE;
     const std::uint32_t events = std::filesystem::is_symlink(file) ? complete | IN_CREATE : complete;

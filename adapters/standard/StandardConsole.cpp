@@ -1,10 +1,15 @@
 #include "standard/StandardConsole.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 
 namespace tessivo {
+
+StandardConsole::StandardConsole() {
+    std::signal(SIGPIPE, SIG_IGN);
+}
 
 void StandardConsole::print(std::string_view line) {
     const auto whole = std::string(line) + '\n';

@@ -7,6 +7,9 @@ namespace tessivo {
 /// The process's standard error stream. Each line goes out whole, whichever threads write.
 class StandardConsole final : public Console {
 public:
+    /// From now on a reader that goes away does not end the process.
+    StandardConsole();
+
     void print(std::string_view line) override;
 
 protected:

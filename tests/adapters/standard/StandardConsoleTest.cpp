@@ -1,0 +1,40 @@
+#include "standard/StandardConsole.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace tessivo {
+namespace {
+
+TEST(StandardConsoleTest, ALineGoesOutWhole) {
+    testing::internal::CaptureStderr();
+    StandardConsole().print("уведомление создано");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "уведомление создано\n");
+}
+
+TEST(StandardConsoleTest, StoppingWritesTheReasonAndEndsTheProcess) {
+    EXPECT_EXIT(StandardConsole().stopProgram("The date does not read"), testing::ExitedWithCode(1),
+                "The date does not read\n");
+}
+
+TEST(StandardConsoleTest, AConsoleThatIsGoneIsIgnored) {
+    const auto child = ::fork();
+    if (child == 0) {
+        int ends[2];
+        if (::pipe(ends) != 0 || ::dup2(ends[1], STDERR_FILENO) < 0)
+            ::_exit(2);
+        ::close(ends[0]);
+        StandardConsole console;
+        console.print("into nothing");
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status)) << "ended by signal " << WTERMSIG(status);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+} // namespace
+} // namespace tessivo
