@@ -9,10 +9,10 @@ ImageCache::ImageCache(ResponseCaches& caches) : caches_(caches) {}
 
 ImageCache::~ImageCache() = default;
 
-ResponseCache& ImageCache::shared(const UnsplashPickerConfiguration& configuration) {
+std::shared_ptr<ResponseCache> ImageCache::shared(const UnsplashPickerConfiguration& configuration) {
     if (!cache_)
         cache_ = caches_.open("unsplash", configuration.memoryCapacity, configuration.diskCapacity);
-    return *cache_;
+    return cache_;
 }
 
 } // namespace tessivo::unsplash

@@ -18,11 +18,11 @@ public:
     ~ImageCache();
 
     /// Made on first use; a configuration given later does not resize it.
-    [[nodiscard]] ResponseCache& shared(const UnsplashPickerConfiguration& configuration);
+    [[nodiscard]] std::shared_ptr<ResponseCache> shared(const UnsplashPickerConfiguration& configuration);
 
 private:
     ResponseCaches& caches_;
-    std::unique_ptr<ResponseCache> cache_;
+    std::shared_ptr<ResponseCache> cache_;
 };
 
 } // namespace tessivo::unsplash

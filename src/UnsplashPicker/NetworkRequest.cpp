@@ -1,7 +1,6 @@
 #include "UnsplashPicker/NetworkRequest.h"
 
 #include "Ports/Console.h"
-#include "UnsplashPicker/PickerPlatform.h"
 #include "UnsplashPicker/RequestError.h"
 
 namespace tessivo::unsplash {

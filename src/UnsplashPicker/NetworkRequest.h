@@ -4,17 +4,12 @@
 #include "Ports/Json.h"
 #include "Ports/Url.h"
 #include "UnsplashPicker/ConcurrentOperation.h"
+#include "UnsplashPicker/PickerPlatform.h"
 
 #include <map>
 #include <variant>
 
-namespace tessivo {
-class Console;
-}
-
 namespace tessivo::unsplash {
-
-struct PickerPlatform;
 
 /// A value of a query; numbers are written in their printed form.
 using ParameterValue = std::variant<std::string, std::int64_t>;
@@ -50,7 +45,7 @@ protected:
 private:
     void complete(const Result<HttpResponse>& answer);
 
-    const PickerPlatform& platform_;
+    const PickerPlatform platform_;
     std::mutex taskMutex_; ///< the task is made on the queue's thread and cancelled from others
     std::shared_ptr<HttpTask> task;
 };

@@ -22,7 +22,7 @@ struct PickerPlatform {
     JsonCoding& json;
     ImageCoding& images;
     ResponseCaches& caches;
-    LocalizedTexts& texts; ///< the module's own table
+    const LocalizedTexts* texts; ///< the module's own table; null where it was not found
 };
 
 } // namespace tessivo::unsplash

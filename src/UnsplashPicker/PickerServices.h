@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Ports/Console.h"
+#include "Ports/LocalizedTexts.h"
 #include "UnsplashPicker/ImageCache.h"
 #include "UnsplashPicker/PickerPlatform.h"
 #include "UnsplashPicker/UnsplashPickerConfiguration.h"
@@ -22,8 +24,15 @@ public:
         configuration_ = std::move(configuration);
     }
 
+    /// A text of the module's table. A program that came without the table is broken: it stops.
+    [[nodiscard]] std::string text(std::string_view key) const {
+        if (!platform_.texts)
+            platform_.console.stopProgram("unable to find bundle named UnsplashPicker_UnsplashPicker");
+        return platform_.texts->localizedString(key);
+    }
+
     /// Opened at the first call, with the capacities then in force; later ones change nothing.
-    [[nodiscard]] ResponseCache& imageCache() { return imageCache_.shared(configuration_); }
+    [[nodiscard]] std::shared_ptr<ResponseCache> imageCache() { return imageCache_.shared(configuration_); }
 
 private:
     const PickerPlatform platform_;

@@ -1,6 +1,5 @@
 #include "UnsplashPicker/UnsplashRequest.h"
 
-#include "UnsplashPicker/PickerPlatform.h"
 #include "UnsplashPicker/RequestError.h"
 
 namespace tessivo::unsplash {

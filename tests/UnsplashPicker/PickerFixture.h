@@ -13,6 +13,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <fstream>
+#include <iterator>
 
 namespace tessivo::unsplash {
 
@@ -30,6 +32,12 @@ public:
     std::optional<std::string> png(const Bitmap&) const override { return std::nullopt; }
 };
 
+/// The module's own texts in a language.
+inline JsonLocalizedTexts pickerTexts(const std::string& language) {
+    std::ifstream file(std::string(TESSIVO_UNSPLASH_TEXTS) + "/" + language + ".json", std::ios::binary);
+    return JsonLocalizedTexts::fromJson(std::string(std::istreambuf_iterator<char>(file), {})).value();
+}
+
 /// The picker's machine on virtual time: a scripted network, real JSON.
 class PickerTest : public testing::Test {
 protected:
@@ -40,8 +48,8 @@ protected:
     fakes::MemoryResponseCaches caches;
     NlohmannJson json;
     SizeImages images;
-    JsonLocalizedTexts texts;
-    PickerServices services{PickerPlatform{console, timeline, work, http, json, images, caches, texts}};
+    JsonLocalizedTexts texts = pickerTexts("en");
+    PickerServices services{PickerPlatform{console, timeline, work, http, json, images, caches, &texts}};
 };
 
 } // namespace tessivo::unsplash

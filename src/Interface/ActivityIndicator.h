@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Interface/View.h"
+
+namespace tessivo::ui {
+
+/// A turning wheel, seen while it turns.
+class ActivityIndicator final : public View {
+public:
+    using View::View;
+
+    [[nodiscard]] bool isAnimating() const { return animating_; }
+    void setAnimating(bool animating) {
+        animating_ = animating;
+        notify(ViewChange::Content);
+    }
+
+private:
+    bool animating_ = false;
+};
+
+} // namespace tessivo::ui

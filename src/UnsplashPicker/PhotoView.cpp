@@ -1,0 +1,110 @@
+#include "UnsplashPicker/PhotoView.h"
+
+#include "Interface/Animation.h"
+#include "Interface/ViewController.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace tessivo::unsplash {
+namespace {
+
+constexpr Seconds dissolve{0.25};
+constexpr double nameHeight = 36;
+constexpr double nameInset = 8;
+
+constexpr double maximumPixels = 16384;
+
+/// A length in whole pixels; a photo without a width has no length that means anything.
+int pixels(double points, double scale) {
+    return static_cast<int>(std::fmin(std::fmax(std::ceil(points * scale), 1), maximumPixels));
+}
+
+std::string nameOf(const UnsplashUser& user) {
+    return user.firstName && user.lastName ? *user.firstName + " " + *user.lastName : user.username;
+}
+
+} // namespace
+
+std::string decimalText(double width) {
+    std::array<char, 400> text{};
+    const auto [end, fault] =
+        std::to_chars(text.data(), text.data() + text.size(), width, std::chars_format::fixed);
+    std::string decimal(text.data(), end);
+    return decimal.find('.') == std::string::npos ? decimal + ".0" : decimal;
+}
+
+PhotoView::PhotoView(ui::ControlRegistry& controls, PickerServices& services, ui::WindowContext& window)
+    : View(controls, "photoView"),
+      imageView(controls, "imageView"),
+      gradientView(controls, "gradientView"),
+      userNameLabel(controls, "userNameLabel"),
+      window_(window),
+      imageDownloader(std::make_shared<ImageDownloader>(services)),
+      overlayViews{&gradientView, &userNameLabel} {
+    imageView.setContentMode(ui::ContentMode::AspectFill);
+    imageView.setClipsToBounds(true);
+    gradientView.setColors({{{0, 0, 0, 0}, 0}, {{0, 0, 0, 0.5}, 1}});
+    userNameLabel.setFont({13, ui::FontWeight::Regular});
+    userNameLabel.setTextColor(ui::ColorRef::white());
+    for (ui::View* view : std::initializer_list<ui::View*>{&imageView, &gradientView, &userNameLabel})
+        addSubview(*view);
+}
+
+void PhotoView::layoutSubviews() {
+    const ui::Rect area = bounds();
+    imageView.setFrame({0, 0, area.width, area.height});
+    const double overlay = std::min(nameHeight, area.height);
+    gradientView.setFrame({0, area.height - overlay, area.width, overlay});
+    userNameLabel.setFrame({nameInset, area.height - overlay, area.width - 2 * nameInset, overlay});
+}
+
+void PhotoView::configure(const UnsplashPhoto& photo, bool showsUsername) {
+    for (ui::View* view : overlayViews)
+        view->setAlpha(showsUsername ? 1 : 0);
+    userNameLabel.setText(nameOf(photo.user));
+    setAccessibilityName(nameOf(photo.user));
+    // The tint lies behind the picture as well, so that a picture that fades in fades from the tint.
+    const auto tint = photo.color ? ui::ColorRef::of(*photo.color) : ui::ColorRef();
+    imageView.setBackgroundColor(tint);
+    setBackgroundColor(tint);
+    currentPhotoID_ = photo.identifier;
+    downloadImage(photo);
+}
+
+void PhotoView::downloadImage(const UnsplashPhoto& photo) {
+    const auto regular = photo.urls.find(URLKind::regular);
+    if (regular == photo.urls.end())
+        return;
+    layoutIfNeeded();
+    const double scale = window_.screen.scale();
+    const Url sized = regular->second.appendingQueryItem("w", decimalText(frame().width))
+                          .appendingQueryItem("dpr", std::to_string(static_cast<int>(scale)));
+    const PixelSize covering{pixels(frame().width, scale), pixels(frame().height, scale)};
+    imageDownloader->download(sized, covering,
+                              [this, wanted = photo.identifier](const ui::Image& image, bool fromCache) {
+                                  if (currentPhotoID_ == wanted)
+                                      show(image, fromCache);
+                              });
+}
+
+void PhotoView::show(const ui::Image& image, bool fromCache) {
+    imageView.setImage(image);
+    if (fromCache)
+        return;
+    imageView.setAlpha(0);
+    const auto fade = ui::PropertyAnimator::make(window_.animations, ui::EaseInOut{dissolve});
+    fade->addAnimations([this] { imageView.setAlpha(1); });
+    fade->startAnimation();
+}
+
+void PhotoView::prepareForReuse() {
+    currentPhotoID_.reset();
+    userNameLabel.setText("");
+    imageView.setBackgroundColor(ui::ColorRef::clear());
+    setBackgroundColor(ui::ColorRef::clear());
+    imageView.setImage({});
+    imageDownloader->cancel();
+}
+
+} // namespace tessivo::unsplash

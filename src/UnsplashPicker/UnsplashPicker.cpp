@@ -1,0 +1,32 @@
+#include "UnsplashPicker/UnsplashPicker.h"
+
+#include "UnsplashPicker/PickerServices.h"
+
+namespace tessivo::unsplash {
+
+UnsplashPicker::UnsplashPicker(PickerServices& services, ui::WindowContext& window)
+    : ViewController(window), content_(std::make_shared<UnsplashPickerViewController>(services, window)) {
+    content_->setParent(this);
+}
+
+std::shared_ptr<UnsplashPicker> UnsplashPicker::make(PickerServices& services, ui::WindowContext& window,
+                                                     UnsplashPickerConfiguration configuration) {
+    services.setConfiguration(std::move(configuration));
+    const std::shared_ptr<UnsplashPicker> picker(new UnsplashPicker(services, window));
+    picker->content_->delegate = picker;
+    return picker;
+}
+
+void UnsplashPicker::photoPickerDidFinish(UnsplashPickerViewController&, const Photos& photos) {
+    if (const auto told = photoPickerDelegate.lock())
+        told->photoPickerDidSelect(*this, photos);
+    dismiss();
+}
+
+void UnsplashPicker::photoPickerDidCancel(UnsplashPickerViewController&) {
+    if (const auto told = photoPickerDelegate.lock())
+        told->photoPickerDidCancel(*this);
+    dismiss();
+}
+
+} // namespace tessivo::unsplash

@@ -1,0 +1,109 @@
+#include "UnsplashPicker/WaterfallLayout.h"
+
+#include "Ports/Console.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <span>
+#include <utility>
+
+namespace tessivo::unsplash {
+namespace {
+
+constexpr double columnDivisor = 166;
+constexpr double widthMargin = 16;
+constexpr int maximumColumns = 3;
+constexpr double wideSpacing = 16;
+constexpr double narrowSpacing = 1;
+
+} // namespace
+
+int WaterfallLayout::rawColumnCount() const {
+    return static_cast<int>(std::floor(width_ - widthMargin) / columnDivisor);
+}
+
+double WaterfallLayout::contentWidth() const {
+    return rawColumnCount() == 1 ? width_ : width_ - margins_.left - margins_.right;
+}
+
+void WaterfallLayout::prepare(int count, ui::Size, ui::Size bounds) {
+    width_ = bounds.width;
+    pagingViewFrame_.reset();
+    frames_.clear();
+    contentHeight_ = 0;
+    const auto sizes = delegate.lock();
+    if (sizes && rawColumnCount() >= 1)
+        place(count, *sizes);
+    indexEdges();
+}
+
+void WaterfallLayout::place(int count, WaterfallLayoutDelegate& sizes) {
+    const int raw = rawColumnCount();
+    const int columns = std::min(raw, maximumColumns);
+    const double spacing = raw == 1 ? narrowSpacing : wideSpacing;
+    const double columnWidth =
+        raw == 1 ? contentWidth() : (contentWidth() - spacing * (columns - 1)) / columns;
+    std::array<double, maximumColumns> allHeights{};
+    const std::span heights(allHeights.data(), static_cast<std::size_t>(columns));
+    std::ranges::fill(heights, topInset);
+
+    frames_.reserve(static_cast<std::size_t>(count));
+    for (int item = 0; item < count; ++item) {
+        const ui::Size size = sizes.waterfallSizeForItem(item);
+        const auto shortest = std::ranges::min_element(heights);
+        const auto column = static_cast<double>(shortest - heights.begin());
+        const double x = columns == 1 ? 0 : (columnWidth + spacing) * column + margins_.left;
+        frames_.push_back(
+            {x, *shortest, std::floor(columnWidth), std::floor(columnWidth * size.height / size.width)});
+        *shortest += frames_.back().height + spacing;
+    }
+    contentHeight_ = std::ranges::max(heights);
+    if (count > 0) {
+        pagingViewFrame_ = ui::Rect{0, contentHeight_, width_, pagingViewHeight};
+        contentHeight_ += pagingViewHeight;
+    }
+    contentHeight_ += spacing;
+}
+
+void WaterfallLayout::indexEdges() {
+    lowestEdgeUpTo_.resize(frames_.size());
+    highestEdgeFrom_.resize(frames_.size());
+    double edge = -std::numeric_limits<double>::infinity();
+    for (std::size_t item = 0; item < frames_.size(); ++item)
+        lowestEdgeUpTo_[item] = edge = std::max(edge, frames_[item].maxY());
+    edge = std::numeric_limits<double>::infinity();
+    for (std::size_t item = frames_.size(); item-- > 0;)
+        highestEdgeFrom_[item] = edge = std::min(edge, frames_[item].y);
+}
+
+ui::Size WaterfallLayout::contentSize() const {
+    return {contentWidth(), contentHeight_};
+}
+
+ui::Rect WaterfallLayout::frame(int item) const {
+    if (item < 0 || std::cmp_greater_equal(item, frames_.size()))
+        console_.stopProgram("An item of the photo grid has no place.");
+    return frames_[static_cast<std::size_t>(item)];
+}
+
+ui::ItemRange WaterfallLayout::itemsIn(const ui::Rect& visible) const {
+    const auto meets = [&](const ui::Rect& frame) { return frame.intersects(visible); };
+    // What ends above the rectangle or begins below it cannot meet it.
+    const auto above = std::ranges::upper_bound(lowestEdgeUpTo_, visible.minY()) - lowestEdgeUpTo_.begin();
+    const auto below = std::ranges::lower_bound(highestEdgeFrom_, visible.maxY()) - highestEdgeFrom_.begin();
+    const int count = static_cast<int>(frames_.size());
+    if (above >= below)
+        return {0, count};
+    const auto candidates = std::ranges::subrange(frames_.begin() + above, frames_.begin() + below);
+    const auto first = std::ranges::find_if(candidates, meets);
+    if (first == candidates.end())
+        return {0, count};
+    auto last = candidates.end();
+    while (!meets(*(last - 1)))
+        --last;
+    return {static_cast<int>(first - frames_.begin()), static_cast<int>(last - frames_.begin())};
+}
+
+} // namespace tessivo::unsplash

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Interface/CollectionLayout.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tessivo {
+class Console;
+}
+
+namespace tessivo::unsplash {
+
+/// Tells a waterfall the sizes of its items. Held weakly by it.
+class WaterfallLayoutDelegate {
+public:
+    virtual ~WaterfallLayoutDelegate() = default;
+
+    /// Of which only the aspect ratio counts; zero for an item that there is none of.
+    [[nodiscard]] virtual ui::Size waterfallSizeForItem(int item) = 0;
+};
+
+/// Items of any shape in up to three columns of equal width, each item in the column that is shortest when
+/// its turn comes, and a footer under all of them.
+class WaterfallLayout final : public ui::CollectionLayout {
+public:
+    explicit WaterfallLayout(Console& console) : console_(console) {}
+
+    static constexpr double pagingViewHeight = 44;
+
+    std::weak_ptr<WaterfallLayoutDelegate> delegate;
+    double topInset = 16; ///< from the top to the first row
+
+    /// The room that the window wants to the left and right of several columns; one column has none.
+    void setLayoutMargins(ui::Insets margins) { margins_ = margins; }
+
+    void prepare(int count, ui::Size itemSize, ui::Size bounds) override;
+    [[nodiscard]] ui::Size contentSize() const override;
+    /// An item without a frame stops the program.
+    [[nodiscard]] ui::Rect frame(int item) const override;
+    /// From the first to the last item that meets the rectangle, with all between them; all items where none
+    /// meets it.
+    [[nodiscard]] ui::ItemRange itemsIn(const ui::Rect& visible) const override;
+
+    /// The frames of all items; empty where the collection is too narrow for a column.
+    [[nodiscard]] const std::vector<ui::Rect>& frames() const { return frames_; }
+    /// Where the footer lies; empty without items.
+    [[nodiscard]] const std::optional<ui::Rect>& pagingViewFrame() const { return pagingViewFrame_; }
+    /// Whether a collection that becomes as large as `bounds` needs other frames.
+    [[nodiscard]] bool shouldInvalidateLayout(ui::Size bounds) const { return bounds.width != width_; }
+
+private:
+    [[nodiscard]] int rawColumnCount() const;
+    [[nodiscard]] double contentWidth() const;
+    void place(int count, WaterfallLayoutDelegate& sizes);
+    void indexEdges();
+
+    Console& console_;
+    ui::Insets margins_;
+    double width_ = 0;
+    double contentHeight_ = 0;
+    std::vector<ui::Rect> frames_;
+    std::optional<ui::Rect> pagingViewFrame_;
+    // Rising numbers to find the first and the last visible item by bisection.
+    std::vector<double> lowestEdgeUpTo_;  ///< the largest maxY of the items up to this one
+    std::vector<double> highestEdgeFrom_; ///< the smallest y of this item and those behind it
+};
+
+} // namespace tessivo::unsplash
