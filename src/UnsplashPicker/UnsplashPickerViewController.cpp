@@ -280,8 +280,8 @@ void UnsplashPickerViewController::dataSourceWillStartFetching(PagedDataSource&)
     spinner.setAnimating(true);
 }
 
-void UnsplashPickerViewController::dataSourceDidFetch(PagedDataSource& source, const Photos&) {
-    onMain(source, [](auto& self) { self.showFetched(); });
+void UnsplashPickerViewController::dataSourceDidFetch(PagedDataSource& source, const Photos& items) {
+    onMain(source, [hasNew = !items.empty()](auto& self) { self.showFetched(hasNew); });
 }
 
 void UnsplashPickerViewController::dataSourceFetchDidFail(PagedDataSource& source, const Error& error) {
@@ -290,15 +290,16 @@ void UnsplashPickerViewController::dataSourceFetchDidFail(PagedDataSource& sourc
                                 : EmptyViewState::serverError](auto& self) { self.showState(state); });
 }
 
-void UnsplashPickerViewController::showFetched() {
+void UnsplashPickerViewController::showFetched(bool hasNew) {
     spinner.setAnimating(false);
     hideState();
     const int shown = collectionView.numberOfItems();
     const int count = static_cast<int>(dataSource_->items()->size());
     if (onScreen_ && shown < count)
         collectionView.insertItems(shown, count - shown);
-    else
+    else if (shown != count || hasNew)
         collectionView.reloadData();
+    // Otherwise nothing has changed: a reload would show the item that asks for more once again, for ever.
     if (count == 0)
         showState(EmptyViewState::noResults);
 }

@@ -93,7 +93,7 @@ private:
     void search(const std::optional<std::string>& text);
     void searchTextChanged();
     [[nodiscard]] std::shared_ptr<PagedDataSource> makeSource(class PhotosDataSourceFactory factory);
-    void showFetched();
+    void showFetched(bool hasNew);
     void showState(EmptyViewState state);
     void hideState();
     void selectionChanged();

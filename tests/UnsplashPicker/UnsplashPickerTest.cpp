@@ -119,6 +119,15 @@ TEST_F(UnsplashPickerTest, FetchesTheNextPageNearTheEnd) {
     EXPECT_FALSE(screen.dataSource().canFetchMore());
 }
 
+TEST_F(UnsplashPickerTest, AskingForMoreThanThereIsComesToRest) {
+    auto& screen = openWith(19);
+    EXPECT_EQ(screen.collectionView.numberOfItems(), 19); // item 0 of 19 asked for more, in vain
+    screen.collectionView.reloadData();
+    timeline.runPosted();
+    EXPECT_NE(cell(0), nullptr);
+    EXPECT_FALSE(isEmptyViewShown());
+}
+
 TEST_F(UnsplashPickerTest, TheFootTellsWhetherMoreIsComing) {
     auto& screen = openWith(30);
     EXPECT_FALSE(screen.pagingView.isLoading());
