@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Ports/ImageCoding.h"
+
+namespace tessivo {
+
+/// Pictures in the formats that Qt and its plugins read. A picture of more than 64 megapixels is refused by
+/// its header, before any of it is decoded; what a false header hides meets Qt's own limit on memory.
+class QtImageCoding final : public ImageCoding {
+public:
+    std::shared_ptr<const Bitmap> decode(std::string_view data,
+                                         std::optional<PixelSize> covering) const override;
+    std::optional<std::string> jpeg(const Bitmap& bitmap, double quality) const override;
+    std::optional<std::string> png(const Bitmap& bitmap) const override;
+};
+
+} // namespace tessivo

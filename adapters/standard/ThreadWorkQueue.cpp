@@ -1,0 +1,41 @@
+#include "standard/ThreadWorkQueue.h"
+
+#include <utility>
+
+namespace tessivo {
+
+ThreadWorkQueue::ThreadWorkQueue() : thread_([this] { run(); }) {}
+
+ThreadWorkQueue::~ThreadWorkQueue() {
+    {
+        const std::lock_guard lock(mutex_);
+        ending_ = true;
+    }
+    changed_.notify_one();
+    thread_.join();
+}
+
+void ThreadWorkQueue::post(std::function<void()> work) {
+    {
+        const std::lock_guard lock(mutex_);
+        waiting_.push_back(std::move(work));
+    }
+    changed_.notify_one();
+}
+
+void ThreadWorkQueue::run() {
+    std::unique_lock lock(mutex_);
+    while (true) {
+        changed_.wait(lock, [this] { return ending_ || !waiting_.empty(); });
+        if (ending_)
+            return;
+        auto work = std::move(waiting_.front());
+        waiting_.pop_front();
+        lock.unlock();
+        work();
+        work = nullptr; // what the work holds is let go of outside the lock
+        lock.lock();
+    }
+}
+
+} // namespace tessivo
