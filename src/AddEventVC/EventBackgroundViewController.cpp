@@ -82,6 +82,8 @@ std::shared_ptr<ui::CollectionViewCell>
 EventBackgroundViewController::cellForItem(ui::CollectionView& collection, int item) {
     const auto cell =
         std::static_pointer_cast<BackgrounCell>(collection.dequeueReusableCell(reuseIdentifier));
+    const char* kind = &collection == &colorCollection ? "Color " : "Gradient ";
+    cell->setAccessibilityName(kind + std::to_string(item + 1));
     if (&collection == &colorCollection) {
         cell->showColor(colorItemAt(item, platform().console));
         cell->setMarked(selectedColorIndexPath == item);

@@ -41,8 +41,10 @@ void ReminderViewController::buildRows() {
     reminderMess.setAccessibilityName("Reminder Message");
     reminderMess.delegate = weakSelf<ui::TextInputDelegate>(this);
     CountLabel.setStyledText(makeCounterText("Reminder Message", 0, maxLength));
-    for (auto* button : {&repeatButton, &alertButton})
+    for (auto* button : {&repeatButton, &alertButton}) {
         button->setImageName("chevronNext");
+        button->setTint(ui::ColorRef::black());
+    }
     repeatButton.setAccessibilityName(repeatInfoLabel.text());
     alertButton.setAccessibilityName(alertInfoLabel.text());
     repeatButton.addTarget(ui::PressEvent::UpInside, [this] { repeatButtonTapped(); });

@@ -7,12 +7,14 @@
 #include <QQuickWindow>
 #include <QTest>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace tessivo::tour {
 namespace {
 
 constexpr int stepsOfADrag = 12;
+constexpr int scrollAttempts = 5;
 constexpr int settlingTime = 700; // ms: the longest slide, and the frames around it
 
 bool isDrawn(const QQuickItem& item) {
@@ -21,6 +23,16 @@ bool isDrawn(const QQuickItem& item) {
             return false;
     }
     return item.width() > 0;
+}
+
+/// The list or page that scrolls up and down with the item in it; null for an item that stands still.
+const QQuickItem* pageOf(const QQuickItem& item) {
+    for (const QQuickItem* ancestor = item.parentItem(); ancestor; ancestor = ancestor->parentItem()) {
+        if (ancestor->inherits("QQuickFlickable") &&
+            ancestor->property("contentHeight").toDouble() > ancestor->height())
+            return ancestor;
+    }
+    return nullptr;
 }
 
 /// The topmost drawn item of that name: later siblings lie over earlier ones.
@@ -57,7 +69,21 @@ QRectF Finger::placeOf(const QString& name) {
 }
 
 void Finger::tap(const QString& name) {
+    bringIntoReach(name);
     tapAt(placeOf(name).center());
+}
+
+void Finger::bringIntoReach(const QString& name) {
+    for (int attempt = 0; attempt < scrollAttempts; ++attempt) {
+        const QQuickItem* page = pageOf(*find(name));
+        if (!page)
+            return;
+        const QRectF view = page->mapRectToScene(QRectF(0, 0, page->width(), page->height()));
+        const double beyond = placeOf(name).bottom() - view.bottom();
+        if (beyond <= 0)
+            return;
+        drag(view.center(), view.center() - QPointF(0, std::min(beyond + 30, view.height() / 2)));
+    }
 }
 
 void Finger::tapAt(QPointF point) {

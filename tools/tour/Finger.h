@@ -17,7 +17,7 @@ class Finger {
 public:
     explicit Finger(QQuickWindow& window);
 
-    /// Touches the middle of the control of that accessible name.
+    /// Touches the middle of the control of that accessible name, scrolling to it where it lies out of reach.
     void tap(const QString& name);
     /// Touches a point of the window.
     void tapAt(QPointF point);
@@ -32,6 +32,7 @@ public:
     [[nodiscard]] QRectF placeOf(const QString& name);
 
 private:
+    void bringIntoReach(const QString& name);
     [[nodiscard]] QQuickItem* find(const QString& name);
 
     QQuickWindow& window_;

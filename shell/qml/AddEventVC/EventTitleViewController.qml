@@ -14,9 +14,10 @@ WizardFrame {
         width: parent.width
         focus: true
     }
-    CounterLabel {
+    StyledLabel {
         label: step.screen.control("CountLabel") as LabelItem
         x: 4
+        width: parent.width - 8
     }
     Item { width: 1; height: 16 }
     PreviewCard {

@@ -23,15 +23,11 @@ WizardFrame {
         chevron: step.screen.control("repeatButton") as ButtonItem
         width: parent.width
     }
-    Item {
-        width: parent.width
-        height: counter.visible ? counter.height + 8 : 0
-        CounterLabel {
-            id: counter
-            label: step.screen.control("CountLabel") as LabelItem
-            x: 4
-            y: 8
-        }
+    StyledLabel {
+        label: step.screen.control("CountLabel") as LabelItem
+        x: 4
+        topPadding: 10
+        width: parent.width - 8
     }
     MessageBox {
         input: step.screen.control("reminderMess") as TextInputItem

@@ -14,10 +14,14 @@ CollectionFlick {
         readonly property ViewItem content: cell.control("contentView")
         readonly property ImageItem mark: cell.control("premium") as ImageItem
 
-        x: strip.reversed ? strip.contentWidth - cell.x - cell.width : cell.x
+        x: cell.x
         y: cell.y
         width: cell.width
         height: cell.height
+        transform: Scale {
+            origin.x: swatch.width / 2
+            xScale: strip.reversed ? -1 : 1
+        }
         activeFocusOnTab: true
         Keys.onReturnPressed: strip.collection.tapItem(cell.item)
         Keys.onSpacePressed: strip.collection.tapItem(cell.item)
@@ -44,10 +48,6 @@ CollectionFlick {
                 tint: Theme.accent
                 side: 18
             }
-        }
-        MouseArea {
-            anchors.fill: parent
-            onClicked: strip.collection.tapItem(swatch.cell.item)
         }
         FocusRing { target: swatch; radius: 27 }
     }

@@ -26,8 +26,7 @@ FocusScope {
         focus: true
         activeFocusOnTab: true
         verticalAlignment: TextInput.AlignVCenter
-        horizontalAlignment: Qt.application.layoutDirection === Qt.RightToLeft ? TextInput.AlignRight
-                                                                              : TextInput.AlignLeft
+        horizontalAlignment: TextInput.AlignLeft
         clip: true
         selectByMouse: true
         font.pixelSize: control.input.size
@@ -45,7 +44,7 @@ FocusScope {
         text: control.input.placeholder
         font: field.font
         color: Theme.muted
-        horizontalAlignment: field.horizontalAlignment
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
         Accessible.ignored: true

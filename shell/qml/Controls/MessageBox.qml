@@ -26,6 +26,7 @@ FocusScope {
         anchors.bottomMargin: control.input.verticalInset
         activeFocusOnTab: true
         wrapMode: TextEdit.Wrap
+        horizontalAlignment: TextEdit.AlignLeft
         clip: true
         selectByMouse: true
         textFormat: TextEdit.PlainText

@@ -1,7 +1,7 @@
 import QtQuick
 import Tessivo
 
-// A label of one look, in the label's own font and colour.
+// A label in one look: that of its first piece.
 Text {
     id: text
 
@@ -10,8 +10,8 @@ Text {
     visible: label.shown
     text: label.text
     color: label.pieces.length > 0 ? label.pieces[0].color : label.color
-    font.pixelSize: label.size
-    font.weight: label.weight
+    font.pixelSize: label.pieces.length > 0 ? label.pieces[0].size : label.size
+    font.weight: label.pieces.length > 0 ? label.pieces[0].weight : label.weight
     horizontalAlignment: label.alignment
     maximumLineCount: label.lineLimit
     wrapMode: label.lineLimit === 1 ? Text.NoWrap : Text.Wrap

@@ -18,31 +18,37 @@ FocusScope {
     Keys.onUpPressed: turnBy(-1)
     Keys.onDownPressed: turnBy(1)
 
-    function turnBy(rows: int) {
-        const row = picker.selectedRow(wheelIndex) + rows;
-        picker.turn(wheelIndex, picker.wraps(wheelIndex) ? (row + list.count) % list.count : row);
+    function turnBy(steps: int) {
+        const row = picker.selectedRow(wheelIndex) + steps;
+        picker.turn(wheelIndex, picker.wraps(wheelIndex) ? (row + list.rows.length) % list.rows.length : row);
     }
 
-    // The program's rows and its place, after any change of the picked date.
+    // The program's rows and its place, after any change of the picked date. The nearest copy of the picked row is
+    // taken, so that the wheel goes on in the direction in which it was turned.
     function follow() {
         const rows = picker.rows(wheelIndex);
-        if (rows.length !== list.count || rows[0] !== list.rows[0] || rows[rows.length - 1] !== list.rows[list.count - 1])
+        const wraps = picker.wraps(wheelIndex);
+        const count = rows.length * (wraps ? list.copies : 1);
+        if (count !== list.count || rows[0] !== list.rows[0]) {
             list.rows = rows;
-        if (list.currentIndex !== picker.selectedRow(wheelIndex))
-            list.positionViewAtIndex(picker.selectedRow(wheelIndex), ListView.Center);
-        list.currentIndex = picker.selectedRow(wheelIndex);
+            list.model = count;
+            list.currentIndex = wraps ? rows.length * (list.copies - 1) / 2 : 0;
+        }
+        const away = (picker.selectedRow(wheelIndex) - list.currentIndex % rows.length + rows.length) % rows.length;
+        list.currentIndex += wraps && away > rows.length / 2 ? away - rows.length
+                           : wraps ? away : picker.selectedRow(wheelIndex) - list.currentIndex;
     }
 
     ListView {
         id: list
 
+        readonly property int copies: 41 // enough that nobody turns to the end
         property list<string> rows
         property int rowAlignment: Text.AlignHCenter
 
         anchors.fill: parent
         clip: true
         focus: true
-        model: rows
         keyNavigationEnabled: false
         preferredHighlightBegin: (height - wheel.rowHeight) / 2
         preferredHighlightEnd: preferredHighlightBegin + wheel.rowHeight
@@ -50,17 +56,16 @@ FocusScope {
         highlightMoveDuration: Theme.quick
         snapMode: ListView.SnapToItem
         boundsBehavior: Flickable.StopAtBounds
-        onMovementEnded: wheel.picker.turn(wheel.wheelIndex, currentIndex)
+        onMovementEnded: wheel.picker.turn(wheel.wheelIndex, currentIndex % rows.length)
 
         delegate: Text {
             id: row
-            required property string modelData
             required property int index
             readonly property real distance: Math.abs(y + height / 2 - list.contentY - list.height / 2) / list.height
 
             width: ListView.view.width
             height: wheel.rowHeight
-            text: modelData
+            text: list.rows.length > 0 ? list.rows[index % list.rows.length] : ""
             font.pixelSize: 20
             color: Theme.ink
             opacity: Math.max(0.12, 1 - 1.7 * distance)
@@ -71,7 +76,7 @@ FocusScope {
             Accessible.ignored: true
             MouseArea {
                 anchors.fill: parent
-                onClicked: wheel.picker.turn(wheel.wheelIndex, row.index)
+                onClicked: wheel.picker.turn(wheel.wheelIndex, row.index % list.rows.length)
             }
         }
         WheelHandler {
@@ -91,5 +96,8 @@ FocusScope {
         function onContentChanged() { wheel.follow(); }
     }
     FocusRing { radius: 10 }
-    Component.onCompleted: follow()
+    Component.onCompleted: {
+        follow();
+        list.positionViewAtIndex(list.currentIndex, ListView.SnapPosition);
+    }
 }

@@ -6,7 +6,7 @@ Item {
     id: control
 
     required property DatePickerItem picker
-    property list<real> shares: [1, 1, 1]
+    property list<real> shares: [0.34, 0.33, 0.33]
 
     implicitHeight: 180
     visible: picker.shown

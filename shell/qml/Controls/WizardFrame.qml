@@ -13,8 +13,14 @@ FocusScope {
     readonly property LabelItem titleLabel: screen.control("titleLabel") as LabelItem
     readonly property ImageItem topImage: screen.control("topImage") as ImageItem
 
-    /// A tap on the screen beside every control.
+    // A tap on the screen beside every control.
     signal tappedBeside
+
+    function tapBeside() {
+        forceActiveFocus();
+        screen.view.tap();
+        tappedBeside();
+    }
 
     focus: true
     Keys.onEscapePressed: prevButton.releaseInside()
@@ -26,11 +32,7 @@ FocusScope {
     }
     MouseArea {
         anchors.fill: parent
-        onClicked: {
-            frame.forceActiveFocus();
-            frame.screen.view.tap();
-            frame.tappedBeside();
-        }
+        onClicked: frame.tapBeside()
     }
     IconButton {
         id: back
@@ -60,6 +62,11 @@ FocusScope {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
 
+        MouseArea {
+            width: flick.width
+            height: Math.max(flick.height, flick.contentHeight)
+            onClicked: frame.tapBeside()
+        }
         StyledLabel {
             id: heading
             label: frame.titleLabel

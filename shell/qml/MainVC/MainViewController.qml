@@ -10,7 +10,7 @@ FocusScope {
     readonly property LabelItem titleLabel: screen.control("titleLabel") as LabelItem
     readonly property LabelItem mainlabel: screen.control("mainlabel") as LabelItem
     readonly property ButtonItem settingButton: screen.control("settingButton") as ButtonItem
-    readonly property real footRoom: 64 + width / 11.72 + 16
+    readonly property real footRoom: Math.max(64, width / 11.72 + 12) + width / 11.72 + 16
 
     focus: true
 

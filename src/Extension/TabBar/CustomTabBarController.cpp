@@ -8,10 +8,13 @@
 #include "Support/ScreenFactory.h"
 #include "Support/SettingKeys.h"
 
+#include <algorithm>
+
 namespace tessivo {
 namespace {
 
-constexpr double barHeight = 64;
+constexpr double leastBarHeight = 64;
+constexpr double roomUnderAddButton = 12;
 constexpr double addButtonDivisor = 5.86;
 constexpr double addButtonOffsetDivisor = 11.72;
 
@@ -51,10 +54,12 @@ void CustomTabBarController::viewWillAppear() {
 
 void CustomTabBarController::placeBar() {
     const double width = screen().width();
-    const double top = screen().height() - barHeight;
     const double size = width / addButtonDivisor;
+    const double overhang = width / addButtonOffsetDivisor;
+    const double barHeight = std::max(leastBarHeight, size - overhang + roomUnderAddButton);
+    const double top = screen().height() - barHeight;
     tabBar.setFrame({0, top, width, barHeight});
-    addButton.setFrame({(width - size) / 2, top - width / addButtonOffsetDivisor, size, size});
+    addButton.setFrame({(width - size) / 2, top - overhang, size, size});
 }
 
 void CustomTabBarController::addEvent() {
