@@ -60,7 +60,10 @@ CollectionItem::CollectionItem(ui::CollectionView& collection, const BridgeConte
     : ViewItem(collection, context, parent),
       collection_(collection),
       cells_(collection, context, this),
-      visibleCells_(collection.onVisibleCellsChange([this] { cells_.update(); })),
+      visibleCells_(collection.onVisibleCellsChange([this] {
+          collection_.layoutIfNeeded();
+          cells_.update();
+      })),
       scrollRequests_(collection.onScrollRequest(
           [this](ui::Point offset) { Q_EMIT scrollRequested(offset.x, offset.y); })) {}
 
@@ -72,6 +75,24 @@ void CollectionItem::resize(double width, double height) {
     frame.height = height;
     collection_.setFrame(frame);
     collection_.layoutIfNeeded();
+}
+
+void CollectionItem::scrollBegan() {
+    collection_.panGestureRecognizer()->begin({}, {}, {});
+}
+
+void CollectionItem::scrollEnded() {
+    collection_.panGestureRecognizer()->end({});
+}
+
+bool CollectionItem::openMenu(int item, double x, double y) {
+    const auto delegate = collection_.delegate.lock();
+    auto menu = delegate ? delegate->contextMenuForItem(collection_, item, {x, y}) : std::nullopt;
+    if (!menu)
+        return false;
+    menu_ = std::make_unique<MenuItem>(std::move(*menu), this);
+    Q_EMIT menuOpened(menu_.get(), x, y);
+    return true;
 }
 
 } // namespace tessivo::shell

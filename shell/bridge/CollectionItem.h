@@ -2,6 +2,7 @@
 
 #include "Interface/CollectionView.h"
 #include "bridge/ItemSet.h"
+#include "bridge/MenuItem.h"
 #include "bridge/ViewItem.h"
 
 #include <QAbstractListModel>
@@ -18,6 +19,7 @@ class CellItem final : public ViewItem {
     QML_UNCREATABLE("Cells belong to the program")
     Q_PROPERTY(int item READ item NOTIFY itemChanged FINAL)
     Q_PROPERTY(bool selected READ selected NOTIFY contentChanged FINAL)
+    Q_PROPERTY(bool highlighted READ highlighted NOTIFY contentChanged FINAL)
 
 public:
     CellItem(std::shared_ptr<ui::CollectionViewCell> cell, const BridgeContext& context, QObject* parent)
@@ -28,6 +30,7 @@ public:
     [[nodiscard]] const ui::CollectionViewCell& cell() const { return *cell_; }
     [[nodiscard]] int item() const { return item_; }
     [[nodiscard]] bool selected() const { return cell_->isSelected(); }
+    [[nodiscard]] bool highlighted() const { return cell_->isHighlighted(); }
     void setItem(int item);
     Q_INVOKABLE tessivo::shell::ViewItem* control(const QString& name) { return controls_.control(name); }
 
@@ -75,6 +78,7 @@ class CollectionItem final : public ViewItem {
 public:
     CollectionItem(ui::CollectionView& collection, const BridgeContext& context, QObject* parent);
 
+    [[nodiscard]] ui::CollectionView& view() const { return collection_; }
     [[nodiscard]] CellModel* cells() { return &cells_; }
     [[nodiscard]] double contentWidth() const { return collection_.contentSize().width; }
     [[nodiscard]] double contentHeight() const { return collection_.contentSize().height; }
@@ -85,14 +89,22 @@ public:
     Q_INVOKABLE void scrolledTo(double x, double y) { collection_.scrolledTo({x, y}); }
     /// The user taps an item.
     Q_INVOKABLE void tapItem(int item) { collection_.tapItem(item); }
+    /// The user's finger begins to scroll, and lets go.
+    Q_INVOKABLE void scrollBegan();
+    Q_INVOKABLE void scrollEnded();
+    /// The user asks for the menu of an item, at a place of the content. Says whether it has one.
+    Q_INVOKABLE bool openMenu(int item, double x, double y);
 
 Q_SIGNALS:
     /// The program scrolls.
     void scrollRequested(double x, double y);
+    /// The menu stays until the next one opens.
+    void menuOpened(tessivo::shell::MenuItem* menu, double x, double y);
 
 private:
     ui::CollectionView& collection_;
     CellModel cells_;
+    std::unique_ptr<MenuItem> menu_;
     Subscription visibleCells_;
     Subscription scrollRequests_;
 };

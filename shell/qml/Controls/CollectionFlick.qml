@@ -15,28 +15,51 @@ Flickable {
     flickableDirection: sideways ? Flickable.HorizontalFlick : Flickable.VerticalFlick
     boundsBehavior: Flickable.DragAndOvershootBounds
     clip: true
+    // A strip begins where the language begins: it is turned over, and each of its cells turned back.
+    transform: Scale {
+        origin.x: flick.width / 2
+        xScale: flick.reversed ? -1 : 1
+    }
     Accessible.role: Accessible.List
 
     function report() {
+        if (!collection)
+            return; // the screen is on its way out
         collection.resize(width, height);
-        collection.scrolledTo(reversed ? contentWidth - contentX - width : contentX, contentY);
+        collection.scrolledTo(contentX, contentY);
     }
     onWidthChanged: report()
     onHeightChanged: report()
     onContentXChanged: report()
     onContentYChanged: report()
-    onContentWidthChanged: if (reversed && !moving) contentX = contentWidth - width
     Component.onCompleted: report()
 
     Repeater {
         model: flick.collection.cells
         delegate: flick.delegate
     }
+    TouchSurface {
+        width: flick.contentWidth
+        height: flick.contentHeight
+        collection: flick.collection
+    }
+    Loader {
+        id: menu
+        active: false
+        sourceComponent: ContextMenu {}
+    }
     Connections {
         target: flick.collection
         function onScrollRequested(x: real, y: real) {
-            flick.contentX = flick.reversed ? flick.contentWidth - x - flick.width : x;
+            flick.contentX = x;
             flick.contentY = y;
+        }
+        function onMenuOpened(item: MenuItem, x: real, y: real) {
+            menu.active = true;
+            menu.item.menu = item;
+            menu.item.x = x;
+            menu.item.y = y;
+            menu.item.open();
         }
     }
 }

@@ -17,17 +17,21 @@ FocusScope {
     height: cell.height
     activeFocusOnTab: true
     Keys.onReturnPressed: list.collection.tapItem(cell.item)
+    Keys.onMenuPressed: list.collection.openMenu(cell.item, x + width / 2, y + height / 2)
     Accessible.role: Accessible.Button
     Accessible.name: cell.accessibleName
     Accessible.onPressAction: list.collection.tapItem(cell.item)
 
-    SoftShadow { radius: card.cell.cornerRadius }
     CardPaint {
-        anchors.fill: parent
+        x: card.content.x
+        y: card.content.y
+        width: card.content.width
+        height: card.content.height
         radius: card.content.cornerRadius
         fill: card.content.fill
-        scale: touch.pressed ? 0.985 : 1
+        scale: card.cell.highlighted ? 0.985 : 1
         Behavior on scale { NumberAnimation { duration: Theme.quick } }
+        SoftShadow { radius: card.cell.cornerRadius }
         CardLabel {
             label: card.timeLabel
             anchors.top: parent.top
@@ -42,11 +46,6 @@ FocusScope {
             anchors.margins: 24
             width: parent.width - 48
         }
-    }
-    MouseArea {
-        id: touch
-        anchors.fill: parent
-        onClicked: card.list.collection.tapItem(card.cell.item)
     }
     FocusRing { target: card; radius: card.cell.cornerRadius + 3 }
 }

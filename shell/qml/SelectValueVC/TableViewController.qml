@@ -36,7 +36,7 @@ Item {
             Rectangle {
                 anchors.fill: parent
                 color: Theme.field
-                opacity: touch.pressed ? 0.7 : 0
+                opacity: row.cell.highlighted ? 0.7 : 0
             }
             StyledLabel {
                 label: row.label
@@ -63,11 +63,6 @@ Item {
                     tint: row.mark.tint
                     side: 14
                 }
-            }
-            MouseArea {
-                id: touch
-                anchors.fill: parent
-                onClicked: rows.collection.tapItem(row.cell.item)
             }
             FocusRing { target: row; anchors.margins: 4 }
         }
