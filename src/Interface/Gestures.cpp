@@ -36,6 +36,8 @@ void GestureRecognizer::enter(GestureState state) {
         const auto target = targets_[index].second;
         target(*this);
     }
+    if (state_ == GestureState::Ended || state_ == GestureState::Cancelled)
+        state_ = GestureState::Possible;
 }
 
 bool TapGestureRecognizer::recognize(Point point) {
@@ -60,10 +62,8 @@ bool PanGestureRecognizer::begin(Point location, Point translation, Point veloci
     raw_ = translation;
     offset_ = {};
     velocity_ = velocity;
-    if (!mayBegin()) {
-        enter(GestureState::Failed);
+    if (!mayBegin())
         return false;
-    }
     enter(GestureState::Began);
     return true;
 }

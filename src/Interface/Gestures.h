@@ -23,7 +23,8 @@ public:
 };
 
 /// Watches the touches on its view. The window feeds it; targets are called with each change of its state, in
-/// the order in which they were added. Main thread.
+/// the order in which they were added. A gesture that is over is possible again once its targets have heard
+/// of it; one that may not begin stays possible and calls no target. Main thread.
 class GestureRecognizer {
 public:
     virtual ~GestureRecognizer() = default;
@@ -83,7 +84,7 @@ public:
 class PanGestureRecognizer final : public GestureRecognizer {
 public:
     /// The finger has moved far enough to be a pan; `location` in its view's space. Asks the delegate with
-    /// the translation already in place; a no fails the gesture. Says whether it has begun.
+    /// the translation already in place. Says whether it has begun.
     bool begin(Point location, Point translation, Point velocity);
     /// Ignored unless begun. `translation` counts from the beginning of the gesture.
     void change(Point location, Point translation, Point velocity);

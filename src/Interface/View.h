@@ -126,6 +126,13 @@ public:
         return changes_.subscribe(std::move(changed));
     }
 
+    /// Expires with the view, for work that may come after it.
+    [[nodiscard]] std::weak_ptr<const void> lifetime() const {
+        if (!lifetime_)
+            lifetime_ = std::make_shared<char>();
+        return lifetime_;
+    }
+
     /// The animations of the screen that this view is the root of; the screen sets it.
     void setAnimations(Animations* animations) { animations_ = animations; }
 
@@ -173,6 +180,7 @@ private:
     bool interactionEnabled_ = true;
     bool needsLayout_ = true;
     Signal<ViewChange> changes_;
+    mutable std::shared_ptr<const void> lifetime_;
 };
 
 } // namespace tessivo::ui

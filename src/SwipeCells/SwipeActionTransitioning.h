@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace tessivo::ui {
+class Animations;
+class Button;
+class View;
+} // namespace tessivo::ui
+
+namespace tessivo::swipe {
+
+/// A change of how much of a button is seen, as shares of its full width.
+struct SwipeActionTransitioningContext {
+    std::optional<std::string> actionIdentifier;
+    ui::Button& button;
+    double newPercentVisible;
+    double oldPercentVisible;
+    ui::View& wrapperView;
+    ui::Animations& animations;
+};
+
+/// Hears of each such change, in a later turn of the main queue than the layout that caused it.
+class SwipeActionTransitioning {
+public:
+    virtual ~SwipeActionTransitioning() = default;
+
+    virtual void didTransition(const SwipeActionTransitioningContext& context) const = 0;
+};
+
+} // namespace tessivo::swipe

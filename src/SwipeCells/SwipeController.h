@@ -1,0 +1,117 @@
+#pragma once
+
+#include "Interface/Gestures.h"
+#include "SwipeCells/SwipeActionsView.h"
+#include "SwipeCells/SwipeControllerDelegate.h"
+#include "SwipeCells/SwipeEnvironment.h"
+#include "SwipeCells/Swipeable.h"
+
+namespace tessivo::swipe {
+
+using SwipeAnimator = ui::PropertyAnimator;
+
+// The engine of one cell. A pan moves the cell's container and uncovers a row of buttons beside it; the
+// release lets the container settle open or closed; an action is carried out by a tap on its button, or by
+// the release of a row that has expanded.
+//
+//   Center, AnimatingToCenter --pan begins, actions exist--> Dragging --release--> Left | Right | Center
+//   Left, Right --hide--> AnimatingToCenter --settled--> Center
+//
+// A release into Center passes through the settling with the state Center already; the row goes at its end.
+
+class SwipeController final : public ui::GestureRecognizerDelegate,
+                              public SwipeActionsViewDelegate,
+                              public std::enable_shared_from_this<SwipeController> {
+public:
+    using Completion = std::function<void(bool finished)>;
+
+    /// Puts its recognizers on the cell. `container` is the view that is moved, maybe the cell itself.
+    [[nodiscard]] static std::shared_ptr<SwipeController> make(SwipeEnvironment environment,
+                                                               Swipeable& swipeable, ui::View& container,
+                                                               SwipeControllerDelegate& delegate);
+
+    /// The cell is going: from now on nothing happens.
+    void letGo();
+    /// The list that holds the cell, or null.
+    void setScrollView(ui::ScrollView* list) { scrollView_ = list; }
+
+    [[nodiscard]] const std::shared_ptr<ui::PanGestureRecognizer>& panGestureRecognizer() const {
+        return panGestureRecognizer_;
+    }
+    [[nodiscard]] const std::shared_ptr<ui::TapGestureRecognizer>& tapGestureRecognizer() const {
+        return tapGestureRecognizer_;
+    }
+    [[nodiscard]] ui::Insets originalLayoutMargins() const { return originalLayoutMargins_; }
+    [[nodiscard]] double scrollRatio() const { return scrollRatio_; }
+    /// A settling is under way.
+    [[nodiscard]] bool isSettling() const { return animator_ && animator_->isRunning(); }
+
+    [[nodiscard]] bool gestureRecognizerShouldBegin(ui::GestureRecognizer& recognizer) override;
+    void didSelect(SwipeActionsView& view, const std::shared_ptr<SwipeAction>& action) override;
+
+    void handlePan();
+    void handleTap();
+    /// Closes an open cell; the owner hears that editing has ended.
+    void hideSwipe(bool animated, Completion completion = {});
+    /// Opens the cell by `offset`: to the right above 0, to the left below; 0 closes it. The largest length
+    /// there is opens it as far as the row is wide.
+    void setSwipeOffset(double offset, bool animated, Completion completion = {});
+    /// The state and the row only; the container stays where it is.
+    void reset();
+    /// After a change of the screen's traits: an open cell settles anew, at once.
+    void traitsDidChange();
+    /// Hangs the row on the container's edge, in the cell's present size.
+    void layoutActionsView();
+
+    /// Where the finger has pulled a container that gives way to it freely up to `limit` from the middle of
+    /// the gesture's view, and by `ratio` beyond.
+    [[nodiscard]] static double elasticTranslation(const ui::PanGestureRecognizer& gesture,
+                                                   double originalCenter, double limit, double ratio = 0.2);
+
+private:
+    SwipeController(SwipeEnvironment environment, Swipeable& swipeable, ui::View& container,
+                    SwipeControllerDelegate& delegate);
+
+    void panBegan(double velocity);
+    void panChanged();
+    void panReleased(double velocity);
+    void stretch(const SwipeExpansionStyle& style, double offset);
+    bool showActionsView(SwipeActionsOrientation orientation);
+    void configureActionsView(SwipeActions actions, SwipeActionsOrientation orientation);
+    [[nodiscard]] ui::Insets insetsFor(const std::optional<ui::Rect>& visible) const;
+    void moveTo(double centerX);
+    void giveVisibleWidth();
+    void animateTo(double centerX, Seconds duration, double velocity, Completion completion);
+    void stopAnimator();
+    [[nodiscard]] double targetCenter(bool active) const;
+    [[nodiscard]] SwipeState targetState(double velocity) const;
+    void resetPosition();
+    void perform(const std::shared_ptr<SwipeAction>& action);
+    void perform(SwipeAction& action, bool hide);
+    void fill(const std::shared_ptr<SwipeAction>& action, SwipeExpansionStyle::FillOptions options);
+    void fillEnded(SwipeActionsOrientation orientation, int indexPath, double newCenter,
+                   ExpansionFulfillmentStyle style, HandlerInvocationTiming timing);
+    void removeCell(int indexPath, double newCenter, HandlerInvocationTiming timing);
+
+    [[nodiscard]] ui::View& cell() const { return swipeable_->swipedView(); }
+    template <class Condition>
+    [[nodiscard]] Swipeable* firstCell(Condition condition) const;
+    void hideCells(const Swipeable* except);
+
+    SwipeEnvironment environment_;
+    Swipeable* swipeable_;
+    ui::View* actionsContainerView_;
+    SwipeControllerDelegate* delegate_;
+    ui::ScrollView* scrollView_ = nullptr;
+    std::shared_ptr<SwipeAnimator> animator_;
+    double originalCenter_ = 0;
+    double scrollRatio_ = 1;
+    ui::Insets originalLayoutMargins_;
+    std::shared_ptr<ui::PanGestureRecognizer> panGestureRecognizer_ =
+        std::make_shared<ui::PanGestureRecognizer>();
+    std::shared_ptr<ui::TapGestureRecognizer> tapGestureRecognizer_ =
+        std::make_shared<ui::TapGestureRecognizer>();
+    std::unique_ptr<ui::View> deletionMask_;
+};
+
+} // namespace tessivo::swipe
