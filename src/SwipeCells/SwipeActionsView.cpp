@@ -38,8 +38,8 @@ SwipeActionsView::SwipeActionsView(const SwipeEnvironment& environment, ui::Inse
     feedbackGenerator_.prepare();
     setClipsToBounds(true);
     setBackgroundColor(options_.backgroundColor.value_or(ui::ColorRef::of(plainGround)));
-    hasTransitions_ =
-        std::ranges::any_of(actions_, [](const auto& action) { return action->transitionDelegate != nullptr; });
+    hasTransitions_ = std::ranges::any_of(
+        actions_, [](const auto& action) { return action->transitionDelegate != nullptr; });
     oldWidths_.resize(actions_.size());
     newWidths_.resize(actions_.size());
     buildButtons(maximumSize);

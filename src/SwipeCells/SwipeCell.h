@@ -49,7 +49,7 @@ public:
     /// Ignored but for a cell at rest.
     void setHighlighted(bool highlighted) override;
     [[nodiscard]] ui::View* hitTest(ui::Point point) override;
-    /// A touch beside an open cell closes all cells, and is on none.
+    /// The first cell that is asked about a touch beside an open cell closes all cells, and is not touched.
     [[nodiscard]] bool pointInside(ui::Point point) override;
     void prepareForReuse() override;
     void willLeaveWindow() override;

@@ -131,7 +131,8 @@ void SwipeController::handlePan() {
 void SwipeController::panBegan(double velocity) {
     const auto* dragged =
         firstCell([](const Swipeable& other) { return other.state() == SwipeState::Dragging; });
-    if (dragged && dragged != swipeable_)
+    ignoresPan_ = dragged && dragged != swipeable_;
+    if (ignoresPan_)
         return;
     stopAnimator();
     originalCenter_ = actionsContainerView_->center().x;
@@ -142,7 +143,7 @@ void SwipeController::panBegan(double velocity) {
 
 void SwipeController::panChanged() {
     auto* const actionsView = swipeable_->actionsView();
-    if (!actionsView || !isOffCenter(swipeable_->state()))
+    if (ignoresPan_ || !actionsView || !isOffCenter(swipeable_->state()))
         return;
     if (swipeable_->state() == SwipeState::AnimatingToCenter) {
         const auto* active = firstCell([](const Swipeable& other) {
@@ -189,7 +190,7 @@ void SwipeController::stretch(const SwipeExpansionStyle& style, double offset) {
 
 void SwipeController::panReleased(double velocity) {
     auto* const actionsView = swipeable_->actionsView();
-    if (!actionsView)
+    if (ignoresPan_ || !actionsView)
         return;
     if (swipeable_->state() == SwipeState::Center &&
         cell().bounds().midX() == actionsContainerView_->center().x)

@@ -106,6 +106,7 @@ private:
     std::shared_ptr<SwipeAnimator> animator_;
     double originalCenter_ = 0;
     double scrollRatio_ = 1;
+    bool ignoresPan_ = false; ///< the present pan began while another cell was under a finger
     ui::Insets originalLayoutMargins_;
     std::shared_ptr<ui::PanGestureRecognizer> panGestureRecognizer_ =
         std::make_shared<ui::PanGestureRecognizer>();
