@@ -38,7 +38,7 @@ void TouchSurface::mousePressEvent(QMouseEvent* event) {
     place_ = event->position();
     touch_.emplace(collection_->view(), toPoint(place_), timeOf(*event));
     if (event->button() == Qt::RightButton)
-        hold_.start(0, this);
+        askForMenu();
     else
         hold_.start(QGuiApplication::styleHints()->mousePressAndHoldInterval(), this);
 }
@@ -65,6 +65,10 @@ void TouchSurface::timerEvent(QTimerEvent* event) {
     if (event->timerId() != hold_.timerId())
         return;
     hold_.stop();
+    askForMenu();
+}
+
+void TouchSurface::askForMenu() {
     if (!touch_ || !collection_)
         return;
     const auto item = touch_->hold();

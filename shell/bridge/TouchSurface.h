@@ -36,6 +36,7 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    void askForMenu();
     void finish();
 
     QPointer<CollectionItem> collection_;

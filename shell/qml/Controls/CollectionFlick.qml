@@ -32,6 +32,14 @@ Flickable {
     onHeightChanged: report()
     onContentXChanged: report()
     onContentYChanged: report()
+    onDraggingChanged: {
+        if (!collection)
+            return;
+        if (dragging)
+            collection.scrollBegan();
+        else
+            collection.scrollEnded();
+    }
     Component.onCompleted: report()
 
     Repeater {
