@@ -141,17 +141,22 @@ void SwipeController::panBegan(double velocity) {
         showActionsView(velocity > 0 ? SwipeActionsOrientation::Left : SwipeActionsOrientation::Right);
 }
 
+/// A cell on its way back leaves the list to another one that is open or under a finger.
+bool SwipeController::givesWay() const {
+    if (swipeable_->state() != SwipeState::AnimatingToCenter)
+        return false;
+    const auto* active = firstCell([](const Swipeable& other) {
+        return other.state() == SwipeState::Dragging || isOpen(other.state());
+    });
+    return active && active != swipeable_;
+}
+
 void SwipeController::panChanged() {
     auto* const actionsView = swipeable_->actionsView();
     if (ignoresPan_ || !actionsView || !isOffCenter(swipeable_->state()))
         return;
-    if (swipeable_->state() == SwipeState::AnimatingToCenter) {
-        const auto* active = firstCell([](const Swipeable& other) {
-            return other.state() == SwipeState::Dragging || isOpen(other.state());
-        });
-        if (active && active != swipeable_)
-            return;
-    }
+    if (givesWay())
+        return;
     const auto& pan = *panGestureRecognizer_;
     const double translation = pan.translation().x;
     scrollRatio_ = 1;
@@ -196,7 +201,7 @@ void SwipeController::panReleased(double velocity) {
         cell().bounds().midX() == actionsContainerView_->center().x)
         return;
     const auto orientation = actionsView->orientation();
-    swipeable_->setState(targetState(velocity));
+    swipeable_->setState(givesWay() ? SwipeState::Center : targetState(velocity));
     const auto carrier = actionsView->expansionCarrier();
     if (actionsView->expanded() && carrier) {
         perform(carrier);

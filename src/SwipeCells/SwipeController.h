@@ -73,6 +73,7 @@ private:
                     SwipeControllerDelegate& delegate);
 
     void panBegan(double velocity);
+    [[nodiscard]] bool givesWay() const;
     void panChanged();
     void panReleased(double velocity);
     void stretch(const SwipeExpansionStyle& style, double offset);
