@@ -13,13 +13,20 @@
 #include "qt/QtFrameClock.h"
 #include "qt/QtMainQueue.h"
 #include "qt/QtTimers.h"
+#include "qtdesktop/QtLinkOpener.h"
+#include "qtimage/QtImageCoding.h"
+#include "qtnetwork/QtHttpClient.h"
+#include "qtnetwork/QtResponseCaches.h"
 #include "shell/Shell.h"
 #include "sqlite/SqliteEventStore.h"
 #include "sqlite/SqliteNotificationQueue.h"
 #include "sqlite/SqliteSavedSettings.h"
+#include "standard/FolderDocumentFiles.h"
 #include "standard/RandomUuids.h"
+#include "standard/ThreadWorkQueue.h"
 #include "json/JsonLocalizedTexts.h"
 #include "json/JsonNamedColors.h"
+#include "json/NlohmannJson.h"
 
 #include <filesystem>
 #include <functional>
@@ -33,8 +40,9 @@ namespace tessivo {
 class Composition {
 public:
     struct Settings {
-        std::filesystem::path data; ///< folder of the events, the settings and the queue of reminders
-        std::string language;       ///< of the texts: a file of the text tables, such as "de"
+        std::filesystem::path data;   ///< folder of the events, the settings and the queue of reminders
+        std::filesystem::path caches; ///< folder of what can be fetched again
+        std::string language;         ///< of the texts: a file of the text tables, such as "de"
         /// Tells the helper that the queue of reminders has changed; called off the main thread.
         std::function<void()> tellReminderHelper;
     };
@@ -75,6 +83,15 @@ private:
     sqlite::SqliteNotificationQueue notificationQueue_;
     RandomUuids uuids_;
     freedesktop::FreedesktopNotificationCenter notificationCenter_;
+    JsonLocalizedTexts photoTexts_;
+    NlohmannJson json_;
+    QtImageCoding images_;
+    QtResponseCaches responseCaches_;
+    FolderDocumentFiles documentFiles_;
+    QtLinkOpener links_;
+    // Their threads use what stands above.
+    ThreadWorkQueue background_;
+    QtHttpClient http_;
 
     // The program.
     ui::MainScreen screen_;

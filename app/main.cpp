@@ -9,6 +9,7 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QLocale>
+#include <QStandardPaths>
 
 int main(int argc, char** argv) {
     using namespace tessivo;
@@ -33,8 +34,10 @@ int main(int argc, char** argv) {
     if (!activation.claim())
         return 0;
 
-    Composition composition({freedesktop::dataFolder(), language, freedesktop::tellReminderHelper}, clock,
-                            console);
+    const auto caches = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation).toStdString();
+    Composition composition(
+        {freedesktop::dataFolder(), caches + "/tessivo", language, freedesktop::tellReminderHelper}, clock,
+        console);
     running = &composition;
     composition.start();
     return QGuiApplication::exec();

@@ -1,6 +1,7 @@
 #include "AddEventVC/EventBackgroundViewController.h"
 
 #include "AddEventVC/BackgrounCell.h"
+#include "AddEventVC/UnsplashKeys.h"
 #include "Event/CoreDataStack.h"
 #include "Event/CounterText.h"
 #include "Event/EventDate.h"
@@ -8,9 +9,15 @@
 #include "Extension/EventCardText.h"
 #include "Ports/Clock.h"
 #include "Ports/Console.h"
+#include "Ports/DocumentFiles.h"
+#include "Ports/HttpClient.h"
+#include "Ports/ImageCoding.h"
+#include "Ports/MainQueue.h"
 #include "Ports/Uuid.h"
+#include "Support/EventImages.h"
 #include "Support/LocalizationVariables.h"
 #include "Support/ScreenFactory.h"
+#include "UnsplashPicker/PickerServices.h"
 
 namespace tessivo {
 namespace {
@@ -36,8 +43,12 @@ void EventBackgroundViewController::viewDidLoad() {
     eventFormatter = platform().dateFormatters.make(fullFormat);
     buildFrame("Background", "steps4", texts().done);
     nextButton.addTarget(ui::PressEvent::UpInside, [this] { doneButtonTapped(); });
-    for (ui::View* row : std::initializer_list<ui::View*>{
-             &previewLabel, &eventView, &colorsLabel, &colorCollection, &gradientsLabel, &gradientCollection})
+    imagesButton.setTitle("Image by Unsplash");
+    imagesButton.setImageName("chevron.right");
+    imagesButton.addTarget(ui::PressEvent::UpInside, [this] { imagesButtonTapped(); });
+    for (ui::View* row : std::initializer_list<ui::View*>{&previewLabel, &eventView, &imagesLabel,
+                                                          &imagesButton, &colorsLabel, &colorCollection,
+                                                          &gradientsLabel, &gradientCollection})
         view().addSubview(*row);
     // Confirming at once must give a whole event, so a background is chosen from the start.
     if (!eventData)
@@ -145,10 +156,75 @@ void EventBackgroundViewController::reloadStrips() {
     gradientCollection.reloadData();
 }
 
+void EventBackgroundViewController::imagesButtonTapped() {
+    unsplash::UnsplashPickerConfiguration configuration;
+    configuration.accessKey = unsplashAccessKey;
+    configuration.secretKey = unsplashSecretKey;
+    const auto picker = unsplash::UnsplashPicker::make(services().photoPicker(), services().window(),
+                                                       std::move(configuration));
+    picker->photoPickerDelegate = weakSelf<unsplash::UnsplashPickerDelegate>(this);
+    present(picker);
+}
+
+void EventBackgroundViewController::photoPickerDidSelect(unsplash::UnsplashPicker&,
+                                                         const unsplash::Photos& photos) {
+    if (photos.empty())
+        return;
+    const auto& photo = photos.front();
+    const auto regular = photo->urls.find(unsplash::URLKind::regular);
+    if (regular == photo->urls.end())
+        return;
+    // The network's thread must not be the one that lets go of a screen.
+    const auto received = [weak = weak_from_this(), platform = platform(), photo,
+                           url = regular->second](const Result<HttpResponse>& answer) {
+        if (!answer)
+            return;
+        const ui::Image image{{}, platform.images.decode(answer.value().body, std::nullopt)};
+        if (!image.isSet())
+            return;
+        platform.mainQueue.post([weak, photo, url, image] {
+            if (const auto self = std::static_pointer_cast<EventBackgroundViewController>(weak.lock()))
+                self->showPreview(*photo, url, image);
+        });
+    };
+    platform().http.start({.url = regular->second.absoluteString()}, received);
+}
+
+void EventBackgroundViewController::showPreview(const unsplash::UnsplashPhoto& photo, const Url& url,
+                                                ui::Image image) {
+    const auto preview = std::make_shared<UnsplahImageView>(services());
+    preview->delegate = weakSelf<FullScreenImageDelegate>(this);
+    preview->unsplash = std::move(image);
+    preview->urlString = url.absoluteString();
+    preview->photographer = photo.user.name;
+    if (const auto html = photo.user.links.find(unsplash::UserLinkKind::html); html != photo.user.links.end())
+        preview->profileURL = html->second;
+    show(preview);
+}
+
+void EventBackgroundViewController::didCrop(const ui::Image& image,
+                                            const std::optional<std::string>& urlString) {
+    eventData->photoPath.reset();
+    eventData->gradient = NO_VALUE;
+    eventData->color = NO_VALUE;
+    eventData->unsplashPath = urlString;
+    eventView.photoView.setImage(image);
+    unsplashPath = urlString;
+    unsplashImage = image;
+    selectedColorIndexPath.reset();
+    selectedGradientIndexPath.reset();
+    reloadStrips();
+}
+
 void EventBackgroundViewController::doneButtonTapped() {
     const Instant day = eventDay();
     currentDate = platform().clock.now();
     eventData->eventType = !isPast(day, currentDate);
+    if (eventData->unsplashPath) {
+        services().eventImages().keepUnsplashImage(unsplashImage, *eventData->unsplashPath);
+        platform().console.print(platform().documentFiles.fileExists(*eventData->unsplashPath) ? "true"
+                                                                                               : "false");
+    }
     eventData->id = platform().uuids.random();
     services().coreDataStack().addEvent(*eventData);
     services().reminderScheduler().finishWizard(*eventData);

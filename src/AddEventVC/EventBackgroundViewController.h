@@ -1,18 +1,22 @@
 #pragma once
 
 #include "AddEventVC/Label.h"
+#include "AddEventVC/UnsplahImageView.h"
 #include "AddEventVC/WizardScreen.h"
 #include "Event/EventItem.h"
 #include "Extension/EventView.h"
 #include "Interface/CollectionView.h"
 #include "Ports/DateFormatter.h"
+#include "UnsplashPicker/UnsplashPicker.h"
 
 namespace tessivo {
 
 /// The last step of the wizard: the background. Confirming it makes the event.
 class EventBackgroundViewController final : public WizardScreen,
                                             public ui::CollectionViewDataSource,
-                                            public ui::CollectionViewDelegate {
+                                            public ui::CollectionViewDelegate,
+                                            public unsplash::UnsplashPickerDelegate,
+                                            public FullScreenImageDelegate {
 public:
     explicit EventBackgroundViewController(SharedServices& services);
 
@@ -20,10 +24,15 @@ public:
     /// The marked item of each strip.
     std::optional<int> selectedColorIndexPath;
     std::optional<int> selectedGradientIndexPath;
+    /// The picture chosen on this screen, and its address; not yet in any file.
+    std::optional<std::string> unsplashPath;
+    ui::Image unsplashImage;
     Instant currentDate;
 
     EventView eventView;
     InfoLabel previewLabel{controls, "previewLabel", "Preview"};
+    InfoLabel imagesLabel{controls, "imagesLabel", "Images"};
+    ui::Button imagesButton{controls, "imagesButton"};
     InfoLabel colorsLabel{controls, "colorsLabel", "Solid Colors"};
     InfoLabel gradientsLabel{controls, "gradientsLabel", "Gradients"};
     ui::CollectionView colorCollection;
@@ -32,12 +41,18 @@ public:
     [[nodiscard]] std::string screenName() const override { return "EventBackgroundViewController"; }
 
     void doneButtonTapped();
+    /// Opens the photo browser.
+    void imagesButtonTapped();
 
     [[nodiscard]] int numberOfItems(ui::CollectionView& collection) override;
     [[nodiscard]] std::shared_ptr<ui::CollectionViewCell> cellForItem(ui::CollectionView& collection,
                                                                       int item) override;
     [[nodiscard]] ui::Size sizeForItem(ui::CollectionView& collection, int item) override;
     void didSelectItem(ui::CollectionView& collection, int item) override;
+    /// Downloads the photo and offers it for cropping; nothing happens where that fails.
+    void photoPickerDidSelect(unsplash::UnsplashPicker& picker, const unsplash::Photos& photos) override;
+    void photoPickerDidCancel(unsplash::UnsplashPicker&) override {}
+    void didCrop(const ui::Image& image, const std::optional<std::string>& urlString) override;
 
 protected:
     void viewDidLoad() override;
@@ -48,6 +63,7 @@ private:
     void chooseColor(int row);
     void chooseGradient(int row);
     void reloadStrips();
+    void showPreview(const unsplash::UnsplashPhoto& photo, const Url& url, ui::Image image);
     [[nodiscard]] Instant eventDay() const;
     [[nodiscard]] ui::GradientLayer* previewGradient() const;
 

@@ -10,6 +10,7 @@
 #include "MainVC/CardSize.h"
 #include "Ports/Clock.h"
 #include "Ports/Console.h"
+#include "Support/EventImages.h"
 
 namespace tessivo {
 namespace {
@@ -60,9 +61,24 @@ void EventCell::showBackground(const EventCoreData& row) {
             ui::ColorRef::named(colorItemAt(row.color(), services_.platform().console).color));
     } else if (row.gradient() != NO_VALUE) {
         showGradient(row.gradient());
-    } else if (!row.photoPath() && !row.unsplashPath()) {
-        services_.platform().console.stopProgram("An event on a card has no background.");
+    } else {
+        showPicture(row);
     }
+}
+
+void EventCell::showPicture(const EventCoreData& row) {
+    const ui::Size size = cardSize(savedEventSize(services_.platform()), services_.window().screen);
+    if (row.photoPath()) {
+        // A late photo lands on the cell even when that shows another event by then.
+        services_.eventImages().loadPhoto(*row.photoPath(), size, [weak = weak_from_this()](ui::Image image) {
+            if (const auto cell = weak.lock())
+                cell->photoImage.setImage(std::move(image));
+        });
+        return;
+    }
+    if (!row.unsplashPath())
+        services_.platform().console.stopProgram("An event on a card has no background.");
+    photoImage.setImage(services_.eventImages().showUnsplashImage(*row.unsplashPath(), size));
 }
 
 void EventCell::showGradient(int index) {

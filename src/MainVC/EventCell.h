@@ -15,7 +15,7 @@ class EventCoreData;
 ///
 /// It counts from the moment at which the cell was made, also when it is reused: numbers of a list stand
 /// still while it is on the screen, and move when the list is made anew.
-class EventCell final : public ui::CollectionViewCell {
+class EventCell final : public ui::CollectionViewCell, public std::enable_shared_from_this<EventCell> {
 public:
     explicit EventCell(SharedServices& services);
 
@@ -34,6 +34,7 @@ public:
 private:
     void showBackground(const EventCoreData& row);
     void showGradient(int index);
+    void showPicture(const EventCoreData& row);
     void showCounter(const EventCoreData& row);
     [[nodiscard]] const std::string& present(const std::optional<std::string>& text, const char* what) const;
 

@@ -6,15 +6,22 @@ class Calendar;
 class Clock;
 class Console;
 class DateFormatters;
+class DocumentFiles;
 class EventStore;
+class HttpClient;
+class ImageCoding;
+class JsonCoding;
+class LinkOpener;
 class LocalizedTexts;
 class MainQueue;
 class NamedColors;
 class NotificationCenter;
+class ResponseCaches;
 class SavedSettings;
 class TextCounting;
 class Timers;
 class UuidSource;
+class WorkQueue;
 
 /// What the machine gives the program. All of it outlives the program's objects.
 struct Platform {
@@ -31,6 +38,14 @@ struct Platform {
     UuidSource& uuids;
     EventStore& eventStore;
     NotificationCenter& notificationCenter;
+    HttpClient& http;
+    WorkQueue& background;
+    JsonCoding& json;
+    ImageCoding& images;
+    ResponseCaches& responseCaches;
+    DocumentFiles& documentFiles;
+    LinkOpener& links;
+    const LocalizedTexts* photoTexts; ///< the photo browser's own; null where they were not found
 };
 
 } // namespace tessivo

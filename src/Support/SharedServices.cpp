@@ -3,7 +3,10 @@
 #include "Event/CoreDataStack.h"
 #include "Event/FetchEventDataType.h"
 #include "Event/ReminderScheduler.h"
+#include "Interface/ViewController.h"
+#include "Support/EventImages.h"
 #include "Support/LocalizationVariables.h"
+#include "UnsplashPicker/PickerServices.h"
 
 namespace tessivo {
 
@@ -42,6 +45,20 @@ const LocalizationVariables& SharedServices::localizationVariables() {
     if (!localizationVariables_)
         localizationVariables_ = std::make_unique<LocalizationVariables>(platform_.texts);
     return *localizationVariables_;
+}
+
+EventImages& SharedServices::eventImages() {
+    if (!eventImages_)
+        eventImages_ = std::make_unique<EventImages>(platform_, window_.screen);
+    return *eventImages_;
+}
+
+unsplash::PickerServices& SharedServices::photoPicker() {
+    if (!photoPicker_)
+        photoPicker_ = std::make_unique<unsplash::PickerServices>(unsplash::PickerPlatform{
+            platform_.console, platform_.mainQueue, platform_.background, platform_.http, platform_.json,
+            platform_.images, platform_.responseCaches, platform_.photoTexts});
+    return *photoPicker_;
 }
 
 } // namespace tessivo

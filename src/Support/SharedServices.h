@@ -10,10 +10,15 @@
 namespace tessivo {
 
 class CoreDataStack;
+class EventImages;
 class FetchEventDataType;
 class LocalizationVariables;
 class ReminderScheduler;
 class ScreenFactory;
+
+namespace unsplash {
+class PickerServices;
+}
 
 namespace ui {
 struct WindowContext;
@@ -40,6 +45,8 @@ public:
     [[nodiscard]] FetchEventDataType& fetchEventDataType();
     [[nodiscard]] ReminderScheduler& reminderScheduler();
     [[nodiscard]] const LocalizationVariables& localizationVariables();
+    [[nodiscard]] EventImages& eventImages();
+    [[nodiscard]] unsplash::PickerServices& photoPicker();
 
     /// Keeps something going for the life of the program, whoever started it.
     void keep(Subscription subscription) { kept_.push_back(std::move(subscription)); }
@@ -52,6 +59,8 @@ private:
     std::unique_ptr<ReminderScheduler> reminderScheduler_;
     std::unique_ptr<FetchEventDataType> fetchEventDataType_;
     std::unique_ptr<LocalizationVariables> localizationVariables_;
+    std::unique_ptr<EventImages> eventImages_;
+    std::unique_ptr<unsplash::PickerServices> photoPicker_;
     std::vector<Subscription> kept_;
 };
 

@@ -7,16 +7,23 @@
 #include "Support/StartUp/Screens.h"
 #include "fakes/CountingUuids.h"
 #include "fakes/FakeNotificationCenter.h"
+#include "fakes/MemoryResponseCaches.h"
+#include "fakes/PostedWorkQueue.h"
 #include "fakes/RecordingConsole.h"
+#include "fakes/RecordingLinkOpener.h"
+#include "fakes/ScriptedHttpClient.h"
 #include "fakes/Timeline.h"
 #include "icu/IcuCalendar.h"
 #include "icu/IcuDateFormatters.h"
 #include "icu/IcuTextCounting.h"
+#include "qtimage/QtImageCoding.h"
 #include "sqlite/SqliteEventStore.h"
 #include "sqlite/SqliteSavedSettings.h"
+#include "standard/FolderDocumentFiles.h"
 #include "support/TemporaryFolder.h"
 #include "json/JsonLocalizedTexts.h"
 #include "json/JsonNamedColors.h"
+#include "json/NlohmannJson.h"
 
 #include <fstream>
 #include <iterator>
@@ -56,6 +63,11 @@ public:
     fakes::Timeline timeline{instantAt(1908261015)}; // 2030-06-21 10:30:15 +02:00
     fakes::RecordingConsole console;
     fakes::FakeNotificationCenter notifications;
+    fakes::ScriptedHttpClient http;
+    fakes::MemoryResponseCaches responseCaches;
+    fakes::RecordingLinkOpener links;
+    QtImageCoding images;
+    FolderDocumentFiles documents{folder / "documents"};
     ui::MainScreen screen{{390, 844}};
     IcuCalendar calendar{"en_US", "Europe/Berlin"};
     IcuDateFormatters dateFormatters{"en_US", "Europe/Berlin"};
@@ -74,9 +86,17 @@ private:
 
               eventStore(program.folder / "events.sqlite"),
               settings(program.folder / "settings.sqlite", program.console),
-              services({program.console, program.timeline, program.timeline, program.timeline,
-                        program.calendar, program.dateFormatters, program.textCounting_, program.colors_,
-                        program.texts_, settings, program.uuids_, eventStore, program.center_},
+              services({program.console,       program.timeline,
+                        program.timeline,      program.timeline,
+                        program.calendar,      program.dateFormatters,
+                        program.textCounting_, program.colors_,
+                        program.texts_,        settings,
+                        program.uuids_,        eventStore,
+                        program.center_,       program.http,
+                        program.background_,   program.json_,
+                        program.images,        program.responseCaches,
+                        program.documents,     program.links,
+                        &program.photoTexts_},
                        window, screens),
               stack(window) {
             screens.use(services);
@@ -99,6 +119,9 @@ private:
     IcuTextCounting textCounting_;
     JsonNamedColors colors_ = JsonNamedColors::fromJson(resource("colors.json")).value();
     JsonLocalizedTexts texts_ = JsonLocalizedTexts::fromJson(resource("texts/en.json")).value();
+    JsonLocalizedTexts photoTexts_ = JsonLocalizedTexts::fromJson(resource("unsplash-texts/en.json")).value();
+    NlohmannJson json_;
+    fakes::PostedWorkQueue background_{timeline};
     fakes::CountingUuids uuids_;
     std::unique_ptr<Run> run_;
 };

@@ -1,0 +1,240 @@
+#include "AddEventVC/EventBackgroundViewController.h"
+#include "AddEventVC/EventDateAndTimeViewController.h"
+#include "AddEventVC/PictureCrop.h"
+#include "AddEventVC/ReminderViewController.h"
+#include "Event/CoreDataStack.h"
+#include "MainVC/EventCell.h"
+#include "Support/EventImages.h"
+#include "UnsplashPicker/PickerServices.h"
+#include "support/Program.h"
+#include "support/Wizard.h"
+
+#include <gmock/gmock.h>
+
+namespace tessivo {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+/// Columns of a picture have a red of ten times their number.
+Bitmap stripes(int width, int height) {
+    Bitmap bitmap{width, height, {}};
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            bitmap.pixels.insert(bitmap.pixels.end(), {static_cast<std::uint8_t>(x * 10), 0, 0, 255});
+    }
+    return bitmap;
+}
+
+int redAt(const Bitmap& bitmap, int x) {
+    return bitmap.pixels[static_cast<std::size_t>(x) * 4];
+}
+
+TEST(PictureCrop, GrowsToWholePixelsAndIsCutToThePicture) {
+    struct Case {
+        ui::Rect area;
+        int first; ///< column; of no picture -1
+        int width;
+        int height;
+    };
+    for (const auto& [area, first, width, height] :
+         {Case{{2, 1, 3, 2}, 2, 3, 2}, Case{{2.9, 0, 1.2, 4}, 2, 3, 4}, Case{{-5, -5, 100, 100}, 0, 10, 4},
+          Case{{9.5, 3.5, 9, 9}, 9, 1, 1}, Case{{10, 0, 5, 4}, -1, 0, 0}, Case{{3, 1, 0, 2}, -1, 0, 0}}) {
+        const auto part = cropped(stripes(10, 4), area);
+        ASSERT_EQ(part == nullptr, first < 0) << area.x;
+        if (!part)
+            continue;
+        EXPECT_EQ(part->width, width) << area.x;
+        EXPECT_EQ(part->height, height) << area.x;
+        EXPECT_EQ(redAt(*part, 0), first * 10);
+        EXPECT_EQ(redAt(*part, width - 1), (first + width - 1) * 10);
+    }
+}
+
+/// The background step with the preview of a photo open on it.
+class PictureTest : public testing::Test {
+protected:
+    EventBackgroundViewController& openChooser() {
+        openWizard(program).textField.editTo("Summer");
+        auto& date = next<EventDateAndTimeViewController>(program);
+        date.datePicker.pick(program.timeline.now() + Seconds(10 * 86400));
+        next<ReminderViewController>(program);
+        return next<EventBackgroundViewController>(program);
+    }
+
+    /// A photo as the service gives it.
+    static unsplash::UnsplashPhoto photo(const std::string& name) {
+        unsplash::UnsplashPhoto photo;
+        photo.urls.emplace(unsplash::URLKind::regular, *Url::parse("https://i.test/" + name + "?w=1080"));
+        photo.user.name = "Ada L";
+        photo.user.links.emplace(unsplash::UserLinkKind::html, *Url::parse("https://x.test/@ada?q=1"));
+        return photo;
+    }
+
+    /// Chooses a photo and lets its download end.
+    void choose(EventBackgroundViewController& chooser, const unsplash::UnsplashPhoto& photo,
+                const Bitmap& picture) {
+        const auto picker =
+            unsplash::UnsplashPicker::make(program.services().photoPicker(), program.services().window(), {});
+        chooser.photoPickerDidSelect(*picker, {std::make_shared<const unsplash::UnsplashPhoto>(photo)});
+        program.http.answer(200, *program.images.png(picture));
+        program.settle();
+    }
+
+    Program program;
+};
+
+TEST_F(PictureTest, TheRowOpensThePhotoBrowser) {
+    auto& chooser = openChooser();
+    chooser.imagesButton.tap();
+    program.settle();
+    auto& picker = program.top<unsplash::UnsplashPicker>();
+    EXPECT_EQ(program.http.exchanges().at(0)->request.headers.at("Authorization").size(), 10u + 43u);
+    picker.photoPickerViewController().cancelBarButtonItem.tap();
+    EXPECT_EQ(program.stack().top(), &chooser);
+}
+
+TEST_F(PictureTest, WhatIsInViewBecomesTheBackground) {
+    auto& chooser = openChooser();
+    choose(chooser, photo("photo-1.jpg"), stripes(20, 10));
+    auto& preview = program.top<UnsplahImageView>();
+    EXPECT_EQ(program.http.exchanges().back()->request.url, "https://i.test/photo-1.jpg?w=1080");
+    const double height = preview.scrollView.bounds().height;
+    EXPECT_EQ(preview.contentView.frame().size(), (ui::Size{2 * height, height}));
+    EXPECT_EQ(preview.photographerButton.title(), "Ada L");
+    preview.scrollView.scrolledTo({2 * height - 390, 0}); // to the far right
+    preview.saveButton.tap();
+    program.settle();
+    ASSERT_EQ(program.stack().top(), &chooser);
+    const auto& shown = *chooser.eventView.photoView.image().bitmap;
+    EXPECT_EQ(shown.height, 10);
+    EXPECT_EQ(shown.width, 5); // 390 of 1566 points of 20 columns
+    EXPECT_EQ(redAt(shown, shown.width - 1), 190);
+    EXPECT_EQ(chooser.eventData->unsplashPath, "https://i.test/photo-1.jpg?w=1080");
+    EXPECT_EQ(chooser.eventData->gradient, NO_VALUE);
+    EXPECT_EQ(chooser.eventData->color, NO_VALUE);
+    EXPECT_EQ(chooser.selectedGradientIndexPath, std::nullopt);
+    EXPECT_EQ(program.documents.read("photo-1.jpg"), std::nullopt) << "nothing is kept before the end";
+
+    (void)program.console.take();
+    chooser.nextButton.tap();
+    program.settle();
+    const auto path = (program.folder / "documents" / "photo-1.jpg").string();
+    EXPECT_THAT(program.console.take(), ElementsAre("Изображение сохранено по пути: " + path, "false"));
+    EXPECT_THAT(*program.documents.read("photo-1.jpg"), StartsWith("\xff\xd8"));
+    const auto rows = program.services().coreDataStack().fetchEvents();
+    const auto cell = std::make_shared<EventCell>(program.services());
+    cell->configure(*rows.front());
+    EXPECT_EQ(cell->photoImage.image().bitmap->height, 10);
+}
+
+TEST_F(PictureTest, ANarrowPictureIsKeptWhole) {
+    auto& chooser = openChooser();
+    choose(chooser, photo("p"), stripes(2, 10));
+    program.top<UnsplahImageView>().saveButton.tap();
+    program.settle();
+    EXPECT_EQ(*chooser.eventView.photoView.image().bitmap, stripes(2, 10));
+}
+
+TEST_F(PictureTest, GoingBackChangesNothing) {
+    auto& chooser = openChooser();
+    choose(chooser, photo("p"), stripes(20, 10));
+    auto& preview = program.top<UnsplahImageView>();
+    preview.scrollView.scrolledTo({100, 0});
+    preview.prevButton.tap();
+    program.settle();
+    EXPECT_EQ(chooser.eventData->gradient, 1);
+    EXPECT_EQ(chooser.eventData->unsplashPath, std::nullopt);
+    EXPECT_FALSE(chooser.eventView.photoView.image().isSet());
+}
+
+TEST_F(PictureTest, AColourAfterAPictureKeepsNoFile) {
+    auto& chooser = openChooser();
+    choose(chooser, photo("p"), stripes(20, 10));
+    program.top<UnsplahImageView>().saveButton.tap();
+    program.settle();
+    chooser.colorCollection.tapItem(3);
+    EXPECT_FALSE(chooser.eventView.photoView.image().isSet());
+    chooser.nextButton.tap();
+    program.settle();
+    EXPECT_EQ(program.documents.read("p"), std::nullopt);
+    EXPECT_EQ(program.services().coreDataStack().fetchEvents().front()->unsplashPath(), std::nullopt);
+}
+
+TEST_F(PictureTest, APhotoThatDoesNotComeOpensNothing) {
+    auto& chooser = openChooser();
+    const auto picker =
+        unsplash::UnsplashPicker::make(program.services().photoPicker(), program.services().window(), {});
+    auto without = photo("p");
+    without.urls.clear();
+    chooser.photoPickerDidSelect(*picker, {});
+    chooser.photoPickerDidSelect(*picker, {std::make_shared<const unsplash::UnsplashPhoto>(without)});
+    EXPECT_TRUE(program.http.exchanges().empty());
+    for (const auto& body : {"", "<html>"}) {
+        chooser.photoPickerDidSelect(*picker, {std::make_shared<const unsplash::UnsplashPhoto>(photo("p"))});
+        program.http.answer(200, body);
+        program.settle();
+        EXPECT_EQ(program.stack().top(), &chooser);
+    }
+}
+
+TEST_F(PictureTest, ThePhotographerIsCreditedWithTheReferral) {
+    auto& chooser = openChooser();
+    choose(chooser, photo("p"), stripes(20, 10));
+    auto& preview = program.top<UnsplahImageView>();
+    preview.photographerButton.tap();
+    EXPECT_THAT(program.links.opened,
+                ElementsAre("https://x.test/@ada?q=1&utm_source=Tessivo&utm_medium=referral"));
+    preview.profileURL.reset();
+    preview.photographerButton.tap();
+    EXPECT_EQ(program.links.opened.size(), 1u);
+    EXPECT_EQ(program.stack().top(), &preview);
+}
+
+TEST_F(PictureTest, TwoEventsShareOneFileAndNoNameLeavesTheFolder) {
+    auto& images = program.services().eventImages();
+    const auto keep = [&](int width, const std::string& url) {
+        images.keepUnsplashImage({{}, std::make_shared<const Bitmap>(stripes(width, 4))}, url);
+        return program.console.take().back();
+    };
+    (void)program.console.take();
+    EXPECT_THAT(keep(4, "https://i.test/a/shared?w=1"), StartsWith("Изображение сохранено по пути: "));
+    EXPECT_THAT(keep(6, "https://i.test/b/shared?w=2"), EndsWith("/documents/shared"));
+    EXPECT_EQ(images.loadUnsplashImage("https://elsewhere.test/shared", {}).bitmap->width, 6);
+    for (const auto* url : {"https://i.test", "https://i.test/", "https://i.test/..", "https://i.test/.",
+                            "https://i.test/%2e%2e", "https://i.test/..%2fevents.sqlite"}) {
+        EXPECT_EQ(keep(4, url), "Не удалось сохранить изображение.") << url;
+        EXPECT_FALSE(images.showUnsplashImage(url, {}).isSet());
+        EXPECT_THAT(program.console.take(), ElementsAre("Не удалось загрузить изображение."));
+    }
+    EXPECT_EQ(keep(4, "no address"), "Некорректный URL-адрес изображения.");
+    images.keepUnsplashImage({}, "https://i.test/empty");
+    EXPECT_THAT(program.console.take(), ElementsAre("Не удалось сохранить изображение."));
+}
+
+TEST_F(PictureTest, APhotoOfTheUsersIsReadFromWhereItLies) {
+    auto& images = program.services().eventImages();
+    std::vector<ui::Image> shown;
+    const auto load = [&](Result<HttpResponse> answer) {
+        images.loadPhoto("file:///home/a.jpg", {},
+                         [&](ui::Image image) { shown.push_back(std::move(image)); });
+        program.http.answer(std::move(answer));
+        program.timeline.runPosted();
+    };
+    (void)program.console.take();
+    load(Error{std::string(urlErrorDomain), UrlErrorFileDoesNotExist, "gone"});
+    EXPECT_THAT(program.console.take(), ElementsAre("Ошибка загрузки изображения: gone"));
+    load(HttpResponse{std::nullopt, {}, "no picture"});
+    EXPECT_TRUE(program.console.take().empty());
+    EXPECT_TRUE(shown.empty());
+    load(HttpResponse{std::nullopt, {}, *program.images.png(stripes(6, 4))});
+    ASSERT_EQ(shown.size(), 1u);
+    EXPECT_EQ(shown[0].bitmap->width, 6);
+    EXPECT_THAT(program.http.exchanges().back()->request.url, HasSubstr("/home/a.jpg"));
+}
+
+} // namespace
+} // namespace tessivo
