@@ -20,8 +20,13 @@ public:
     using Object = std::vector<Member>;
     using Value = std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, Array, Object>;
 
-    JsonValue() = default;
-    JsonValue(Value held) : value(std::move(held)) {} // NOLINT(google-explicit-constructor)
+    JsonValue();
+    JsonValue(Value held); // NOLINT(google-explicit-constructor)
+    JsonValue(const JsonValue& other);
+    JsonValue(JsonValue&& other) noexcept;
+    JsonValue& operator=(const JsonValue& other);
+    JsonValue& operator=(JsonValue&& other) noexcept;
+    ~JsonValue();
 
     /// The value as a `Kind`; null where it is of another kind.
     template <class Kind>
@@ -34,13 +39,22 @@ public:
     /// there is none or this is no object.
     [[nodiscard]] const JsonValue* find(std::string_view key) const;
 
-    Value value = nullptr;
+    Value value;
 };
 
 struct JsonValue::Member {
     std::string key;
     JsonValue value;
 };
+
+// The tree's own type must be whole before its values can be made.
+inline JsonValue::JsonValue() = default;
+inline JsonValue::JsonValue(Value held) : value(std::move(held)) {}
+inline JsonValue::JsonValue(const JsonValue& other) = default;
+inline JsonValue::JsonValue(JsonValue&& other) noexcept = default;
+inline JsonValue& JsonValue::operator=(const JsonValue& other) = default;
+inline JsonValue& JsonValue::operator=(JsonValue&& other) noexcept = default;
+inline JsonValue::~JsonValue() = default;
 
 inline const JsonValue* JsonValue::find(std::string_view key) const {
     const auto* members = as<Object>();

@@ -96,11 +96,11 @@ ui::ItemRange WaterfallLayout::itemsIn(const ui::Rect& visible) const {
     const int count = static_cast<int>(frames_.size());
     if (above >= below)
         return {0, count};
-    const auto candidates = std::ranges::subrange(frames_.begin() + above, frames_.begin() + below);
-    const auto first = std::ranges::find_if(candidates, meets);
-    if (first == candidates.end())
+    const auto candidatesEnd = frames_.begin() + below;
+    const auto first = std::find_if(frames_.begin() + above, candidatesEnd, meets);
+    if (first == candidatesEnd)
         return {0, count};
-    auto last = candidates.end();
+    auto last = candidatesEnd;
     while (!meets(*(last - 1)))
         --last;
     return {static_cast<int>(first - frames_.begin()), static_cast<int>(last - frames_.begin())};
