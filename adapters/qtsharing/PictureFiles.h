@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Ports/Error.h"
+
+#include <filesystem>
+#include <string_view>
+
+namespace tessivo::sharing {
+
+/// Writes `bytes` as "Tessivo.png" in `folder`, which is made where it is missing, or as "Tessivo 2.png" and
+/// so on where that is taken: no file is replaced, not even one that comes up at the same time. Gives where
+/// it lies; a file that could not be written whole is taken away again. Any thread.
+Result<std::filesystem::path> keepPicture(const std::filesystem::path& folder, std::string_view bytes);
+
+/// The same for the eyes of the user alone, for another program to read. What was lent more than a day ago
+/// goes.
+Result<std::filesystem::path> lendPicture(const std::filesystem::path& folder, std::string_view bytes);
+
+} // namespace tessivo::sharing

@@ -1,0 +1,213 @@
+#include "qtsharing/QtPictureSharing.h"
+#include "adapters/qtsharing/StandInPortal.h"
+#include "qt/QtMainQueue.h"
+#include "qtimage/QtImageCoding.h"
+#include "session/PrivateSession.h"
+#include "standard/ThreadWorkQueue.h"
+#include "support/TemporaryFolder.h"
+
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QImage>
+
+#include <gmock/gmock.h>
+
+#include <sys/stat.h>
+
+#include <chrono>
+#include <fstream>
+#include <iterator>
+
+namespace tessivo {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+constexpr auto busName = "sharing";
+
+std::string read(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+mode_t modeOf(const fs::path& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 0777U : 0;
+}
+
+std::size_t filesIn(const fs::path& folder) {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), {}));
+}
+
+/// Sharing with programs of the test's own on the search path, and no bus.
+class Sharing : public testing::Test {
+protected:
+    Sharing() : Sharing(QDBusConnection(QStringLiteral("there is none"))) {}
+    explicit Sharing(const QDBusConnection& bus)
+        : sharing({folder / "Pictures", folder / "lent"}, bus, images, background, mainQueue) {
+        fs::create_directory(programs);
+        ::setenv("PATH", (programs.string() + ":/usr/bin:/bin").c_str(), 1);
+        install("xdg-open", 0);
+        install("xdg-email", 0);
+    }
+    ~Sharing() override { ::setenv("PATH", path.c_str(), 1); }
+
+    /// A program that writes down what it was asked, and ends with that code.
+    void install(const std::string& name, int code) const {
+        std::ofstream(programs / name) << "#!/bin/sh\nprintf '%s\\n' \"$@\" > '"
+                                       << (folder / "called").string() << "'\nexit " << code << '\n';
+        fs::permissions(programs / name, fs::perms::owner_all);
+    }
+
+    using Act = void (PictureSharing::*)(std::shared_ptr<const Bitmap>, PictureSharing::Done);
+
+    /// Shares the picture and waits for the answer, which must not come inline.
+    Outcome share(Act act) {
+        std::optional<Outcome> answer;
+        (static_cast<PictureSharing&>(sharing).*act)(picture, [&](Outcome outcome) { answer = outcome; });
+        EXPECT_FALSE(answer);
+        QElapsedTimer timer;
+        timer.start();
+        while (!answer && timer.elapsed() < 10'000)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
+        EXPECT_TRUE(answer) << "nobody answered";
+        return answer.value_or(std::nullopt);
+    }
+
+    [[nodiscard]] std::string called() const { return read(folder / "called"); }
+
+    std::string path = ::getenv("PATH");
+    TemporaryFolder folder;
+    fs::path programs = folder / "programs";
+    std::shared_ptr<const Bitmap> picture =
+        std::make_shared<Bitmap>(Bitmap{2, 1, {250, 10, 20, 255, 0, 0, 0, 0}});
+    QtImageCoding images;
+    QtMainQueue mainQueue;
+    ThreadWorkQueue background;
+    QtPictureSharing sharing;
+};
+
+TEST_F(Sharing, EachPictureIsSavedBesideTheOthersAndReplacesNone) {
+    fs::create_directories(folder / "Pictures");
+    std::ofstream(folder / "Pictures" / "Tessivo 2.png") << "the user's own";
+    EXPECT_EQ(share(&PictureSharing::save), std::nullopt);
+    EXPECT_EQ(share(&PictureSharing::save), std::nullopt);
+    EXPECT_EQ(read(folder / "Pictures" / "Tessivo 2.png"), "the user's own");
+    for (const auto* name : {"Tessivo.png", "Tessivo 3.png"})
+        EXPECT_EQ(*images.decode(read(folder / "Pictures" / name), {}), *picture) << name;
+}
+
+TEST_F(Sharing, APictureThatCannotBeSavedIsAnErrorThatNamesThePlace) {
+    std::ofstream(folder / "Pictures") << "a file where the folder should be";
+    const auto outcome = share(&PictureSharing::save);
+    ASSERT_TRUE(outcome);
+    EXPECT_THAT(outcome->description, HasSubstr((folder / "Pictures").string()));
+}
+
+TEST_F(Sharing, ABrokenPictureIsAnErrorAndLeavesNoFile) {
+    picture = std::make_shared<Bitmap>(Bitmap{2, 2, {1, 2, 3}});
+    for (const Act act : {&PictureSharing::save, &PictureSharing::copy, &PictureSharing::open})
+        EXPECT_TRUE(share(act));
+    EXPECT_FALSE(fs::exists(folder / "Pictures"));
+}
+
+TEST_F(Sharing, TheClipboardGetsThePicture) {
+    EXPECT_EQ(share(&PictureSharing::copy), std::nullopt);
+    const QImage pasted = QGuiApplication::clipboard()->image();
+    ASSERT_EQ(pasted.size(), QSize(2, 1));
+    EXPECT_EQ(pasted.pixelColor(0, 0), QColor(250, 10, 20));
+    EXPECT_EQ(pasted.pixelColor(1, 0).alpha(), 0);
+}
+
+TEST_F(Sharing, WithoutAPortalProgramsOfTheDesktopGetAFileThatOthersCannotRead) {
+    EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
+    const auto lent = folder / "lent" / "Tessivo.png";
+    EXPECT_EQ(called(), lent.string() + "\n");
+    EXPECT_EQ(*images.decode(read(lent), {}), *picture);
+    EXPECT_EQ(modeOf(lent), 0600U);
+    EXPECT_EQ(modeOf(folder / "lent"), 0700U);
+
+    EXPECT_EQ(share(&PictureSharing::mail), std::nullopt);
+    EXPECT_EQ(called(), "--attach\n" + (folder / "lent" / "Tessivo 2.png").string() + "\n");
+}
+
+TEST_F(Sharing, WhatWasLentLongAgoIsTakenBack) {
+    EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
+    EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
+    fs::last_write_time(folder / "lent" / "Tessivo.png",
+                        fs::file_time_type::clock::now() - std::chrono::hours(25));
+    EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
+    EXPECT_EQ(filesIn(folder / "lent"), 2U);
+}
+
+TEST_F(Sharing, AProgramThatFailsOrIsMissingIsAnError) {
+    install("xdg-open", 3);
+    const auto failed = share(&PictureSharing::open);
+    ASSERT_TRUE(failed);
+    EXPECT_EQ(failed->description, "No program opened the picture.");
+
+    ::setenv("PATH", (folder / "nowhere").c_str(), 1);
+    const auto missing = share(&PictureSharing::mail);
+    ASSERT_TRUE(missing);
+    EXPECT_THAT(missing->description, HasSubstr("xdg-email"));
+}
+
+/// The same with a portal on a bus of the test's own.
+class SharingByPortal : public Sharing {
+protected:
+    SharingByPortal()
+        : Sharing(QDBusConnection::connectToBus(address(), QString::fromLatin1(busName))),
+          portal(address()) {}
+    ~SharingByPortal() override { QDBusConnection::disconnectFromBus(QString::fromLatin1(busName)); }
+
+    static void SetUpTestSuite() {
+        if (!PrivateSession::isPossible())
+            GTEST_SKIP() << "This machine has no programs for a session of the test's own.";
+        session = std::make_unique<PrivateSession>();
+    }
+    static void TearDownTestSuite() { session.reset(); }
+
+    static QString address() { return qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"); }
+
+    static std::unique_ptr<PrivateSession> session;
+    StandInPortal portal;
+};
+
+std::unique_ptr<PrivateSession> SharingByPortal::session;
+
+TEST_F(SharingByPortal, ThePortalGetsThePictureAndAsksTheUserWhoOpensIt) {
+    EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
+    EXPECT_EQ(share(&PictureSharing::mail), std::nullopt);
+    ASSERT_EQ(portal.asked.size(), 2U);
+    EXPECT_EQ(portal.asked[0].interface, "org.freedesktop.portal.OpenURI");
+    EXPECT_EQ(portal.asked[0].method, "OpenFile");
+    EXPECT_TRUE(portal.asked[0].ask);
+    EXPECT_EQ(portal.asked[1].interface, "org.freedesktop.portal.Email");
+    EXPECT_EQ(portal.asked[1].method, "ComposeEmail");
+    for (const auto& asked : portal.asked) {
+        const auto handedOver = images.decode(asked.contents, {});
+        ASSERT_TRUE(handedOver) << asked.method;
+        EXPECT_EQ(*handedOver, *picture) << asked.method;
+    }
+    EXPECT_EQ(called(), "") << "no other program is needed";
+}
+
+TEST_F(SharingByPortal, AUserWhoTurnsAwayIsNotAskedAgain) {
+    portal.response = 1;
+    EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
+    EXPECT_EQ(called(), "");
+}
+
+TEST_F(SharingByPortal, APortalThatCannotLeavesItToTheDesktopsPrograms) {
+    portal.response = 2;
+    EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
+    EXPECT_THAT(called(), HasSubstr("Tessivo.png"));
+    portal.refuses = true;
+    EXPECT_EQ(share(&PictureSharing::mail), std::nullopt);
+    EXPECT_THAT(called(), HasSubstr("--attach"));
+}
+
+} // namespace
+} // namespace tessivo

@@ -1,0 +1,9 @@
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QGuiApplication application(argc, argv); // the clipboard is its
+    return RUN_ALL_TESTS();
+}
