@@ -1,0 +1,172 @@
+#include "Interface/CollectionView.h"
+
+#include <gmock/gmock.h>
+
+namespace tessivo::ui {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class NumberedCell final : public CollectionViewCell {
+public:
+    int item = -1;
+    int reuses = 0;
+    void prepareForReuse() override {
+        CollectionViewCell::prepareForReuse();
+        ++reuses;
+    }
+};
+
+class Numbers final : public CollectionViewDataSource, public CollectionViewDelegate {
+public:
+    int count = 0;
+    int made = 0;
+    std::vector<std::string> told;
+
+    int numberOfItems(CollectionView&) override { return count; }
+    std::shared_ptr<CollectionViewCell> cellForItem(CollectionView& collection, int item) override {
+        const auto cell = std::static_pointer_cast<NumberedCell>(collection.dequeueReusableCell("cell"));
+        cell->item = item;
+        return cell;
+    }
+    Size sizeForItem(CollectionView&, int) override { return {80, 40}; }
+    void didSelectItem(CollectionView&, int item) override { told.push_back("+" + std::to_string(item)); }
+    void didDeselectItem(CollectionView&, int item) override { told.push_back("-" + std::to_string(item)); }
+};
+
+class CollectionTest : public testing::Test {
+protected:
+    CollectionTest() {
+        collection.registerCell("cell", [this] {
+            ++numbers->made;
+            return std::make_shared<NumberedCell>();
+        });
+        collection.dataSource = numbers;
+        collection.delegate = numbers;
+        collection.setFrame({0, 0, 100, 200}); // four cards and the spaces between them
+    }
+
+    void show(int count) {
+        numbers->count = count;
+        collection.reloadData();
+    }
+
+    std::vector<int> visible() {
+        std::vector<int> items;
+        for (const auto& [item, cell] : collection.visibleCells()) {
+            EXPECT_EQ(static_cast<NumberedCell&>(*cell).item, item);
+            items.push_back(item);
+        }
+        return items;
+    }
+
+    ControlRegistry registry;
+    std::shared_ptr<Numbers> numbers = std::make_shared<Numbers>();
+    CollectionView collection{registry, "list",
+                              std::make_unique<LineLayout>(LineLayout::Axis::Vertical, 10, 5)};
+};
+
+TEST_F(CollectionTest, OnlyWhatIsOnTheScreenHasACell) {
+    show(10'000);
+    EXPECT_THAT(visible(), ElementsAre(0, 1, 2, 3));
+    EXPECT_EQ(collection.contentSize().height, 10 + 10'000 * 40 + 9'999 * 10);
+    EXPECT_EQ(collection.cellForItem(0)->frame(), (Rect{10, 5, 80, 40}));
+    for (double y = 0; y < 400'000; y += 170)
+        collection.scrolledTo({0, y});
+    EXPECT_LE(numbers->made, 12) << "scrolling reuses cells";
+}
+
+TEST_F(CollectionTest, TheVisiblePartDecidesToThePoint) {
+    show(100);
+    const std::tuple<double, int, int> cases[] = {
+        {0, 0, 3},     // 5..45, 55..95, 105..145, 155..195
+        {5, 0, 3},     // the fifth begins at 205
+        {6, 0, 4},     // and comes in
+        {44, 0, 4},    // the first still shows its last point
+        {45, 1, 4},    // and is gone
+        {4815, 96, 99} // the end
+    };
+    for (const auto& [y, first, last] : cases) {
+        collection.scrolledTo({0, y});
+        EXPECT_EQ(collection.visibleCells().begin()->first, first) << y;
+        EXPECT_EQ(collection.visibleCells().rbegin()->first, last) << y;
+    }
+}
+
+TEST_F(CollectionTest, AReloadGivesEachItemItsCellBack) {
+    show(3);
+    const auto before = collection.visibleCells();
+    collection.reloadData();
+    EXPECT_EQ(collection.visibleCells(), before);
+    EXPECT_EQ(static_cast<NumberedCell&>(*before.at(0)).reuses, 1);
+    show(0);
+    EXPECT_THAT(visible(), IsEmpty());
+    EXPECT_EQ(collection.contentSize().height, 0);
+}
+
+TEST_F(CollectionTest, ADeletedItemTakesOnlyItsOwnCell) {
+    show(4);
+    const auto second = collection.cellForItem(1);
+    numbers->count = 3;
+    collection.deleteItem(0);
+    EXPECT_EQ(collection.cellForItem(0), second);
+    EXPECT_EQ(second->frame().y, 5);
+    EXPECT_EQ(collection.visibleCells().size(), 3U);
+    collection.deleteItem(7);
+    EXPECT_EQ(collection.numberOfItems(), 3);
+}
+
+TEST_F(CollectionTest, InsertedItemsPushTheOthersOn) {
+    show(2);
+    const auto second = collection.cellForItem(1);
+    numbers->count = 3;
+    collection.insertItems(1, 1);
+    EXPECT_EQ(collection.cellForItem(2), second);
+    EXPECT_EQ(second->frame().y, 105);
+    EXPECT_EQ(collection.visibleCells().size(), 3U);
+}
+
+TEST_F(CollectionTest, ATapSelectsOneOrChangesOverOneOfMany) {
+    show(4);
+    collection.tapItem(1);
+    collection.tapItem(2);
+    EXPECT_THAT(collection.selectedItems(), ElementsAre(2));
+    EXPECT_FALSE(collection.cellForItem(1)->isSelected());
+    collection.allowsMultipleSelection = true;
+    collection.tapItem(3);
+    collection.tapItem(2);
+    EXPECT_THAT(collection.selectedItems(), ElementsAre(3));
+    EXPECT_THAT(numbers->told, ElementsAre("+1", "+2", "+3", "-2"));
+    collection.tapItem(9);
+    collection.reloadData();
+    EXPECT_THAT(collection.selectedItems(), IsEmpty());
+}
+
+TEST_F(CollectionTest, ASelectedItemIsMarkedWhenItComesBack) {
+    show(100);
+    collection.selectItem(1);
+    collection.scrolledTo({0, 2000});
+    collection.scrolledTo({0, 0});
+    EXPECT_TRUE(collection.cellForItem(1)->isSelected());
+    EXPECT_FALSE(collection.cellForItem(0)->isSelected());
+    EXPECT_THAT(numbers->told, IsEmpty());
+}
+
+TEST_F(CollectionTest, AStripLiesSideways) {
+    CollectionView strip(registry, "strip",
+                         std::make_unique<LineLayout>(LineLayout::Axis::Horizontal, 16, 16));
+    strip.registerCell("cell", [] { return std::make_shared<NumberedCell>(); });
+    strip.dataSource = numbers;
+    strip.delegate = numbers;
+    strip.setFrame({0, 0, 200, 60});
+    numbers->count = 30;
+    strip.reloadData();
+    EXPECT_EQ(strip.cellForItem(1)->frame(), (Rect{112, 10, 80, 40}));
+    EXPECT_EQ(strip.contentSize().width, 32 + 30 * 80 + 29 * 16);
+    strip.scrollToItem(29);
+    EXPECT_NE(strip.cellForItem(29), nullptr);
+}
+
+} // namespace
+} // namespace tessivo::ui
