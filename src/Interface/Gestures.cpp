@@ -5,7 +5,7 @@
 namespace tessivo::ui {
 
 void GestureRecognizer::addTarget(const void* owner, Target target) {
-    targets_.emplace_back(owner, std::move(target));
+    targets_.emplace_back(owner, std::make_shared<Target>(std::move(target)));
 }
 
 void GestureRecognizer::removeTarget(const void* owner) {
@@ -34,7 +34,7 @@ void GestureRecognizer::enter(GestureState state) {
     // A target may remove itself or others, so each call stands on an index that is checked anew.
     for (std::size_t index = 0; index < targets_.size(); ++index) {
         const auto target = targets_[index].second;
-        target(*this);
+        (*target)(*this);
     }
     if (state_ == GestureState::Ended || state_ == GestureState::Cancelled)
         state_ = GestureState::Possible;

@@ -63,7 +63,8 @@ private:
     GestureState state_ = GestureState::Possible;
     Point location_; ///< in the space of view_
     bool enabled_ = true;
-    std::vector<std::pair<const void*, Target>> targets_;
+    /// Shared, so that a target which removes itself lives to the end of its call.
+    std::vector<std::pair<const void*, std::shared_ptr<Target>>> targets_;
 };
 
 class TapGestureRecognizer final : public GestureRecognizer {
