@@ -1,0 +1,214 @@
+#include "Interface/AlertController.h"
+#include "Interface/DatePicker.h"
+#include "icu/IcuCalendar.h"
+#include "icu/IcuDateFormatters.h"
+#include "shell/ControlWindow.h"
+
+#include <gmock/gmock.h>
+
+#include <QGuiApplication>
+
+namespace tessivo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Lets no text grow beyond a length.
+class LengthLimit final : public ui::TextInputDelegate {
+public:
+    bool shouldChangeText(ui::TextInput& input, ui::TextRange range,
+                          const std::string& replacement) override {
+        return ui::utf16Length(ui::replacing(input.text(), range, replacement)) <= 8;
+    }
+};
+
+class TextControls : public ControlWindow {
+protected:
+    /// Draws an input of the program in one of the drawings for texts and gives it the keyboard.
+    QQuickItem& edit(ui::TextInput& input, const QByteArray& drawing) {
+        input.delegate = limit;
+        auto& root = draw(*screen, drawing + " as TextInputItem }");
+        hand.tapAt({200, 20});
+        EXPECT_TRUE(runUntil([&] { return input.isEditing(); }));
+        for (auto* item : drawnItems(root)) {
+            if (item->hasActiveFocus() && item->property("cursorPosition").isValid())
+                return *item;
+        }
+        ADD_FAILURE() << "Nothing has the keyboard";
+        return root;
+    }
+
+    std::shared_ptr<LengthLimit> limit = std::make_shared<LengthLimit>();
+};
+
+void expectEditing(Hand& hand, QQuickItem& field, const ui::TextInput& input) {
+    hand.commit(QStringLiteral("abcdef"));
+    EXPECT_EQ(input.text(), "abcdef");
+
+    // What is refused leaves the text and the cursor where they were.
+    field.setProperty("cursorPosition", 2);
+    hand.commit(QStringLiteral("xyz"));
+    EXPECT_EQ(input.text(), "abcdef");
+    EXPECT_EQ(field.property("text").toString(), QStringLiteral("abcdef"));
+    EXPECT_EQ(field.property("cursorPosition").toInt(), 2);
+
+    // A character of two units goes in and out whole, also in the middle.
+    hand.commit(QString::fromUtf8("🏖"));
+    EXPECT_EQ(input.text(), "ab🏖cdef");
+    EXPECT_EQ(field.property("cursorPosition").toInt(), 4);
+    hand.press(Qt::Key_Backspace);
+    EXPECT_EQ(input.text(), "abcdef");
+    EXPECT_EQ(field.property("text").toString(), QStringLiteral("abcdef"));
+}
+
+TEST_F(TextControls, AFieldHandsOverEachChangeAndTakesBackWhatIsRefused) {
+    auto& input = screen->field;
+    auto& field = edit(input, "EditableField { width: parent.width; input: root.screen.control('field')");
+    expectEditing(hand, field, input);
+}
+
+TEST_F(TextControls, ABoxHandsOverEachChangeAndTakesBackWhatIsRefused) {
+    auto& input = screen->box;
+    auto& field = edit(input, "MessageBox { width: parent.width; input: root.screen.control('box')");
+    expectEditing(hand, field, input);
+    hand.press(Qt::Key_Return);
+    EXPECT_EQ(input.text(), "ab\ncdef");
+}
+
+TEST_F(TextControls, TheProgramsTextIsShownAndItMayPutTheKeyboardAway) {
+    auto& input = screen->field;
+    auto& field = edit(input, "EditableField { width: parent.width; input: root.screen.control('field')");
+    input.setText("Anna");
+    EXPECT_EQ(field.property("text").toString(), QStringLiteral("Anna"));
+    input.endEditing();
+    EXPECT_FALSE(field.hasActiveFocus());
+}
+
+TEST_F(ControlWindow, ASwitchTogglesByTouchOfItsRowAndByKey) {
+    auto& toggle = screen->toggle;
+    toggle.setAccessibilityName("All Day");
+    int changes = 0;
+    toggle.addValueChangedTarget([&] { ++changes; });
+    draw(*screen, "SwitchRow { width: parent.width; label: root.screen.control('label') as LabelItem\n"
+                  "item: root.screen.control('toggle') as SwitchItem }");
+    hand.tap(QStringLiteral("All Day"));
+    EXPECT_TRUE(toggle.isOn());
+    hand.tapAt({60, 26});
+    EXPECT_FALSE(toggle.isOn());
+    hand.find(QStringLiteral("All Day"))->forceActiveFocus();
+    hand.press(Qt::Key_Space);
+    EXPECT_TRUE(toggle.isOn());
+    hand.press(Qt::Key_Return);
+    EXPECT_FALSE(toggle.isOn());
+    EXPECT_EQ(changes, 4);
+    toggle.setOn(true);
+    EXPECT_EQ(changes, 4);
+}
+
+TEST_F(ControlWindow, SegmentsAreSelectedByTouchAndByArrowKeysAsTheyStand) {
+    auto& segments = screen->segments;
+    segments.setTitles({"Hours", "Days", "Weeks"});
+    segments.setSelectedIndex(0);
+    auto& root = draw(*screen, "Segments { width: parent.width\n"
+                               "item: root.screen.control('segments') as SegmentedItem }");
+    hand.tap(QStringLiteral("Weeks"));
+    EXPECT_EQ(segments.selectedIndex(), 2);
+    root.childItems().front()->forceActiveFocus();
+    hand.press(Qt::Key_Left);
+    EXPECT_EQ(segments.selectedIndex(), 1);
+    hand.press(Qt::Key_Right);
+    hand.press(Qt::Key_Right);
+    EXPECT_EQ(segments.selectedIndex(), 2);
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    hand.press(Qt::Key_Right);
+    EXPECT_EQ(segments.selectedIndex(), 1);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+class Wheels : public ControlWindow {
+protected:
+    Wheels() {
+        draw(*screen, "WheelPicker { width: parent.width\n"
+                      "picker: root.screen.control('picker') as DatePickerItem }");
+    }
+    ~Wheels() override { undraw(); }
+
+    /// Rows that the wheels stand at: day, month, year.
+    [[nodiscard]] std::vector<int> rows() const {
+        return {picker.wheel(0).selected, picker.wheel(1).selected, picker.wheel(2).selected};
+    }
+    [[nodiscard]] bool standAt(const std::vector<int>& wanted) const {
+        return runUntil([&] { return rows() == wanted; });
+    }
+    [[nodiscard]] static QPointF wheel(int index) { return {70.0 + 125 * index, 90}; }
+
+    IcuCalendar calendar{"en_US", "Europe/Berlin"};
+    IcuDateFormatters formatters{"en_US", "Europe/Berlin"};
+    ui::DatePicker picker{screen->controls, "picker",   ui::DatePickerMode::Date,
+                          calendar,         formatters, instantAt(1908261015)}; // 21 June 2030
+};
+
+TEST_F(Wheels, TurnByTouchByMouseWheelAndByArrowKeys) {
+    const auto start = rows();
+    const QPointF threeRows(0, 3 * 36 + 30); // and what a drag uses up before anything moves
+    hand.drag(wheel(0) + threeRows / 2, wheel(0) - threeRows / 2);
+    EXPECT_TRUE(standAt({start[0] + 3, start[1], start[2]})) << testing::PrintToString(rows());
+    hand.turnMouseWheel(wheel(1), -2);
+    EXPECT_TRUE(standAt({start[0] + 3, start[1] + 2, start[2]})) << testing::PrintToString(rows());
+    hand.turnMouseWheel(wheel(1), 1);
+    EXPECT_TRUE(standAt({start[0] + 3, start[1] + 1, start[2]})) << testing::PrintToString(rows());
+    hand.press(Qt::Key_Tab);
+    hand.press(Qt::Key_Down);
+    EXPECT_TRUE(standAt({start[0] + 4, start[1] + 1, start[2]})) << testing::PrintToString(rows());
+}
+
+TEST_F(Wheels, FollowTheProgramsDateAndCutTheDayToTheMonth) {
+    picker.setDate(instantAt(1927627200)); // 31 January 2031
+    hand.turnMouseWheel(wheel(1), -1);
+    EXPECT_TRUE(standAt({27, 1, picker.wheel(2).selected})) << testing::PrintToString(rows());
+    EXPECT_TRUE(runUntil([&] { return hand.find(QStringLiteral("28")) != nullptr; }));
+}
+
+TEST_F(ControlWindow, AnAlertStaysUntilItIsAnswered) {
+    std::vector<std::string> answers;
+    auto question =
+        std::make_shared<ui::AlertController>(windowContext, ui::AlertStyle::Alert, "Title", "Text");
+    question->addAction({"No", ui::AlertActionStyle::Default, [&] { answers.push_back("No"); }});
+    question->addAction({"Yes", ui::AlertActionStyle::Default, [&] { answers.push_back("Yes"); }});
+    screen->present(question, false);
+    draw(*question, "AlertDialog { anchors.fill: parent; focus: true; alert: root.screen as AlertItem }");
+    hand.tapAt({195, 30});
+    hand.press(Qt::Key_Escape);
+    EXPECT_EQ(stack.top(), question.get());
+    EXPECT_THAT(answers, IsEmpty());
+    hand.tap(QStringLiteral("Yes"));
+    EXPECT_THAT(answers, ElementsAre("Yes"));
+    EXPECT_EQ(stack.top(), screen.get());
+}
+
+TEST_F(ControlWindow, ADisabledButtonTakesNoTouchAndNoKey) {
+    auto& button = screen->button;
+    button.setTitle("Next");
+    int taps = 0;
+    button.addTarget(ui::PressEvent::UpInside, [&] { ++taps; });
+    button.setEnabled(false);
+    draw(*screen, "TextButton { button: root.screen.control('button') as ButtonItem }");
+    hand.tap(QStringLiteral("Next"));
+    hand.press(Qt::Key_Return);
+    EXPECT_EQ(taps, 0);
+    button.setEnabled(true);
+    hand.tap(QStringLiteral("Next"));
+    EXPECT_EQ(taps, 1);
+    hand.press(Qt::Key_Space);
+    hand.press(Qt::Key_Return);
+    EXPECT_EQ(taps, 3);
+}
+
+TEST_F(ControlWindow, AControlThatTheScreenLacksStopsTheProgram) {
+    shell::ScreenItem* item = shell::ScreenItem::make(screen, context, &window);
+    EXPECT_THROW(item->control(QStringLiteral("nextButon")), fakes::ProgramStopped);
+}
+
+} // namespace
+} // namespace tessivo

@@ -1,0 +1,28 @@
+#include <QAccessible>
+#include <QFont>
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A complaint of QML is a fault in whatever test it comes up.
+void complain(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (type != QtDebugMsg && type != QtInfoMsg)
+        ADD_FAILURE() << message.toStdString();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("LC_ALL", "en_US.UTF-8");
+    qputenv("TZ", "Europe/Berlin");
+    QGuiApplication application(argc, argv);
+    QFont font;
+    font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Noto Color Emoji")});
+    QGuiApplication::setFont(font);
+    QAccessible::setActive(true);
+    qInstallMessageHandler(complain);
+    return RUN_ALL_TESTS();
+}
