@@ -27,6 +27,12 @@ private:
 
 } // namespace
 
+ScriptedHttpClient::~ScriptedHttpClient() {
+    // A request holds its task and is held by the completion: what is still out must let go of it.
+    for (const auto& exchange : exchanges_)
+        exchange->completion = nullptr;
+}
+
 std::shared_ptr<HttpTask> ScriptedHttpClient::start(HttpRequest request, Completion completion) {
     exchanges_.push_back(
         std::make_shared<Exchange>(Exchange{std::move(request), std::move(completion), false}));

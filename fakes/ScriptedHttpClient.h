@@ -15,6 +15,11 @@ public:
         bool isCancelled = false;
     };
 
+    ScriptedHttpClient() = default;
+    ~ScriptedHttpClient() override;
+    ScriptedHttpClient(const ScriptedHttpClient&) = delete;
+    ScriptedHttpClient& operator=(const ScriptedHttpClient&) = delete;
+
     std::shared_ptr<HttpTask> start(HttpRequest request, Completion completion) override;
 
     /// All exchanges so far, in the order of their start.

@@ -9,7 +9,10 @@ namespace tessivo::unsplash {
 OperationQueue::OperationQueue(WorkQueue& work, std::string name) : work_(work), name_(std::move(name)) {}
 
 void OperationQueue::addOperation(std::shared_ptr<ConcurrentOperation> operation) {
-    operation->setFinishedObserver([state = state_, finished = operation.get()] {
+    operation->setFinishedObserver([weak = std::weak_ptr(state_), finished = operation.get()] {
+        const auto state = weak.lock();
+        if (!state)
+            return;
         const std::lock_guard lock(state->mutex);
         std::erase_if(state->operations, [finished](const auto& held) { return held.get() == finished; });
     });

@@ -62,8 +62,12 @@ void PagedDataSource::fetchItems() {
         told->dataSourceWillStartFetching(*this);
     isFetching_ = true;
     const auto request = factory->request(cursor());
-    // The block keeps the request; it is dropped as the request finishes, so that no circle stays.
-    request->setCompletionBlock([self = shared_from_this(), request] { self->complete(*request); });
+    // The block belongs to the request, and the request to the source's queue: it holds neither, so that a
+    // fetch that never ends keeps nothing alive.
+    request->setCompletionBlock([weak = weak_from_this(), request = request.get()] {
+        if (const auto self = weak.lock())
+            self->complete(*request);
+    });
     operationQueue.addOperation(request);
 }
 
