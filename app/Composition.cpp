@@ -3,7 +3,9 @@
 #include "Ports/Console.h"
 #include "Support/StartUp/AppDelegate.h"
 
+#include <QDBusConnection>
 #include <QFile>
+#include <QStandardPaths>
 
 #include <array>
 
@@ -26,6 +28,10 @@ Table table(const std::string& name, Console& console) {
     return std::move(read.value());
 }
 
+std::filesystem::path picturesFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation).toStdString();
+}
+
 } // namespace
 
 Composition::Composition(Settings settings, Clock& clock, Console& console)
@@ -42,6 +48,8 @@ Composition::Composition(Settings settings, Clock& clock, Console& console)
       photoTexts_(table<JsonLocalizedTexts>("unsplash-texts/" + settings_.language + ".json", console)),
       responseCaches_(settings_.caches),
       documentFiles_(settings_.data / "documents"),
+      pictureSharing_({picturesFolder(), settings_.caches / "lent"}, QDBusConnection::sessionBus(), images_,
+                      background_, mainQueue_),
       services_({console,
                  clock,
                  timers_,
@@ -62,11 +70,13 @@ Composition::Composition(Settings settings, Clock& clock, Console& console)
                  responseCaches_,
                  documentFiles_,
                  links_,
+                 snapshots_,
+                 pictureSharing_,
                  &photoTexts_},
                 window_, screens_),
       permission_(stack_, notificationCenter_, mainQueue_,
                   [this](bool allowed) { notificationCenter_.setAuthorization(allowed); }),
-      shell_(stack_, colors_, console) {
+      shell_(stack_, colors_, console, snapshots_) {
     screens_.use(services_);
     screens_.onOpenNotificationSettings([this] { permission_.openSettings(); });
 }

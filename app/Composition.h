@@ -17,7 +17,9 @@
 #include "qtimage/QtImageCoding.h"
 #include "qtnetwork/QtHttpClient.h"
 #include "qtnetwork/QtResponseCaches.h"
+#include "qtsharing/QtPictureSharing.h"
 #include "shell/Shell.h"
+#include "shell/bridge/QuickSnapshots.h"
 #include "sqlite/SqliteEventStore.h"
 #include "sqlite/SqliteNotificationQueue.h"
 #include "sqlite/SqliteSavedSettings.h"
@@ -92,6 +94,8 @@ private:
     // Their threads use what stands above.
     ThreadWorkQueue background_;
     QtHttpClient http_;
+    QtPictureSharing pictureSharing_;
+    shell::QuickSnapshots snapshots_;
 
     // The program.
     ui::MainScreen screen_;

@@ -14,16 +14,18 @@ extern void qml_register_types_Tessivo(); // NOLINT(readability-identifier-namin
 namespace tessivo::shell {
 
 struct Shell::Parts {
-    Parts(ui::PresentationStack& stack, const NamedColors& colors, Console& console)
-        : context{colors, console}, window(stack, context) {}
+    Parts(ui::PresentationStack& stack, const NamedColors& colors, Console& console,
+          QuickSnapshots& snapshots)
+        : context{colors, console, snapshots}, window(stack, context) {}
 
     BridgeContext context;
     WindowItem window;
     QQmlApplicationEngine engine; ///< last, so that no drawing outlives what it draws
 };
 
-Shell::Shell(ui::PresentationStack& stack, const NamedColors& colors, Console& console)
-    : parts_(std::make_unique<Parts>(stack, colors, console)) {}
+Shell::Shell(ui::PresentationStack& stack, const NamedColors& colors, Console& console,
+             QuickSnapshots& snapshots)
+    : parts_(std::make_unique<Parts>(stack, colors, console, snapshots)) {}
 
 Shell::~Shell() = default;
 

@@ -17,11 +17,15 @@ class PresentationStack;
 
 namespace shell {
 
+class QuickSnapshots;
+
 /// The window: draws the screens of a stack and hands the user's touches and keys to them. One per program,
 /// on the main thread. All that it is made of outlives it.
 class Shell {
 public:
-    Shell(ui::PresentationStack& stack, const NamedColors& colors, Console& console);
+    /// The window's drawings enter themselves at `snapshots`.
+    Shell(ui::PresentationStack& stack, const NamedColors& colors, Console& console,
+          QuickSnapshots& snapshots);
     Shell(const Shell&) = delete;
     Shell& operator=(const Shell&) = delete;
     ~Shell();

@@ -79,6 +79,7 @@ public:
     ImageItem(ui::ImageView& view, const BridgeContext& context, QObject* parent)
         : ViewItem(view, context, parent), view_(view) {}
 
+    [[nodiscard]] const ui::ImageView& view() const { return view_; }
     [[nodiscard]] QString image() const { return QString::fromStdString(view_.image().name); }
     [[nodiscard]] QColor tint() const { return context().color(view_.tint()); }
 

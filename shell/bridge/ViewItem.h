@@ -2,9 +2,11 @@
 
 #include "Interface/View.h"
 #include "bridge/BridgeContext.h"
+#include "bridge/QuickSnapshots.h"
 #include "bridge/Values.h"
 
 #include <QObject>
+#include <QQuickItem>
 
 namespace tessivo::shell {
 
@@ -42,6 +44,8 @@ public:
 
     /// The user taps the view.
     Q_INVOKABLE void tap() { view_.tap(); }
+    /// `item` draws the view with all that it holds: pictures of the view are taken of it.
+    Q_INVOKABLE void drawnBy(QQuickItem* item) { context_.snapshots.drawnBy(view_, *item); }
 
 Q_SIGNALS:
     void appearanceChanged();

@@ -28,6 +28,7 @@ ActivityViewController::ActivityViewController(WindowContext& window, PictureSha
     offer(openButton, "Open", "shareOpen", &PictureSharing::open, "The Picture Was Not Opened");
     offer(mailButton, "Mail", "shareMail", &PictureSharing::mail, "The Picture Was Not Sent");
     cancelButton.setTitle("Cancel");
+    cancelButton.setTitleColor(ColorRef::named("button"));
     cancelButton.addTarget(PressEvent::UpInside, [this] { dismiss(); });
 }
 

@@ -16,12 +16,17 @@ class LocalizedTexts;
 class MainQueue;
 class NamedColors;
 class NotificationCenter;
+class PictureSharing;
 class ResponseCaches;
 class SavedSettings;
 class TextCounting;
 class Timers;
 class UuidSource;
 class WorkQueue;
+
+namespace ui {
+class ViewSnapshots;
+}
 
 /// What the machine gives the program. All of it outlives the program's objects.
 struct Platform {
@@ -45,6 +50,8 @@ struct Platform {
     ResponseCaches& responseCaches;
     DocumentFiles& documentFiles;
     LinkOpener& links;
+    ui::ViewSnapshots& snapshots;
+    PictureSharing& pictureSharing;
     const LocalizedTexts* photoTexts; ///< the photo browser's own; null where they were not found
 };
 

@@ -5,12 +5,14 @@
 #include "Support/SharedServices.h"
 #include "Support/StartUp/AppDelegate.h"
 #include "Support/StartUp/Screens.h"
+#include "fakes/CannedSnapshots.h"
 #include "fakes/CountingUuids.h"
 #include "fakes/FakeNotificationCenter.h"
 #include "fakes/MemoryResponseCaches.h"
 #include "fakes/PostedWorkQueue.h"
 #include "fakes/RecordingConsole.h"
 #include "fakes/RecordingLinkOpener.h"
+#include "fakes/RecordingPictureSharing.h"
 #include "fakes/ScriptedHttpClient.h"
 #include "fakes/Timeline.h"
 #include "icu/IcuCalendar.h"
@@ -66,6 +68,8 @@ public:
     fakes::ScriptedHttpClient http;
     fakes::MemoryResponseCaches responseCaches;
     fakes::RecordingLinkOpener links;
+    fakes::CannedSnapshots snapshots{timeline};
+    fakes::RecordingPictureSharing pictureSharing;
     QtImageCoding images;
     FolderDocumentFiles documents{folder / "documents"};
     ui::MainScreen screen{{390, 844}};
@@ -96,6 +100,7 @@ private:
                         program.background_,   program.json_,
                         program.images,        program.responseCaches,
                         program.documents,     program.links,
+                        program.snapshots,     program.pictureSharing,
                         &program.photoTexts_},
                        window, screens),
               stack(window) {

@@ -21,6 +21,7 @@ FocusScope {
             case "EventBackgroundViewController": return backgroundStep;
             case "TableViewController": return valuePicker;
             case "NotificationSettingsController": return notificationSettings;
+            case "ActivityViewController": return shareSheet;
             default:
                 console.warn("There is no drawing for " + content.screen.name);
                 return null;
@@ -36,4 +37,5 @@ FocusScope {
     Component { id: backgroundStep; EventBackgroundViewController { screen: content.screen } }
     Component { id: valuePicker; TableViewController { screen: content.screen } }
     Component { id: notificationSettings; NotificationSettingsController { screen: content.screen } }
+    Component { id: shareSheet; ShareSheet { screen: content.screen } }
 }

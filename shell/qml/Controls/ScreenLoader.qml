@@ -16,7 +16,7 @@ Item {
             switch (loader.screen.kind) {
             case ScreenItem.Sheet: return sheet;
             case ScreenItem.Alert: return alert;
-            case ScreenItem.ActionSheet: return actionSheet;
+            case ScreenItem.ActionSheet: return loader.screen instanceof AlertItem ? actionSheet : full;
             default: return full;
             }
         }

@@ -16,6 +16,7 @@ FocusScope {
     width: cell.width
     height: cell.height
     activeFocusOnTab: true
+    Component.onCompleted: cell.drawnBy(card)
     Keys.onReturnPressed: list.collection.tapItem(cell.item)
     Keys.onMenuPressed: list.collection.openMenu(cell.item, x + width / 2, y + height / 2)
     Accessible.role: Accessible.Button
