@@ -12,6 +12,7 @@
 #include "icu/IcuTextCounting.h"
 #include "qt/QtFrameClock.h"
 #include "qt/QtMainQueue.h"
+#include "qt/QtTextMeasuring.h"
 #include "qt/QtTimers.h"
 #include "qtdesktop/QtLinkOpener.h"
 #include "qtimage/QtImageCoding.h"
@@ -78,6 +79,7 @@ private:
     IcuCalendar queueCalendar_{freedesktop::queueLocale};
     IcuDateFormatters dateFormatters_;
     IcuTextCounting textCounting_;
+    QtTextMeasuring textMeasuring_;
     JsonNamedColors colors_;
     JsonLocalizedTexts texts_;
     sqlite::SqliteSavedSettings savedSettings_;

@@ -4,6 +4,31 @@
 
 namespace tessivo::shell {
 
+CellItem::CellItem(std::shared_ptr<ui::CollectionViewCell> cell, const BridgeContext& context,
+                   QObject* parent)
+    : ViewItem(*cell, context, parent),
+      cell_(std::move(cell)),
+      controls_(cell_->controls, context, this),
+      contentChanges_(cell_->contentView.onChange([this](ui::ViewChange change) {
+          if (change == ui::ViewChange::Hierarchy)
+              follow();
+      })) {
+    follow();
+}
+
+void CellItem::follow() {
+    const auto& named = cell_->controls.all();
+    const bool hadAny = !attached_.isEmpty();
+    for (LooseViewItem* item : std::exchange(attached_, {}))
+        item->deleteLater();
+    for (ui::View* view : cell_->contentView.subviews()) {
+        if (std::ranges::none_of(named, [&](const auto& entry) { return entry.second == view; }))
+            attached_.push_back(new LooseViewItem(*view, context(), this));
+    }
+    if (hadAny || !attached_.isEmpty())
+        Q_EMIT attachedChanged();
+}
+
 void CellItem::setItem(int item) {
     if (std::exchange(item_, item) != item)
         Q_EMIT itemChanged();

@@ -2,6 +2,7 @@
 
 #include "Interface/CollectionView.h"
 #include "bridge/ItemSet.h"
+#include "bridge/LooseViewItem.h"
 #include "bridge/MenuItem.h"
 #include "bridge/ViewItem.h"
 
@@ -20,26 +21,31 @@ class CellItem final : public ViewItem {
     Q_PROPERTY(int item READ item NOTIFY itemChanged FINAL)
     Q_PROPERTY(bool selected READ selected NOTIFY contentChanged FINAL)
     Q_PROPERTY(bool highlighted READ highlighted NOTIFY contentChanged FINAL)
+    Q_PROPERTY(QList<tessivo::shell::LooseViewItem*> attached READ attached NOTIFY attachedChanged FINAL)
 
 public:
-    CellItem(std::shared_ptr<ui::CollectionViewCell> cell, const BridgeContext& context, QObject* parent)
-        : ViewItem(*cell, context, parent),
-          cell_(std::move(cell)),
-          controls_(cell_->controls, context, this) {}
+    CellItem(std::shared_ptr<ui::CollectionViewCell> cell, const BridgeContext& context, QObject* parent);
 
     [[nodiscard]] const ui::CollectionViewCell& cell() const { return *cell_; }
     [[nodiscard]] int item() const { return item_; }
     [[nodiscard]] bool selected() const { return cell_->isSelected(); }
     [[nodiscard]] bool highlighted() const { return cell_->isHighlighted(); }
+    /// What stands in the content without a name of its own.
+    [[nodiscard]] QList<LooseViewItem*> attached() const { return attached_; }
     void setItem(int item);
     Q_INVOKABLE tessivo::shell::ViewItem* control(const QString& name) { return controls_.control(name); }
 
 Q_SIGNALS:
     void itemChanged();
+    void attachedChanged();
 
 private:
     std::shared_ptr<ui::CollectionViewCell> cell_;
+    void follow();
+
     ItemSet controls_;
+    QList<LooseViewItem*> attached_;
+    Subscription contentChanges_;
     int item_ = -1;
 };
 

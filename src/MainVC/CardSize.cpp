@@ -10,21 +10,28 @@ namespace tessivo {
 namespace {
 
 constexpr double widthDivisor = 1.1;
-constexpr std::array heightDivisors{4.6136, 4.06, 3.5};
+
+constexpr std::array eventSizes{
+    EventSize{4.6136, 52, "editSmall", "DeleteSmall", "shareSmall"},
+    EventSize{4.06, 60, "editLarge", "DeleteLarge", "shareLarge"},
+    EventSize{3.5, 68, "editBig", "DeleteBig", "shareBig"},
+};
 
 } // namespace
 
-long savedEventSize(const Platform& platform) {
-    if (const auto size = platform.settings.integer(settingKeys::eventSize))
-        return *size;
-    platform.console.stopProgram("The card size is not set.");
+const EventSize* savedEventSize(const Platform& platform) {
+    const auto choice = platform.settings.integer(settingKeys::eventSize);
+    if (!choice)
+        platform.console.stopProgram("The card size is not set.");
+    if (*choice < 0 || static_cast<std::size_t>(*choice) >= eventSizes.size())
+        return nullptr;
+    return &eventSizes[static_cast<std::size_t>(*choice)];
 }
 
-ui::Size cardSize(long eventSize, const ui::MainScreen& screen) {
-    if (eventSize < 0 || static_cast<std::size_t>(eventSize) >= heightDivisors.size())
+ui::Size cardSize(const EventSize* choice, const ui::MainScreen& screen) {
+    if (!choice)
         return {};
-    return {screen.width() / widthDivisor,
-            screen.height() / heightDivisors[static_cast<std::size_t>(eventSize)]};
+    return {screen.width() / widthDivisor, screen.height() / choice->heightDivisor};
 }
 
 } // namespace tessivo

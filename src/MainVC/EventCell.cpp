@@ -20,7 +20,12 @@ constexpr double cardCornerRadius = 24;
 } // namespace
 
 EventCell::EventCell(SharedServices& services)
-    : services_(services),
+    : SwipeCollectionViewCell({services.window().animations,
+                               services.platform().mainQueue,
+                               services.platform().textMeasuring,
+                               nullptr,
+                               {}}),
+      services_(services),
       currentDate(services.platform().clock.now()),
       eventFormatter(services.platform().dateFormatters.make(fullFormat)),
       dateFormatter(services.platform().dateFormatters.make(dateFormat)) {
@@ -38,7 +43,7 @@ EventCell::EventCell(SharedServices& services)
 }
 
 void EventCell::prepareForReuse() {
-    CollectionViewCell::prepareForReuse();
+    SwipeCollectionViewCell::prepareForReuse();
     if (!contentView.sublayers().empty())
         contentView.removeSublayer(0);
 }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Interface/CollectionViewCell.h"
 #include "Interface/ImageView.h"
 #include "Interface/Label.h"
 #include "Ports/DateFormatter.h"
 #include "Ports/Uuid.h"
 #include "Support/SharedServices.h"
+#include "SwipeCells/SwipeCollectionViewCell.h"
 
 namespace tessivo {
 
@@ -15,7 +15,8 @@ class EventCoreData;
 ///
 /// It counts from the moment at which the cell was made, also when it is reused: numbers of a list stand
 /// still while it is on the screen, and move when the list is made anew.
-class EventCell final : public ui::CollectionViewCell, public std::enable_shared_from_this<EventCell> {
+class EventCell final : public swipe::SwipeCollectionViewCell,
+                        public std::enable_shared_from_this<EventCell> {
 public:
     explicit EventCell(SharedServices& services);
 

@@ -115,13 +115,19 @@ int MainViewController::numberOfItems(ui::CollectionView&) {
     return numberOfObjectsInSection;
 }
 
-std::shared_ptr<ui::CollectionViewCell> MainViewController::cellForItem(ui::CollectionView& collectionView,
-                                                                        int item) {
+EventCoreData& MainViewController::rowAt(int item) {
     if (!records || item < 0 || static_cast<std::size_t>(item) >= records->size())
         platform().console.stopProgram("The list has no event " + std::to_string(item) + ".");
+    return *(*records)[static_cast<std::size_t>(item)];
+}
+
+std::shared_ptr<ui::CollectionViewCell> MainViewController::cellForItem(ui::CollectionView& collectionView,
+                                                                        int item) {
+    const EventCoreData& row = rowAt(item);
     const auto cell =
         std::static_pointer_cast<EventCell>(collectionView.dequeueReusableCell(reuseIdentifier));
-    cell->configure(*(*records)[static_cast<std::size_t>(item)]);
+    cell->configure(row);
+    cell->delegate = weakSelf<swipe::SwipeCollectionViewCellDelegate>(this);
     return cell;
 }
 
@@ -131,16 +137,17 @@ ui::Size MainViewController::sizeForItem(ui::CollectionView&, int) {
 
 void MainViewController::didSelectItem(ui::CollectionView& collectionView, int item) {
     const auto cell = std::static_pointer_cast<EventCell>(collectionView.cellForItem(item));
-    if (!cell || !cell->recordID)
+    if (cell && cell->recordID)
+        slideIn(
+            services().screens().makeFullEvent(services().makeCoreDataStack()->fetchEvent(*cell->recordID)));
+}
+
+void MainViewController::slideIn(std::shared_ptr<ui::ViewController> next) {
+    if (!next)
         return;
-    // A stack of its own: what the full screen changes and does not save must not show in the list.
-    auto fullEvent =
-        services().screens().makeFullEvent(services().makeCoreDataStack()->fetchEvent(*cell->recordID));
-    if (!fullEvent)
-        return;
-    fullEvent->modalPresentationStyle = ui::PresentationStyle::Custom;
-    fullEvent->transitioningDelegate = weakSelf<ui::TransitioningDelegate>(this);
-    present(std::move(fullEvent));
+    next->modalPresentationStyle = ui::PresentationStyle::Custom;
+    next->transitioningDelegate = weakSelf<ui::TransitioningDelegate>(this);
+    present(std::move(next));
 }
 
 void MainViewController::didSelectViewController(ui::TabBarController& tabs, ui::ViewController&) {

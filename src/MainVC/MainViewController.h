@@ -7,6 +7,8 @@
 #include "Interface/Label.h"
 #include "Interface/TabBarController.h"
 #include "Support/Screen.h"
+#include "Support/ScreenFactory.h"
+#include "SwipeCells/SwipeCollectionViewCell.h"
 
 namespace tessivo {
 
@@ -22,6 +24,7 @@ class MainViewController final : public Screen,
                                  public SlideTransitions,
                                  public ui::CollectionViewDataSource,
                                  public ui::CollectionViewDelegate,
+                                 public swipe::SwipeCollectionViewCellDelegate,
                                  public ui::TabBarControllerDelegate {
 public:
     MainViewController(SharedServices& services, ListType type);
@@ -47,7 +50,20 @@ public:
                                                                       int item) override;
     [[nodiscard]] ui::Size sizeForItem(ui::CollectionView& collectionView, int item) override;
     void didSelectItem(ui::CollectionView& collectionView, int item) override;
+    [[nodiscard]] std::optional<ui::Menu> contextMenuForItem(ui::CollectionView& collectionView, int item,
+                                                             ui::Point point) override;
+    [[nodiscard]] std::optional<swipe::SwipeActions>
+    editActions(ui::CollectionView& collectionView, int item, swipe::SwipeActionsOrientation side) override;
+    [[nodiscard]] swipe::SwipeOptions editActionsOptions(ui::CollectionView& collectionView, int item,
+                                                         swipe::SwipeActionsOrientation side) override;
     void didSelectViewController(ui::TabBarController& tabs, ui::ViewController& selected) override;
+
+    // What can be done with a card. An item without a row stops the program.
+    void showEditSheet(int item);
+    void shareCard(int item);
+    void confirmDeletion(int item);
+    /// Removes the event of that item with its pending notification; the list follows in a later turn.
+    void deleteAction(int item);
 
 protected:
     void viewDidLoad() override;
@@ -58,6 +74,12 @@ private:
     void scheduleTick();
     void timerFired();
     void refreshAndReload();
+    void edit(EditScreen kind, int item);
+    [[nodiscard]] EventCoreData& rowAt(int item);
+    /// The row once more, from a stack of its own: what the next screen changes and does not save must not
+    /// show in the list, nor be saved with the next write.
+    [[nodiscard]] std::shared_ptr<EventCoreData> freshRowAt(int item);
+    void slideIn(std::shared_ptr<ui::ViewController> next);
     [[nodiscard]] std::shared_ptr<MainViewController> self();
 
     std::unique_ptr<CoreDataStack> coreDataManager;

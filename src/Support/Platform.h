@@ -20,6 +20,7 @@ class PictureSharing;
 class ResponseCaches;
 class SavedSettings;
 class TextCounting;
+class TextMeasuring;
 class Timers;
 class UuidSource;
 class WorkQueue;
@@ -37,6 +38,7 @@ struct Platform {
     Calendar& calendar;
     DateFormatters& dateFormatters;
     TextCounting& textCounting;
+    TextMeasuring& textMeasuring;
     NamedColors& colors;
     LocalizedTexts& texts;
     SavedSettings& settings;

@@ -11,6 +11,9 @@ namespace ui {
 class ViewController;
 }
 
+/// The screens that change a stored event.
+enum class EditScreen { Title, DateAndTime, Reminder, Background };
+
 /// Makes the screens that lead to each other in circles, so that none of their folders needs the others. A
 /// null screen is one that the program does not have: nothing is shown.
 class ScreenFactory {
@@ -24,6 +27,8 @@ public:
     /// One event over the whole screen.
     [[nodiscard]] virtual std::shared_ptr<ui::ViewController>
     makeFullEvent(std::shared_ptr<EventCoreData> record) = 0;
+    [[nodiscard]] virtual std::shared_ptr<ui::ViewController>
+    makeEdit(EditScreen kind, std::shared_ptr<EventCoreData> eventData) = 0;
     /// `sizeChanged` is called when the user has chosen another card size.
     [[nodiscard]] virtual std::shared_ptr<ui::ViewController>
     makeSettings(std::function<void()> sizeChanged) = 0;

@@ -3,8 +3,11 @@
 #include "Event/CoreDataStack.h"
 #include "Event/EventItem.h"
 #include "Extension/TabBar/CustomTabBarController.h"
+#include "Interface/ActivityViewController.h"
+#include "Interface/AlertController.h"
 #include "MainVC/EventCell.h"
 #include "Ports/SavedSettings.h"
+#include "Support/LocalizationVariables.h"
 #include "Support/SettingKeys.h"
 #include "support/Program.h"
 
@@ -12,6 +15,8 @@
 
 namespace tessivo {
 namespace {
+
+using testing::ElementsAre;
 
 class ListTest : public testing::Test {
 protected:
@@ -204,6 +209,169 @@ TEST_F(ListTest, LargeScreensGetLargerType) {
     const auto& runs = card(future, 0).eventInformationLabel.styledText().runs;
     EXPECT_EQ(runs[0].font, (ui::Font{30, ui::FontWeight::Semibold}));
     EXPECT_EQ(runs[1].font, (ui::Font{24, ui::FontWeight::Regular}));
+}
+
+TEST_F(ListTest, ALongPressOffersWhatCanBeDoneInItsOrder) {
+    store(event("pressed", "25 June 2030"));
+    auto& future = list(ListType::Future);
+    const auto menu = future.contextMenuForItem(future.collection, 0, {});
+    ASSERT_TRUE(menu);
+    std::vector<std::string> titles;
+    for (const auto& element : menu->elements) {
+        titles.push_back(element.title + " " + element.symbol);
+        for (const auto& child : element.children)
+            titles.push_back("- " + child.title + " " + child.symbol);
+    }
+    EXPECT_THAT(titles, ElementsAre("Edit pencil", "- Edit Title textformat", "- Edit Day & Time calendar",
+                                    "- Edit Reminder bell.badge", "- Edit Background photo",
+                                    "Share square.and.arrow.up", "Delete trash"));
+    menu->elements[2].handler();
+    EXPECT_EQ(program.top<ui::AlertController>().title(),
+              "Are You Sure You Want\u2028 to Delete This Event?");
+}
+
+TEST_F(ListTest, TheEditSheetOffersFourScreensAndCancel) {
+    store(event("edited", "25 June 2030"));
+    list(ListType::Future).showEditSheet(0);
+    auto& sheet = program.top<ui::AlertController>();
+    EXPECT_EQ(sheet.title(), "Edit");
+    EXPECT_EQ(sheet.message(), "What do you want to edit?");
+    std::vector<std::string> titles;
+    for (const auto& action : sheet.actions())
+        titles.push_back(action.title);
+    EXPECT_THAT(titles,
+                ElementsAre("Edit Title", "Edit Day & Time", "Edit Reminder", "Edit Background", "Cancel"));
+    sheet.cancel();
+    EXPECT_EQ(program.stack().screens().size(), 1U);
+}
+
+TEST_F(ListTest, DeletingAsksFirstAndTheRedAnswerKeepsTheEvent) {
+    store(event("kept", "25 June 2030"));
+    auto& future = list(ListType::Future);
+    future.confirmDeletion(0);
+    auto& question = program.top<ui::AlertController>();
+    ASSERT_EQ(question.actions().size(), 2U);
+    EXPECT_EQ(question.actions()[0].style, ui::AlertActionStyle::Destructive);
+    EXPECT_EQ(question.actions()[0].title, program.services().localizationVariables().alertNo);
+    question.choose(0);
+    program.timeline.runPosted();
+    EXPECT_EQ(future.collection.numberOfItems(), 1);
+}
+
+TEST_F(ListTest, DeletingTakesTheRowItsNotificationAndItsCard) {
+    const auto doomed = event("doomed", "25 June 2030");
+    store(doomed);
+    store(event("stays", "26 June 2030"));
+    program.notifications.setStatus(AuthorizationStatus::Authorized);
+    const std::string identifier = doomed.id->uuidString();
+    program.notifications.add({identifier, {}, {}}, [](Outcome) {});
+    program.notifications.run();
+    auto& future = list(ListType::Future);
+    future.confirmDeletion(0);
+    program.top<ui::AlertController>().choose(1);
+    EXPECT_EQ(program.services().coreDataStack().fetchEvents().size(), 1U) << "the row does not wait";
+    program.notifications.run();
+    EXPECT_TRUE(program.notifications.pending().empty());
+    EXPECT_TRUE(program.console.printed("Уведомление с идентификатором " + identifier + " удалено"));
+    program.timeline.runPosted();
+    EXPECT_EQ(card(future, 0).eventInformationLabel.text(), "stays\n26 June 2030");
+
+    future.deleteAction(0);
+    program.timeline.runPosted();
+    EXPECT_FALSE(future.mainlabel.isHidden());
+    EXPECT_THROW(future.deleteAction(0), fakes::ProgramStopped);
+}
+
+TEST_F(ListTest, SharingACardTakesItsPictureAndOpensTheSheet) {
+    store(event("shared", "25 June 2030"));
+    auto& future = list(ListType::Future);
+    future.shareCard(0);
+    ASSERT_EQ(program.snapshots.asked.size(), 1U);
+    EXPECT_EQ(program.snapshots.asked.front(), &card(future, 0));
+    program.timeline.runPosted();
+    program.top<ui::ActivityViewController>().copyButton.tap();
+    ASSERT_EQ(program.pictureSharing.shared.size(), 1U);
+    EXPECT_EQ(program.pictureSharing.shared.front().picture, program.snapshots.picture);
+}
+
+/// A list whose first card is swiped open.
+class OpenRowTest : public ListTest {
+protected:
+    OpenRowTest() {
+        store(event("swiped", "25 June 2030"));
+        store(event("other", "26 June 2030"));
+        future.collection.reloadData();
+        pan(0, -200);
+        program.timeline.advance(Seconds(2));
+    }
+
+    /// Draws a finger over the card sideways.
+    void pan(int item, double way) {
+        auto& recognizer = *card(future, item).swipeController().panGestureRecognizer();
+        const double speed = way < 0 ? -300 : 300;
+        recognizer.begin({300, 50}, {}, {speed, 0});
+        recognizer.change({300 + way / 2, 50}, {way / 2, 0}, {speed, 0});
+        recognizer.change({300 + way, 50}, {way, 0}, {speed, 0});
+        recognizer.end({speed, 0});
+    }
+
+    std::vector<std::string> buttons() {
+        std::vector<std::string> names;
+        for (const auto* button : card(future, 0).actionsView()->buttons())
+            names.push_back(button->accessibilityName() + " " + button->imageName());
+        return names;
+    }
+
+    /// Taps the button of that name.
+    void tap(const std::string& name) {
+        for (auto* button : card(future, 0).actionsView()->buttons()) {
+            if (button->accessibilityName() == name)
+                return button->tap();
+        }
+        FAIL() << "no button " << name;
+    }
+
+    MainViewController& future = list(ListType::Future);
+};
+
+TEST_F(OpenRowTest, ShowsThreeButtonsOfTheChosenSizeFromTheFarEdge) {
+    EXPECT_EQ(card(future, 0).state(), swipe::SwipeState::Right);
+    EXPECT_THAT(buttons(), ElementsAre("Edit editLarge", "Share shareLarge", "Delete DeleteLarge"));
+    EXPECT_EQ(card(future, 0).actionsView()->minimumButtonWidth(), 60);
+    EXPECT_NEAR(card(future, 0).contentView.frame().x, -180, 1e-9);
+}
+
+TEST_F(OpenRowTest, TheOtherSideHasNothing) {
+    program.timeline.advance(Seconds(2));
+    pan(1, 200);
+    EXPECT_EQ(card(future, 1).state(), swipe::SwipeState::Center);
+}
+
+TEST_F(OpenRowTest, DeleteAsksAndLeavesTheRowOpen) {
+    tap("Delete");
+    program.top<ui::AlertController>().choose(0);
+    program.timeline.advance(Seconds(2));
+    EXPECT_EQ(card(future, 0).state(), swipe::SwipeState::Right);
+}
+
+TEST_F(OpenRowTest, EditAndShareCloseTheRow) {
+    tap("Edit");
+    EXPECT_EQ(program.top<ui::AlertController>().title(), "Edit");
+    program.top<ui::AlertController>().cancel();
+    program.timeline.advance(Seconds(2));
+    EXPECT_EQ(card(future, 0).state(), swipe::SwipeState::Center);
+    pan(0, -200);
+    program.timeline.advance(Seconds(2));
+    tap("Share");
+    program.timeline.advance(Seconds(2));
+    EXPECT_EQ(card(future, 0).state(), swipe::SwipeState::Center);
+    EXPECT_EQ(program.stack().top()->screenName(), "ActivityViewController");
+}
+
+TEST_F(OpenRowTest, AReloadClosesIt) {
+    future.collection.reloadData();
+    EXPECT_EQ(card(future, 0).state(), swipe::SwipeState::Center);
+    EXPECT_EQ(card(future, 0).contentView.frame().x, 0);
 }
 
 } // namespace

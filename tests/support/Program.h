@@ -8,6 +8,7 @@
 #include "fakes/CannedSnapshots.h"
 #include "fakes/CountingUuids.h"
 #include "fakes/FakeNotificationCenter.h"
+#include "fakes/FixedWidthTexts.h"
 #include "fakes/MemoryResponseCaches.h"
 #include "fakes/PostedWorkQueue.h"
 #include "fakes/RecordingConsole.h"
@@ -90,17 +91,29 @@ private:
 
               eventStore(program.folder / "events.sqlite"),
               settings(program.folder / "settings.sqlite", program.console),
-              services({program.console,       program.timeline,
-                        program.timeline,      program.timeline,
-                        program.calendar,      program.dateFormatters,
-                        program.textCounting_, program.colors_,
-                        program.texts_,        settings,
-                        program.uuids_,        eventStore,
-                        program.center_,       program.http,
-                        program.background_,   program.json_,
-                        program.images,        program.responseCaches,
-                        program.documents,     program.links,
-                        program.snapshots,     program.pictureSharing,
+              services({program.console,
+                        program.timeline,
+                        program.timeline,
+                        program.timeline,
+                        program.calendar,
+                        program.dateFormatters,
+                        program.textCounting_,
+                        program.textMeasuring_,
+                        program.colors_,
+                        program.texts_,
+                        settings,
+                        program.uuids_,
+                        eventStore,
+                        program.center_,
+                        program.http,
+                        program.background_,
+                        program.json_,
+                        program.images,
+                        program.responseCaches,
+                        program.documents,
+                        program.links,
+                        program.snapshots,
+                        program.pictureSharing,
                         &program.photoTexts_},
                        window, screens),
               stack(window) {
@@ -122,6 +135,7 @@ private:
     void launch() { run_ = std::make_unique<Run>(*this); }
 
     IcuTextCounting textCounting_;
+    fakes::FixedWidthTexts textMeasuring_;
     JsonNamedColors colors_ = JsonNamedColors::fromJson(resource("colors.json")).value();
     JsonLocalizedTexts texts_ = JsonLocalizedTexts::fromJson(resource("texts/en.json")).value();
     JsonLocalizedTexts photoTexts_ = JsonLocalizedTexts::fromJson(resource("unsplash-texts/en.json")).value();

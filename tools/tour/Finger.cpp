@@ -15,7 +15,7 @@ namespace {
 
 constexpr int stepsOfADrag = 12;
 constexpr int scrollAttempts = 5;
-constexpr int settlingTime = 700; // ms: the longest slide, and the frames around it
+constexpr int settlingTime = 900; // ms: the longest motion, and the frames around it
 
 bool isDrawn(const QQuickItem& item) {
     for (const QQuickItem* ancestor = &item; ancestor; ancestor = ancestor->parentItem()) {

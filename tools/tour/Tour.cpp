@@ -5,6 +5,7 @@
 #include "Interface/Label.h"
 #include "Interface/SegmentedControl.h"
 #include "Interface/TextInput.h"
+#include "Support/LocalizationVariables.h"
 #include "app/Composition.h"
 
 #include <QGuiApplication>
@@ -38,10 +39,28 @@ void Tour::run() {
     addEvent({"Driving Test", 1, 0, 0, 0, 16, -1, false});
     finger_.tap(QStringLiteral("Future"));
     picture("future");
+    swipeCard();
     addEvent({"First Day at Work", 0, -1, -2, 4, -1, 13, false});
     addEvent({"Moved House", -2, -1, 0, 1, 22, -1, false});
     finger_.tap(QStringLiteral("Past"));
     picture("past");
+}
+
+void Tour::swipeCard() {
+    const double middle = window_.width() / 2.0;
+    const double height = stage_.size.height() / 5.0;
+    finger_.drag({middle + 100, height}, {middle - 80, height});
+    picture("open-row");
+    finger_.tap(QStringLiteral("Edit"));
+    picture("edit-sheet");
+    finger_.tap(QStringLiteral("Cancel"));
+    finger_.drag({middle + 100, height}, {middle - 80, height});
+    finger_.tap(QStringLiteral("Delete"));
+    picture("delete-sheet");
+    finger_.tap(QString::fromStdString(program_.services().localizationVariables().alertNo));
+    finger_.tap(QStringLiteral("Share"));
+    picture("share-sheet");
+    finger_.tap(QStringLiteral("Cancel"));
 }
 
 void Tour::addEvent(const Wish& wish) {

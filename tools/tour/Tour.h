@@ -31,6 +31,8 @@ private:
         bool inPictures;
     };
 
+    /// Opens the first card and looks at what its buttons lead to.
+    void swipeCard();
     void addEvent(const Wish& wish);
     void chooseDay(const Wish& wish);
     void chooseTimeAndRepeat(const Wish& wish);

@@ -45,7 +45,8 @@ int playStage(QGuiApplication& application, const Stage& stage, const QDir& pict
     StandardConsole console;
     StillClock clock;
     QGuiApplication::setLayoutDirection(QLocale(QLatin1String(stage.language)).textDirection());
-    Composition program({data.path().toStdString(), stage.language, [] {}}, clock, console);
+    const std::string folder = data.path().toStdString();
+    Composition program({folder, folder + "/cache", stage.language, [] {}}, clock, console);
     program.start();
     Tour(program, stage, pictures).run();
     application.processEvents();

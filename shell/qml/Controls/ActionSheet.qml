@@ -30,9 +30,12 @@ FocusScope {
         height: column.height
         radius: 20
         color: "white"
-        NumberAnimation on y {
-            from: sheet.height
-            to: panel.resting
+        // A share of the way, so that it ends where the sheet rests whatever its size becomes meanwhile.
+        property real risen
+        y: sheet.height + (resting - sheet.height) * risen
+        NumberAnimation on risen {
+            from: 0
+            to: 1
             duration: Theme.calm
             easing.type: Easing.OutCubic
         }

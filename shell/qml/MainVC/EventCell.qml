@@ -16,7 +16,8 @@ FocusScope {
     width: cell.width
     height: cell.height
     activeFocusOnTab: true
-    Component.onCompleted: cell.drawnBy(card)
+    // The card's face, wherever a swipe has taken it: a picture of the cell is one of the cell at rest.
+    Component.onCompleted: cell.drawnBy(face)
     Keys.onReturnPressed: list.collection.tapItem(cell.item)
     Keys.onMenuPressed: list.collection.openMenu(cell.item, x + width / 2, y + height / 2)
     Accessible.role: Accessible.Button
@@ -24,6 +25,7 @@ FocusScope {
     Accessible.onPressAction: list.collection.tapItem(cell.item)
 
     CardPaint {
+        id: face
         x: card.content.x
         y: card.content.y
         width: card.content.width
@@ -46,6 +48,13 @@ FocusScope {
             anchors.bottom: parent.bottom
             anchors.margins: 24
             width: parent.width - 48
+        }
+        Repeater {
+            model: card.cell.attached
+            ButtonRow {
+                required property LooseViewItem modelData
+                view: modelData
+            }
         }
     }
     FocusRing { target: card; radius: card.cell.cornerRadius + 3 }

@@ -17,6 +17,10 @@ std::shared_ptr<ui::ViewController> Screens::makeFullEvent(std::shared_ptr<Event
     return nullptr;
 }
 
+std::shared_ptr<ui::ViewController> Screens::makeEdit(EditScreen, std::shared_ptr<EventCoreData>) {
+    return nullptr;
+}
+
 std::shared_ptr<ui::ViewController> Screens::makeSettings(std::function<void()>) {
     return nullptr;
 }

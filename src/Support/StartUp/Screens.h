@@ -17,6 +17,8 @@ public:
     [[nodiscard]] std::shared_ptr<ui::ViewController>
     makeFullEvent(std::shared_ptr<EventCoreData> record) override;
     [[nodiscard]] std::shared_ptr<ui::ViewController>
+    makeEdit(EditScreen kind, std::shared_ptr<EventCoreData> eventData) override;
+    [[nodiscard]] std::shared_ptr<ui::ViewController>
     makeSettings(std::function<void()> sizeChanged) override;
     void openNotificationSettings() override;
 

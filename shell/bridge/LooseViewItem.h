@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Interface/Button.h"
+#include "bridge/ViewItem.h"
+
+#include <QList>
+
+namespace tessivo::shell {
+
+/// A view that the program adds to a screen while it runs, with no name of its own, such as the row of
+/// buttons that a swipe uncovers. It is drawn where the program says, with all that it holds. The view
+/// outlives it.
+class LooseViewItem final : public ViewItem {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Views belong to the program")
+    Q_PROPERTY(QList<tessivo::shell::LooseViewItem*> children READ children CONSTANT FINAL)
+    Q_PROPERTY(double boundsX READ boundsX NOTIFY geometryChanged FINAL)
+    Q_PROPERTY(bool clips READ clips NOTIFY appearanceChanged FINAL)
+    Q_PROPERTY(QString image READ image NOTIFY contentChanged FINAL)
+    Q_PROPERTY(QString title READ title NOTIFY contentChanged FINAL)
+
+public:
+    LooseViewItem(ui::View& view, const BridgeContext& context, QObject* parent);
+
+    /// What it holds, as it stood when this object was made.
+    [[nodiscard]] QList<LooseViewItem*> children() const { return children_; }
+    [[nodiscard]] double boundsX() const { return view_.drawnBoundsOrigin().x; }
+    [[nodiscard]] bool clips() const { return view_.clipsToBounds(); }
+    /// Of a button; empty for other views.
+    [[nodiscard]] QString image() const;
+    [[nodiscard]] QString title() const;
+
+    /// A tap that comes by the keyboard or from a screen reader.
+    Q_INVOKABLE void activate();
+
+private:
+    ui::View& view_;
+    ui::Button* button_;
+    QList<LooseViewItem*> children_;
+};
+
+} // namespace tessivo::shell
