@@ -18,6 +18,7 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     qputenv("LC_ALL", "en_US.UTF-8");
     qputenv("TZ", "Europe/Berlin");
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // also where the tests are only listed
     QGuiApplication application(argc, argv);
     QFont font;
     font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Noto Color Emoji")});
