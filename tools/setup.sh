@@ -40,10 +40,12 @@ if [ "$(id -u)" -ne 0 ]; then
     fi
     as_root=(sudo)
 fi
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
 "${as_root[@]}" apt-get update -qq
 if ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/tmp/tessivo-setup.log 2>&1; then
-    tail -n 20 /tmp/tessivo-setup.log >&2
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >"$log" 2>&1; then
+    tail -n 20 "$log" >&2
     echo "Could not install: ${missing[*]}" >&2
     exit 1
 fi
