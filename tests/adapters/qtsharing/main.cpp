@@ -4,7 +4,7 @@
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen"); // also where the tests are only listed
+    qputenv("QT_QPA_PLATFORM", "offscreen");       // also where the tests are only listed
     const QGuiApplication application(argc, argv); // the clipboard is its
     return RUN_ALL_TESTS();
 }
