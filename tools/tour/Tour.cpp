@@ -1,5 +1,6 @@
 #include "Tour.h"
 
+#include "Inspection.h"
 #include "Interface/Button.h"
 #include "Interface/CollectionView.h"
 #include "Interface/Label.h"
@@ -163,6 +164,8 @@ QString Tour::nameOf(const char* control) const {
 }
 
 void Tour::picture(const char* name) {
+    for (const QString& fault : faultsOf(window_))
+        qWarning("%s: %s", name, qPrintable(fault));
     window_.grabWindow().save(pictures_.filePath(QStringLiteral("%1-%2-%3.png")
                                                      .arg(QLatin1String(stage_.name))
                                                      .arg(++count_, 2, 10, QLatin1Char('0'))

@@ -8,8 +8,15 @@ T.AbstractButton {
 
     required property SwitchItem item
 
+    readonly property real track: 31
+
     implicitWidth: 51
-    implicitHeight: 31
+    implicitHeight: Theme.touch
+    // Larger than it looks, so that a finger hits it.
+    topInset: (height - track) / 2
+    bottomInset: topInset
+    topPadding: topInset
+    bottomPadding: topInset
     enabled: item.interactive
     activeFocusOnTab: true
     focusPolicy: Qt.StrongFocus
@@ -49,12 +56,5 @@ T.AbstractButton {
             SoftShadow { radius: 13.5; strength: 0.03 }
         }
     }
-    // Larger than it looks, so that a finger hits it.
-    MouseArea {
-        anchors.fill: parent
-        anchors.margins: -(Theme.touch - 31) / 2
-        enabled: control.enabled
-        onClicked: control.clicked()
-    }
-    FocusRing { visible: control.visualFocus; radius: 18 }
+    FocusRing { target: control.background; visible: control.visualFocus; radius: 18 }
 }

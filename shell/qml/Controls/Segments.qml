@@ -31,7 +31,8 @@ Rectangle {
     }
     Row {
         anchors.fill: parent
-        anchors.margins: 3
+        anchors.leftMargin: 3
+        anchors.rightMargin: 3
         Repeater {
             model: segments.item.titles
             Item {
