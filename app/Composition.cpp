@@ -2,6 +2,7 @@
 
 #include "Ports/Console.h"
 #include "Support/StartUp/AppDelegate.h"
+#include "UnsplashPicker/PickerServices.h"
 
 #include <QDBusConnection>
 #include <QFile>
@@ -66,6 +67,9 @@ Composition::Composition(Settings settings, Clock& clock, Console& console)
       permission_(stack_, notificationCenter_, mainQueue_,
                   [this](bool allowed) { notificationCenter_.setAuthorization(allowed); }),
       shell_(stack_, colors_, console, snapshots_) {
+    if (!settings_.photoService.empty())
+        services_.photoPicker().setConfiguration(
+            unsplash::UnsplashPickerConfiguration(settings_.photoService));
     screens_.use(services_);
     screens_.onOpenNotificationSettings([this] { permission_.openSettings(); });
 }

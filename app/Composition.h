@@ -48,6 +48,7 @@ public:
         std::string language;         ///< of the texts: a file of the text tables, such as "de"
         /// Tells the helper that the queue of reminders has changed; called off the main thread.
         std::function<void()> tellReminderHelper;
+        std::string photoService = {}; ///< its base address; empty for the one that the build is made for
     };
 
     /// Clock and console outlive the composition.

@@ -92,6 +92,12 @@ CollectionItem::CollectionItem(ui::CollectionView& collection, const BridgeConte
       scrollRequests_(collection.onScrollRequest(
           [this](ui::Point offset) { Q_EMIT scrollRequested(offset.x, offset.y); })) {}
 
+void CollectionItem::setSurroundings(double top, double sides) {
+    collection_.setSafeAreaInsets({top, 0, 0, 0});
+    collection_.layout().setLayoutMargins({0, sides, 0, sides});
+    collection_.invalidateLayout();
+}
+
 void CollectionItem::resize(double width, double height) {
     ui::Rect frame = collection_.frame();
     if (frame.width == width && frame.height == height)
@@ -112,9 +118,11 @@ void CollectionItem::scrollEnded() {
 
 bool CollectionItem::openMenu(int item, double x, double y) {
     const auto delegate = collection_.delegate.lock();
-    auto menu = delegate ? delegate->contextMenuForItem(collection_, item, {x, y}) : std::nullopt;
-    if (!menu)
+    if (!delegate)
         return false;
+    auto menu = delegate->contextMenuForItem(collection_, item, {x, y});
+    if (!menu)
+        return delegate->didHoldItem(collection_, item);
     menu_ = std::make_unique<MenuItem>(std::move(*menu), this);
     Q_EMIT menuOpened(menu_.get(), x, y);
     return true;

@@ -80,6 +80,7 @@ class CollectionItem final : public ViewItem {
     Q_PROPERTY(tessivo::shell::CellModel* cells READ cells CONSTANT FINAL)
     Q_PROPERTY(double contentWidth READ contentWidth NOTIFY contentChanged FINAL)
     Q_PROPERTY(double contentHeight READ contentHeight NOTIFY contentChanged FINAL)
+    Q_PROPERTY(double footInset READ footInset NOTIFY contentChanged FINAL)
 
 public:
     CollectionItem(ui::CollectionView& collection, const BridgeContext& context, QObject* parent);
@@ -89,6 +90,11 @@ public:
     [[nodiscard]] double contentWidth() const { return collection_.contentSize().width; }
     [[nodiscard]] double contentHeight() const { return collection_.contentSize().height; }
 
+    /// What the program keeps free under the content.
+    [[nodiscard]] double footInset() const { return collection_.contentInset().bottom; }
+
+    /// What lies over the collection's upper edge, and what its items keep away from at the sides.
+    Q_INVOKABLE void setSurroundings(double top, double sides);
     /// How large the collection is drawn.
     Q_INVOKABLE void resize(double width, double height);
     /// Where the user has scrolled to.
@@ -98,7 +104,7 @@ public:
     /// The user's finger begins to scroll, and lets go.
     Q_INVOKABLE void scrollBegan();
     Q_INVOKABLE void scrollEnded();
-    /// The user asks for the menu of an item, at a place of the content. Says whether it has one.
+    /// The user rests on an item, at a place of the content. Says whether a menu or anything else came of it.
     Q_INVOKABLE bool openMenu(int item, double x, double y);
 
 Q_SIGNALS:

@@ -35,6 +35,8 @@ ViewItem* ItemSet::make(ui::View& view) const {
         return new DatePickerItem(*picker, context_, owner_);
     if (auto* image = dynamic_cast<ui::ImageView*>(&view))
         return new ImageItem(*image, context_, owner_);
+    if (auto* spinner = dynamic_cast<ui::ActivityIndicator*>(&view))
+        return new ActivityItem(*spinner, context_, owner_);
     if (auto* collection = dynamic_cast<ui::CollectionView*>(&view))
         return new CollectionItem(*collection, context_, owner_);
     return new ViewItem(view, context_, owner_);

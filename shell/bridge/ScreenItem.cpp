@@ -8,6 +8,8 @@ ScreenItem* ScreenItem::make(std::shared_ptr<ui::ViewController> screen, const B
         return new AlertItem(std::move(alert), context, parent);
     if (auto tabs = std::dynamic_pointer_cast<ui::TabBarController>(screen))
         return new TabsItem(std::move(tabs), context, parent);
+    if (auto frame = std::dynamic_pointer_cast<ui::NavigationController>(screen))
+        return new NavigationItem(std::move(frame), context, parent);
     return new ScreenItem(std::move(screen), context, parent);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Interface/AlertController.h"
+#include "Interface/NavigationController.h"
 #include "Interface/TabBarController.h"
 #include "Interface/ViewController.h"
 #include "bridge/ItemSet.h"
@@ -73,6 +74,25 @@ public:
 
 private:
     ui::AlertController& alert_;
+};
+
+/// A screen that frames one other.
+class NavigationItem final : public ScreenItem {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Screens belong to the program")
+    Q_PROPERTY(tessivo::shell::ScreenItem* content READ content CONSTANT FINAL)
+
+public:
+    NavigationItem(std::shared_ptr<ui::NavigationController> frame, const BridgeContext& context,
+                   QObject* parent)
+        : ScreenItem(frame, context, parent),
+          content_(ScreenItem::make(frame->topViewController().shared_from_this(), context, this)) {}
+
+    [[nodiscard]] ScreenItem* content() const { return content_; }
+
+private:
+    ScreenItem* content_;
 };
 
 /// Screens side by side with the bar that chooses between them.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Interface/ActivityIndicator.h"
 #include "Interface/DatePicker.h"
 #include "Interface/ImageView.h"
 #include "Interface/SegmentedControl.h"
@@ -66,6 +67,22 @@ public:
 
 private:
     ui::DatePicker& picker_;
+};
+
+class ActivityItem final : public ViewItem {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Spinners belong to the program")
+    Q_PROPERTY(bool animating READ animating NOTIFY contentChanged FINAL)
+
+public:
+    ActivityItem(ui::ActivityIndicator& spinner, const BridgeContext& context, QObject* parent)
+        : ViewItem(spinner, context, parent), spinner_(spinner) {}
+
+    [[nodiscard]] bool animating() const { return spinner_.isAnimating(); }
+
+private:
+    ui::ActivityIndicator& spinner_;
 };
 
 class ImageItem final : public ViewItem {

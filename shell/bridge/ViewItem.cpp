@@ -15,6 +15,7 @@ ViewItem::ViewItem(ui::View& view, const BridgeContext& context, QObject* parent
               Q_EMIT geometryChanged();
               break;
           case ui::ViewChange::Hierarchy:
+              Q_EMIT placedChanged();
               break;
           }
       })) {}

@@ -16,6 +16,7 @@ class ViewItem : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Views belong to the program")
     Q_PROPERTY(bool shown READ shown NOTIFY appearanceChanged FINAL)
+    Q_PROPERTY(bool placed READ placed NOTIFY placedChanged FINAL)
     Q_PROPERTY(double alpha READ alpha NOTIFY appearanceChanged FINAL)
     Q_PROPERTY(tessivo::shell::Fill fill READ fill NOTIFY appearanceChanged FINAL)
     Q_PROPERTY(double cornerRadius READ cornerRadius NOTIFY appearanceChanged FINAL)
@@ -31,6 +32,8 @@ public:
     ViewItem(ui::View& view, const BridgeContext& context, QObject* parent);
 
     [[nodiscard]] bool shown() const { return !view_.isHidden(); }
+    /// Whether it stands on anything: the program takes some views off the screen for a time.
+    [[nodiscard]] bool placed() const { return view_.superview() != nullptr; }
     [[nodiscard]] double alpha() const { return view_.drawnValue(ui::AnimatableProperty::Alpha); }
     [[nodiscard]] Fill fill() const;
     [[nodiscard]] double cornerRadius() const { return view_.cornerRadius(); }
@@ -49,6 +52,7 @@ public:
 
 Q_SIGNALS:
     void appearanceChanged();
+    void placedChanged();
     void geometryChanged();
     void contentChanged();
 

@@ -28,6 +28,9 @@ public:
             screen_.resize({width, height}, scale);
     }
 
+    /// The on-screen keyboard covers so much of the screen's foot now.
+    Q_INVOKABLE void coverFoot(double height) { screen_.setKeyboardHeight(height); }
+
     /// A colour of the catalogue.
     Q_INVOKABLE QColor color(const QString& name) const {
         return context_.color(ui::ColorRef::named(name.toStdString()));

@@ -34,6 +34,13 @@ Window {
         onWidthChanged: report()
         onHeightChanged: report()
 
+        Connections {
+            target: Qt.inputMethod
+            function onKeyboardRectangleChanged() {
+                const keyboard = Qt.inputMethod.keyboardRectangle;
+                window.item.coverFoot(keyboard.height > 0 ? Math.max(0, stage.height - keyboard.y) : 0);
+            }
+        }
         Repeater {
             model: window.item.stack
             delegate: ScreenLoader {

@@ -157,7 +157,7 @@ void EventBackgroundViewController::reloadStrips() {
 }
 
 void EventBackgroundViewController::imagesButtonTapped() {
-    unsplash::UnsplashPickerConfiguration configuration;
+    auto configuration = services().photoPicker().configuration();
     configuration.accessKey = unsplashAccessKey;
     configuration.secretKey = unsplashSecretKey;
     const auto picker = unsplash::UnsplashPicker::make(services().photoPicker(), services().window(),

@@ -21,6 +21,9 @@ class CollectionLayout {
 public:
     virtual ~CollectionLayout() = default;
 
+    /// The room that the window wants kept free at the edges of the content. A layout may have no use for it.
+    void setLayoutMargins(Insets margins) { margins_ = margins; }
+
     /// Works out all frames for `count` items of `itemSize` in a collection as large as `bounds`. Called
     /// before anything is asked.
     virtual void prepare(int count, Size itemSize, Size bounds) = 0;
@@ -28,6 +31,12 @@ public:
     [[nodiscard]] virtual Rect frame(int item) const = 0;
     /// The items to show while `visible` is on the screen.
     [[nodiscard]] virtual ItemRange itemsIn(const Rect& visible) const = 0;
+
+protected:
+    [[nodiscard]] Insets layoutMargins() const { return margins_; }
+
+private:
+    Insets margins_;
 };
 
 /// Items of one size in one column, centred, or in one row from the near edge. Costs nothing per item.

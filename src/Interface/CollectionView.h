@@ -35,6 +35,8 @@ public:
     virtual void willDisplayCell(CollectionView&, CollectionViewCell&, int /*item*/) {}
     virtual void didSelectItem(CollectionView&, int /*item*/) {}
     virtual void didDeselectItem(CollectionView&, int /*item*/) {}
+    /// The user's finger rests on the item, which has no menu. Says whether anything came of it.
+    virtual bool didHoldItem(CollectionView&, int /*item*/) { return false; }
     /// The menu of a long press; empty for none.
     [[nodiscard]] virtual std::optional<Menu> contextMenuForItem(CollectionView&, int /*item*/, Point) {
         return std::nullopt;

@@ -3,6 +3,9 @@
 #include "Interface/Geometry.h"
 #include "Interface/Signal.h"
 
+#include <functional>
+#include <utility>
+
 namespace tessivo::ui {
 
 /// The screen that the program is laid out for, in portrait. The window tells its size.
@@ -26,6 +29,16 @@ public:
         changes_.emit();
     }
 
+    /// How much of the screen's foot the on-screen keyboard covers; 0 without one.
+    [[nodiscard]] double keyboardHeight() const { return keyboardHeight_; }
+    void setKeyboardHeight(double height) {
+        if (std::exchange(keyboardHeight_, height) != height)
+            keyboardChanges_.emit();
+    }
+
+    [[nodiscard]] Subscription onKeyboardChange(std::function<void()> changed) {
+        return keyboardChanges_.subscribe(std::move(changed));
+    }
     [[nodiscard]] Subscription onChange(std::function<void()> changed) {
         return changes_.subscribe(std::move(changed));
     }
@@ -33,7 +46,9 @@ public:
 private:
     Size size_;
     double scale_ = 1;
+    double keyboardHeight_ = 0;
     Signal<> changes_;
+    Signal<> keyboardChanges_;
 };
 
 } // namespace tessivo::ui

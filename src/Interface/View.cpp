@@ -46,6 +46,7 @@ void View::insertSubview(View& view, std::size_t index) {
     const auto place = std::min(index, subviews_.size());
     subviews_.insert(subviews_.begin() + static_cast<std::ptrdiff_t>(place), &view);
     view.didMoveToSuperview();
+    view.notify(ViewChange::Hierarchy);
     notify(ViewChange::Hierarchy);
 }
 
@@ -54,6 +55,7 @@ void View::removeFromSuperview() {
         return;
     superview_->letGoOf(*this);
     didMoveToSuperview();
+    notify(ViewChange::Hierarchy);
 }
 
 void View::letGoOf(const View& subview) {
@@ -154,7 +156,23 @@ void View::progress(PropertyAnimator& animator, double fraction) {
         if (lag.animator == &animator)
             lag.left = lag.whole * (1 - fraction);
     }
-    notify(ViewChange::Geometry);
+    notify(changesOf(animator));
+}
+
+View::Changes View::changesOf(const PropertyAnimator& animator) const {
+    Changes changes;
+    for (const Lag& lag : lags_) {
+        if (lag.animator == &animator)
+            (lag.property == AnimatableProperty::Alpha ? changes.appearance : changes.geometry) = true;
+    }
+    return changes;
+}
+
+void View::notify(Changes changes) {
+    if (changes.appearance)
+        notify(ViewChange::Appearance);
+    if (changes.geometry)
+        notify(ViewChange::Geometry);
 }
 
 void View::settle(PropertyAnimator& animator, bool whereDrawn) {
@@ -164,8 +182,9 @@ void View::settle(PropertyAnimator& animator, bool whereDrawn) {
                 values_[indexOf(lag.property)] += lag.left;
         }
     }
+    const Changes changes = changesOf(animator);
     std::erase_if(lags_, [&](const Lag& lag) { return lag.animator == &animator; });
-    notify(ViewChange::Geometry);
+    notify(changes);
 }
 
 Point View::originInRoot() const {

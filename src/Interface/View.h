@@ -19,12 +19,13 @@ class ControlRegistry;
 class GestureRecognizer;
 class PropertyAnimator;
 
-/// What of a view has changed, so that a window redraws no more than it must.
+/// What of a view has changed, so that a window redraws no more than it must. While an animation moves a
+/// number, its kind of change comes with each frame.
 enum class ViewChange {
     Content,    ///< text, image, enabled, menu: what a control shows
     Appearance, ///< colour, alpha, hidden, layers, mask
-    Geometry,   ///< frame, bounds origin, transform, also while an animation moves them
-    Hierarchy   ///< subviews
+    Geometry,   ///< frame, bounds origin, transform
+    Hierarchy   ///< subviews, or the superview
 };
 
 /// The numbers of a view that an animation can move.
@@ -158,9 +159,17 @@ private:
 
     static constexpr std::size_t propertyCount = 8;
 
+    /// What an animation changes of this view.
+    struct Changes {
+        bool appearance = false;
+        bool geometry = false;
+    };
+
     [[nodiscard]] Animations* animations() const;
     [[nodiscard]] Point originInRoot() const;
     void letGoOf(const View& subview);
+    [[nodiscard]] Changes changesOf(const PropertyAnimator& animator) const;
+    void notify(Changes changes);
     void progress(PropertyAnimator& animator, double fraction);
     void settle(PropertyAnimator& animator, bool whereDrawn);
 

@@ -28,9 +28,10 @@ EmptyView::EmptyView(ui::ControlRegistry& controls, const PickerServices& servic
     titleLabel.setFont({24, ui::FontWeight::Semibold});
     titleLabel.setNumberOfLines(0);
     titleLabel.setAlignment(ui::TextAlignment::Center);
+    descriptionLabel.setTextColor(ui::ColorRef::named("disabled"));
     descriptionLabel.setNumberOfLines(0);
     descriptionLabel.setAlignment(ui::TextAlignment::Center);
-    setBackgroundColor(ui::ColorRef::white());
+    setBackgroundColor(ui::ColorRef::named("mainBack"));
     addSubview(containerView);
     containerView.addSubview(titleLabel);
     containerView.addSubview(descriptionLabel);

@@ -10,8 +10,9 @@ namespace tessivo::unsplash {
 namespace {
 
 constexpr Seconds dissolve{0.25};
-constexpr double nameHeight = 36;
-constexpr double nameInset = 8;
+constexpr double fadeHeight = 56;
+constexpr double nameHeight = 32;
+constexpr double nameInset = 12;
 
 constexpr double maximumPixels = 16384;
 
@@ -44,8 +45,9 @@ PhotoView::PhotoView(ui::ControlRegistry& controls, PickerServices& services, ui
       overlayViews{&gradientView, &userNameLabel} {
     imageView.setContentMode(ui::ContentMode::AspectFill);
     imageView.setClipsToBounds(true);
-    gradientView.setColors({{{0, 0, 0, 0}, 0}, {{0, 0, 0, 0.5}, 1}});
-    userNameLabel.setFont({13, ui::FontWeight::Regular});
+    // Dark enough for the name to be read on a white picture.
+    gradientView.setColors({{{0, 0, 0, 0}, 0}, {{0, 0, 0, 0.55}, 0.6}});
+    userNameLabel.setFont({13, ui::FontWeight::Medium});
     userNameLabel.setTextColor(ui::ColorRef::white());
     for (ui::View* view : std::initializer_list<ui::View*>{&imageView, &gradientView, &userNameLabel})
         addSubview(*view);
@@ -54,9 +56,10 @@ PhotoView::PhotoView(ui::ControlRegistry& controls, PickerServices& services, ui
 void PhotoView::layoutSubviews() {
     const ui::Rect area = bounds();
     imageView.setFrame({0, 0, area.width, area.height});
-    const double overlay = std::min(nameHeight, area.height);
-    gradientView.setFrame({0, area.height - overlay, area.width, overlay});
-    userNameLabel.setFrame({nameInset, area.height - overlay, area.width - 2 * nameInset, overlay});
+    const double fade = std::min(fadeHeight, area.height);
+    const double name = std::min(nameHeight, area.height);
+    gradientView.setFrame({0, area.height - fade, area.width, fade});
+    userNameLabel.setFrame({nameInset, area.height - name, area.width - 2 * nameInset, name});
 }
 
 void PhotoView::configure(const UnsplashPhoto& photo, bool showsUsername) {

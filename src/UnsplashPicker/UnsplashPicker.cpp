@@ -4,16 +4,16 @@
 
 namespace tessivo::unsplash {
 
-UnsplashPicker::UnsplashPicker(PickerServices& services, ui::WindowContext& window)
-    : ViewController(window), content_(std::make_shared<UnsplashPickerViewController>(services, window)) {
-    content_->setParent(this);
-}
+UnsplashPicker::UnsplashPicker(ui::WindowContext& window,
+                               std::shared_ptr<UnsplashPickerViewController> content)
+    : NavigationController(window, content), content_(*content) {}
 
 std::shared_ptr<UnsplashPicker> UnsplashPicker::make(PickerServices& services, ui::WindowContext& window,
                                                      UnsplashPickerConfiguration configuration) {
     services.setConfiguration(std::move(configuration));
-    const std::shared_ptr<UnsplashPicker> picker(new UnsplashPicker(services, window));
-    picker->content_->delegate = picker;
+    const std::shared_ptr<UnsplashPicker> picker(
+        new UnsplashPicker(window, std::make_shared<UnsplashPickerViewController>(services, window)));
+    picker->content_.delegate = picker;
     return picker;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Interface/NavigationController.h"
 #include "UnsplashPicker/UnsplashPickerConfiguration.h"
 #include "UnsplashPicker/UnsplashPickerViewController.h"
 
@@ -17,7 +18,7 @@ public:
 };
 
 /// The photo browser, as the host program presents it. It closes itself after a choice or a cancel.
-class UnsplashPicker final : public ui::ViewController, public UnsplashPickerViewControllerDelegate {
+class UnsplashPicker final : public ui::NavigationController, public UnsplashPickerViewControllerDelegate {
 public:
     /// Puts `configuration` in force for all pickers. Never null.
     [[nodiscard]] static std::shared_ptr<UnsplashPicker>
@@ -27,20 +28,15 @@ public:
 
     [[nodiscard]] std::string screenName() const override { return "UnsplashPicker"; }
     /// The one screen inside.
-    [[nodiscard]] UnsplashPickerViewController& photoPickerViewController() const { return *content_; }
+    [[nodiscard]] UnsplashPickerViewController& photoPickerViewController() const { return content_; }
 
     void photoPickerDidFinish(UnsplashPickerViewController& screen, const Photos& photos) override;
     void photoPickerDidCancel(UnsplashPickerViewController& screen) override;
 
-protected:
-    void childrenWillAppear() override { content_->beginAppearing(); }
-    void childrenDidAppear() override { content_->finishAppearing(); }
-    void childrenWillDisappear() override { content_->beginDisappearing(); }
-
 private:
-    UnsplashPicker(PickerServices& services, ui::WindowContext& window);
+    UnsplashPicker(ui::WindowContext& window, std::shared_ptr<UnsplashPickerViewController> content);
 
-    std::shared_ptr<UnsplashPickerViewController> content_;
+    UnsplashPickerViewController& content_;
 };
 
 } // namespace tessivo::unsplash

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tessivo::unsplash {
 
@@ -17,7 +18,9 @@ enum class ContentFilterLevel { low, high };
 /// What the host program tells the picker.
 class UnsplashPickerConfiguration {
 public:
+    /// For the photo service that the build is made for.
     UnsplashPickerConfiguration();
+    explicit UnsplashPickerConfiguration(std::string apiURL) : apiURL_(std::move(apiURL)) {}
 
     std::string accessKey;            ///< goes to the service with each request
     std::string secretKey;            ///< carried for the host; nothing uses it

@@ -39,7 +39,7 @@ std::string titleFor(const std::string& forms, std::size_t selected) {
 UnsplashPickerViewController::UnsplashPickerViewController(PickerServices& services,
                                                            ui::WindowContext& window)
     : ViewController(window),
-      searchController(controls, services.text("search.placeholder")),
+      searchController(controls, services.text("search.placeholder"), services.text("search.clear")),
       collectionView(controls, "collectionView",
                      std::make_unique<WaterfallLayout>(services.platform().console)),
       emptyView(controls, services),
@@ -55,6 +55,9 @@ void UnsplashPickerViewController::viewDidLoad() {
     editorialDataSource_ = makeSource(
         PhotosDataSourceFactory::collection(services_, services_.configuration().editorialCollectionId()));
     dataSource_ = editorialDataSource_;
+    view().setBackgroundColor(ui::ColorRef::named("mainBack"));
+    titleLabel.setFont({17, ui::FontWeight::Semibold});
+    titleLabel.setAlignment(ui::TextAlignment::Center);
     cancelBarButtonItem.setImageName("xmark");
     cancelBarButtonItem.setAccessibilityName(services_.text("cancel"));
     cancelBarButtonItem.addTarget(ui::PressEvent::UpInside, [this] { cancelBarButtonTapped(); });
@@ -68,6 +71,12 @@ void UnsplashPickerViewController::viewDidLoad() {
     buildGrid();
     buildSearch();
     updateTitle();
+    keyboardChanges_ = screen().onKeyboardChange([this] {
+        if (const double height = screen().keyboardHeight(); height > 0)
+            keyboardWillShow(height);
+        else
+            keyboardWillHide();
+    });
 }
 
 void UnsplashPickerViewController::buildGrid() {
@@ -97,6 +106,7 @@ void UnsplashPickerViewController::buildSearch() {
     searchBar.delegate = weakSelf<ui::TextInputDelegate>(this);
     searchBar.addEditingChangedTarget([this] { searchTextChanged(); });
     view().addSubview(searchBar);
+    searchBar.addSubview(searchController.clearButton);
 }
 
 bool UnsplashPickerViewController::hasSearchBar() const {
@@ -225,6 +235,13 @@ void UnsplashPickerViewController::didSelectItem(ui::CollectionView&, int item) 
 
 void UnsplashPickerViewController::didDeselectItem(ui::CollectionView&, int) {
     selectionChanged();
+}
+
+bool UnsplashPickerViewController::didHoldItem(ui::CollectionView&, int item) {
+    const auto preview = makePreview(item);
+    if (preview)
+        present(preview);
+    return preview != nullptr;
 }
 
 void UnsplashPickerViewController::doneBarButtonTapped() {

@@ -78,6 +78,7 @@ public:
     void willDisplayCell(ui::CollectionView& collection, ui::CollectionViewCell& cell, int item) override;
     void didSelectItem(ui::CollectionView& collection, int item) override;
     void didDeselectItem(ui::CollectionView& collection, int item) override;
+    bool didHoldItem(ui::CollectionView& collection, int item) override;
     [[nodiscard]] bool shouldReturn(ui::TextInput& input) override;
 
 protected:
@@ -110,6 +111,7 @@ private:
     std::optional<std::string> searchText_;
     Subscription gridChanges_;
     Subscription cellChanges_;
+    Subscription keyboardChanges_;
     bool onScreen_ = false;
     bool pagingViewOnScreen_ = false;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Interface/Button.h"
 #include "Interface/TextInput.h"
 
 namespace tessivo::unsplash {
@@ -12,15 +13,26 @@ public:
     [[nodiscard]] bool showsCancelButton() const { return false; }
 };
 
-/// The search of a screen.
+/// The search of a screen: the field, and the button in it that empties it.
 class UnsplashSearchController final {
 public:
-    UnsplashSearchController(ui::ControlRegistry& controls, std::string placeholder)
-        : searchBar(controls, "searchBar") {
+    UnsplashSearchController(ui::ControlRegistry& controls, std::string placeholder, std::string clearName)
+        : searchBar(controls, "searchBar"), clearButton(controls, "clearButton") {
         searchBar.setPlaceholder(std::move(placeholder));
+        searchBar.setBackgroundColor(ui::ColorRef::named("backText"));
+        searchBar.setCornerRadius(12);
+        searchBar.addEditingChangedTarget([this] { clearButton.setHidden(searchBar.text().empty()); });
+        clearButton.setImageName("clear");
+        clearButton.setTint(ui::ColorRef::named("disabled"));
+        clearButton.setAccessibilityName(std::move(clearName));
+        clearButton.setHidden(true);
+        clearButton.addTarget(ui::PressEvent::UpInside, [this] { searchBar.editTo(""); });
     }
+    UnsplashSearchController(const UnsplashSearchController&) = delete;
+    UnsplashSearchController& operator=(const UnsplashSearchController&) = delete;
 
     CustomSearchBar searchBar;
+    ui::Button clearButton;
 };
 
 } // namespace tessivo::unsplash

@@ -25,7 +25,7 @@ int WaterfallLayout::rawColumnCount() const {
 }
 
 double WaterfallLayout::contentWidth() const {
-    return rawColumnCount() == 1 ? width_ : width_ - margins_.left - margins_.right;
+    return rawColumnCount() == 1 ? width_ : width_ - layoutMargins().left - layoutMargins().right;
 }
 
 void WaterfallLayout::prepare(int count, ui::Size, ui::Size bounds) {
@@ -54,7 +54,7 @@ void WaterfallLayout::place(int count, WaterfallLayoutDelegate& sizes) {
         const ui::Size size = sizes.waterfallSizeForItem(item);
         const auto shortest = std::ranges::min_element(heights);
         const auto column = static_cast<double>(shortest - heights.begin());
-        const double x = columns == 1 ? 0 : (columnWidth + spacing) * column + margins_.left;
+        const double x = columns == 1 ? 0 : (columnWidth + spacing) * column + layoutMargins().left;
         frames_.push_back(
             {x, *shortest, std::floor(columnWidth), std::floor(columnWidth * size.height / size.width)});
         *shortest += frames_.back().height + spacing;

@@ -22,7 +22,8 @@ public:
 };
 
 /// Items of any shape in up to three columns of equal width, each item in the column that is shortest when
-/// its turn comes, and a footer under all of them.
+/// its turn comes, and a footer under all of them. Several columns keep the margins to the left and right
+/// free, one column has none.
 class WaterfallLayout final : public ui::CollectionLayout {
 public:
     explicit WaterfallLayout(Console& console) : console_(console) {}
@@ -31,9 +32,6 @@ public:
 
     std::weak_ptr<WaterfallLayoutDelegate> delegate;
     double topInset = 16; ///< from the top to the first row
-
-    /// The room that the window wants to the left and right of several columns; one column has none.
-    void setLayoutMargins(ui::Insets margins) { margins_ = margins; }
 
     void prepare(int count, ui::Size itemSize, ui::Size bounds) override;
     [[nodiscard]] ui::Size contentSize() const override;
@@ -57,7 +55,6 @@ private:
     void indexEdges();
 
     Console& console_;
-    ui::Insets margins_;
     double width_ = 0;
     double contentHeight_ = 0;
     std::vector<ui::Rect> frames_;

@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <limits>
+#include <set>
 
 namespace tessivo::ui {
 namespace {
@@ -211,6 +212,20 @@ TEST_F(AnimationTest, ReducedMotionIsThereInOneFrame) {
     line.advance(Seconds(0.02));
     EXPECT_EQ(drawnX(), 100);
     EXPECT_THAT(ends, ElementsAre(AnimatingPosition::End));
+}
+
+TEST_F(AnimationTest, EachFrameIsToldAsWhatItChanges) {
+    std::set<ViewChange> told;
+    const auto subscription = view.onChange([&](ViewChange change) { told.insert(change); });
+    moveTo(50, EaseInOut{Seconds(0.3)});
+    line.advance(Seconds(1));
+    EXPECT_THAT(told, ElementsAre(ViewChange::Geometry));
+    const auto fade = PropertyAnimator::make(animations, EaseInOut{Seconds(0.3)});
+    fade->addAnimations([this] { view.setAlpha(0); });
+    fade->startAnimation();
+    told.clear();
+    line.advance(Seconds(0.1));
+    EXPECT_THAT(told, ElementsAre(ViewChange::Appearance));
 }
 
 TEST_F(AnimationTest, AViewInNoScreenDoesNotAnimate) {

@@ -79,8 +79,11 @@ TEST_F(ViewTest, ChangesAreToldByTheirKind) {
     root.setHidden(true);
     root.setCenterX(7);
     root.setCenterX(7);
+    std::vector<ViewChange> toldOfOver;
+    const auto ofOver = over.onChange([&](ViewChange change) { toldOfOver.push_back(change); });
     over.removeFromSuperview();
     EXPECT_THAT(told, ElementsAre(ViewChange::Appearance, ViewChange::Geometry, ViewChange::Hierarchy));
+    EXPECT_THAT(toldOfOver, ElementsAre(ViewChange::Hierarchy));
 }
 
 class Refusing final : public GestureRecognizerDelegate {

@@ -2,8 +2,9 @@
 """A photo service on the loopback, for machines without a key of the real one: editorial collection, search, paging,
 download pings and pictures in any size, all drawn by itself. Any key is accepted; none is refused, as the real one does.
 
-Usage: demo_photos.py [--port 8017] [--photos 200]
-A search for "none" finds nothing, one for "error" fails with status 500, one for "limit" with status 429.
+Usage: demo_photos.py [--port 8017] [--photos 200] [--tell]
+A search for "none" finds nothing, one for "error" fails with status 500, one for "limit" with status 429, and one for
+"lost" gets no answer: the connection breaks.
 """
 import argparse
 import colorsys
@@ -55,21 +56,41 @@ def photo_json(index, base):
     }
 
 
+def mountains(chance, hue):
+    """Peaks from far to near, each with its place, height and slope in parts of the width, and its colour."""
+    for ridge in range(4):
+        colour = bytes(rgb(hue, 0.25 + 0.15 * ridge, 0.8 - 0.17 * ridge))
+        for _ in range(3 + ridge):
+            yield chance.random() * 1.2 - 0.1, 0.35 + 0.17 * ridge + chance.random() * 0.14, 0.9 + chance.random(), colour
+
+
 def draw(index, width):
-    """A PNG of a sky over hills, in the photo's own hue."""
+    """A PNG of mountains under a sky with a sun, in the photo's own hue."""
     full_width, full_height, hue, _ = photo_traits(index)
     height = max(1, width * full_height // full_width)
     chance = random.Random(index * 31)
-    horizon = 0.35 + chance.random() * 0.3
-    hills = [rgb(hue + step * 0.04, 0.6, 0.65 - step * 0.15) for step in range(4)]
+    sky = 0.55 + chance.random() * 0.55  # from blue over violet to a warm evening
+    sun_x, sun_y, sun_radius = (0.2 + 0.6 * chance.random()) * width, (0.15 + 0.2 * chance.random()) * height, 0.09 * width
+    sun = bytes(rgb(0.13, 0.15, 1))
+    peaks = list(mountains(chance, hue))
     rows = bytearray()
     for y in range(height):
         at = y / height
-        if at < horizon:
-            colour = rgb(hue + 0.5, 0.25 + 0.3 * (1 - at / horizon), 0.95)
-        else:
-            colour = hills[min(3, int((at - horizon) / (1 - horizon) * 4))]
-        rows += b"\0" + bytes(colour) * width
+        row = bytearray(bytes(rgb(sky + 0.12 * at, 0.5 - 0.4 * min(1, at * 1.6), 0.98)) * width)
+
+        def paint(left, right, colour):
+            left, right = max(0, int(left)), min(width, int(right))
+            if left < right:
+                row[3 * left:3 * right] = colour * (right - left)
+
+        if abs(y - sun_y) < sun_radius:
+            half = (sun_radius ** 2 - (y - sun_y) ** 2) ** 0.5
+            paint(sun_x - half, sun_x + half, sun)
+        for x, top, slope, colour in peaks:
+            if at > top:
+                half = (at - top) * height * slope
+                paint(x * width - half, x * width + half, colour)
+        rows += b"\0" + row
 
     def chunk(kind, data):
         return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
@@ -91,6 +112,7 @@ class Service(http.server.BaseHTTPRequestHandler):
     protocol_version = "HTTP/1.1"
     wbufsize = 65536
     photos = 200
+    tells = False
 
     def do_GET(self):
         url = urllib.parse.urlsplit(self.path)
@@ -99,6 +121,7 @@ class Service(http.server.BaseHTTPRequestHandler):
         if parts[:1] == ["pictures"] and len(parts) == 2:
             return self.picture(parts[1], query)
         if parts[:1] == ["photos"] and parts[2:] == ["download"]:
+            self.tell("download", parts[1])
             return self.answer(200 if query.get("client_id") else 401, {"url": self.base() + "/pictures/" + parts[1]})
         if not self.headers.get("Authorization", "").startswith("Client-ID "):
             return self.answer(401, {"errors": ["OAuth error: The access token is invalid"]})
@@ -112,6 +135,9 @@ class Service(http.server.BaseHTTPRequestHandler):
         text = query.get("query", [""])[0].strip().lower()
         if text == "error":
             return self.answer(500, {"errors": ["Something went wrong"]})
+        if text == "lost":
+            self.close_connection = True
+            return None
         if text == "limit":
             return self.send(429, "text/plain", b"Rate Limit Exceeded")
         hits = [] if text == "none" else [i for i in range(self.photos) if photo_traits(i)[3] in text or text in photo_traits(i)[3]]
@@ -122,12 +148,17 @@ class Service(http.server.BaseHTTPRequestHandler):
             index = int(name.removeprefix("demo-").removesuffix(".png"))
         except ValueError:
             return self.answer(404, {"errors": ["No such picture"]})
+        self.tell("picture", f"demo-{index}")
         width = number(query, "w", 1080, 1, LARGEST_WIDTH) * number(query, "dpr", 1, 1, 4)
         self.send(200, "image/png", draw(index, min(width, LARGEST_WIDTH)))
 
     def page(self, indices, query):
         page, per_page = number(query, "page", 1, 1, 10**6), number(query, "per_page", 10, 1, 30)
         return [photo_json(index, self.base()) for index in list(indices)[(page - 1) * per_page:page * per_page]]
+
+    def tell(self, *words):
+        if self.tells:
+            print(*words, flush=True)
 
     def base(self):
         return "http://127.0.0.1:%d" % self.server.server_port
@@ -151,8 +182,10 @@ def main():
     options = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     options.add_argument("--port", type=int, default=8017, help="0 takes a free one, which is printed")
     options.add_argument("--photos", type=int, default=200)
+    options.add_argument("--tell", action="store_true", help="print each picture and download that is asked for")
     given = options.parse_args()
     Service.photos = given.photos
+    Service.tells = given.tell
     try:
         server = http.server.ThreadingHTTPServer(("127.0.0.1", given.port), Service)
     except OSError as error:

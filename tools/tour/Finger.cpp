@@ -105,6 +105,18 @@ void Finger::drag(QPointF from, QPointF to) {
     settle();
 }
 
+void Finger::hold(QPointF point) {
+    QTest::touchEvent(&window_, device_).press(0, point.toPoint());
+    settle();
+    QTest::touchEvent(&window_, device_).release(0, point.toPoint());
+    settle();
+}
+
+void Finger::press(Qt::Key key) {
+    QTest::keyClick(&window_, key);
+    settle();
+}
+
 void Finger::type(const QString& text) {
     // As an on-screen keyboard hands text over, so that characters of any kind come whole.
     QInputMethodEvent event;

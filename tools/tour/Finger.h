@@ -23,6 +23,9 @@ public:
     void tapAt(QPointF point);
     /// Drags from one point to another in small steps, and rests before letting go.
     void drag(QPointF from, QPointF to);
+    /// Touches a point and rests there, until whatever comes of that has come.
+    void hold(QPointF point);
+    void press(Qt::Key key);
     /// Types into what has the keyboard.
     void type(const QString& text);
     /// Waits until nothing moves any more.

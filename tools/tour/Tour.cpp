@@ -23,10 +23,11 @@ constexpr double dayShares[] = {0.12, 0.47, 0.85};
 
 } // namespace
 
-Tour::Tour(Composition& program, const Stage& stage, const QDir& pictures)
+Tour::Tour(Composition& program, const Stage& stage, const QDir& pictures, DemoPhotos& photos)
     : program_(program),
       stage_(stage),
       pictures_(pictures),
+      photos_(photos),
       window_(*program.shell().window()),
       finger_(window_) {}
 
@@ -84,6 +85,8 @@ void Tour::addEvent(const Wish& wish) {
         chooseReminder(wish);
     finger_.tap(nameOf("nextButton"));
     pictureIf(wish.inPictures, "background");
+    if (wish.inPictures)
+        browsePhotos();
     chooseBackground(wish);
     finger_.tap(nameOf("nextButton"));
 }

@@ -7,14 +7,18 @@
 
 namespace tessivo {
 class Composition;
+class DemoPhotos;
+namespace unsplash {
+class UnsplashPickerViewController;
 }
+} // namespace tessivo
 
 namespace tessivo::tour {
 
 /// One walk through the program on one stage, as a user would take it.
 class Tour {
 public:
-    Tour(Composition& program, const Stage& stage, const QDir& pictures);
+    Tour(Composition& program, const Stage& stage, const QDir& pictures, DemoPhotos& photos);
 
     void run();
 
@@ -38,6 +42,12 @@ private:
     void chooseTimeAndRepeat(const Wish& wish);
     void chooseReminder(const Wish& wish);
     void chooseBackground(const Wish& wish);
+    /// From the background step: looks through the photos and leaves without one.
+    void browsePhotos();
+    void openPhotos();
+    void waitForPhotos();
+    void searchPhotos(const QString& text);
+    [[nodiscard]] unsplash::UnsplashPickerViewController& photoScreen() const;
     void turnWheel(QRectF rowAbove, int wheel, int rows);
     void tapBeside();
     void picture(const char* name);
@@ -49,6 +59,7 @@ private:
     Composition& program_;
     const Stage& stage_;
     QDir pictures_;
+    DemoPhotos& photos_;
     QQuickWindow& window_;
     Finger finger_;
     int count_ = 0;

@@ -2,6 +2,7 @@
 // of each screen: at phone, small phone, tablet and desktop size and in a language that runs from right to
 // left. Any complaint of QML fails the tour.
 
+#include "DemoPhotos.h"
 #include "Ports/Clock.h"
 #include "Stage.h"
 #include "Tour.h"
@@ -42,13 +43,14 @@ public:
 /// The tour of one stage. Language and time zone belong to a process, so each stage has one of its own.
 int playStage(QGuiApplication& application, const Stage& stage, const QDir& pictures) {
     QTemporaryDir data;
+    DemoPhotos photos;
     StandardConsole console;
     StillClock clock;
     QGuiApplication::setLayoutDirection(QLocale(QLatin1String(stage.language)).textDirection());
     const std::string folder = data.path().toStdString();
-    Composition program({folder, folder + "/cache", stage.language, [] {}}, clock, console);
+    Composition program({folder, folder + "/cache", stage.language, [] {}, photos.address()}, clock, console);
     program.start();
-    Tour(program, stage, pictures).run();
+    Tour(program, stage, pictures, photos).run();
     application.processEvents();
     return complaints == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

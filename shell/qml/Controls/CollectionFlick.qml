@@ -8,6 +8,7 @@ Flickable {
     required property CollectionItem collection
     required property Component delegate
     property bool sideways: false
+    property real sideRoom: 0 // what the items keep away from the sides
     readonly property bool reversed: sideways && Qt.application.layoutDirection === Qt.RightToLeft
 
     contentWidth: collection.contentWidth
@@ -40,14 +41,32 @@ Flickable {
         else
             collection.scrollEnded();
     }
-    Component.onCompleted: report()
+    onTopMarginChanged: tellSurroundings()
+    onSideRoomChanged: tellSurroundings()
+    Component.onCompleted: {
+        tellSurroundings();
+        contentY = -topMargin;
+        report();
+    }
+
+    function tellSurroundings() {
+        if (collection)
+            collection.setSurroundings(topMargin, sideRoom);
+    }
+    // Scrolls as far as it takes for all of a cell to be seen.
+    function reveal(cell: Item) {
+        if (cell.y < contentY + topMargin)
+            contentY = cell.y - topMargin;
+        else if (cell.y + cell.height > contentY + height - bottomMargin)
+            contentY = Math.min(cell.y - topMargin, cell.y + cell.height - height + bottomMargin);
+    }
 
     Repeater {
         model: flick.collection.cells
         delegate: flick.delegate
     }
     TouchSurface {
-        width: flick.contentWidth
+        width: Math.max(flick.contentWidth, flick.width)
         height: flick.contentHeight
         collection: flick.collection
     }

@@ -7,6 +7,10 @@ FocusScope {
 
     required property TextInputItem input
     property bool focusAtStart: false
+    property real nearRoom: input.horizontalInset // before and after the text
+    property real farRoom: input.horizontalInset
+    property int enterKey: Qt.EnterKeyDefault
+    property alias inputMethodHints: field.inputMethodHints
 
     implicitHeight: Math.max(56, field.implicitHeight + 2 * input.verticalInset)
     focus: focusAtStart
@@ -21,8 +25,8 @@ FocusScope {
     TextInput {
         id: field
         anchors.fill: parent
-        anchors.leftMargin: control.input.horizontalInset
-        anchors.rightMargin: control.input.horizontalInset
+        anchors.leftMargin: control.nearRoom
+        anchors.rightMargin: control.farRoom
         focus: true
         activeFocusOnTab: true
         verticalAlignment: TextInput.AlignVCenter
@@ -32,6 +36,7 @@ FocusScope {
         font.pixelSize: control.input.size
         color: control.input.color
         selectionColor: Theme.accent
+        EnterKey.type: control.enterKey
         onTextEdited: control.input.edit(text)
         onAccepted: control.input.pressReturn()
         onActiveFocusChanged: activeFocus ? control.input.beginEditing() : control.input.endEditing()
