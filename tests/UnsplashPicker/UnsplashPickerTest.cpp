@@ -158,7 +158,9 @@ TEST_F(UnsplashPickerTest, ClearingTheSearchBringsTheEditorialListBack) {
     auto& screen = openWith(30);
     const auto pages = pageExchange();
     search("sea");
-    screen.searchController.searchBar.editTo("");
+    EXPECT_FALSE(screen.searchController.clearButton.isHidden());
+    screen.searchController.clearButton.tap();
+    EXPECT_TRUE(screen.searchController.clearButton.isHidden());
     EXPECT_EQ(screen.searchText(), std::nullopt);
     EXPECT_EQ(screen.collectionView.numberOfItems(), 30);
     search("");
@@ -301,18 +303,20 @@ TEST_F(UnsplashPickerTest, BrokenPicturesStayPlaceholders) {
 TEST_F(UnsplashPickerTest, ALongPressShowsThePictureThatIsThere) {
     auto& screen = openWith(1);
     answer(newest("i.test/p1"), 200, "4x3");
-    const auto preview = screen.makePreview(0);
-    ASSERT_NE(preview, nullptr);
-    preview->loadViewIfNeeded();
-    EXPECT_EQ(preview->imageView.image().bitmap->height, 3);
+    EXPECT_FALSE(screen.didHoldItem(screen.collectionView, 1)) << "there is none";
+    EXPECT_TRUE(screen.didHoldItem(screen.collectionView, 0));
+    auto& preview = dynamic_cast<UnsplashPickerPreviewViewController&>(*stack.top());
+    EXPECT_EQ(preview.imageView.image().bitmap->height, 3);
+    preview.dismiss();
+    EXPECT_EQ(stack.top(), picker.get());
 }
 
 TEST_F(UnsplashPickerTest, MakesRoomForTheKeyboard) {
     auto& screen = openWith(30);
     screen.collectionView.setSafeAreaInsets({47, 0, 34, 0});
-    screen.keyboardWillShow(300);
+    mainScreen.setKeyboardHeight(300);
     EXPECT_EQ(screen.collectionView.contentInset().bottom, 266);
-    screen.keyboardWillHide();
+    mainScreen.setKeyboardHeight(0);
     EXPECT_EQ(screen.collectionView.contentInset().bottom, 0);
     screen.searchController.searchBar.beginEditing();
     screen.collectionView.panGestureRecognizer()->begin({10, 10}, {0, -20}, {0, 0});
@@ -339,10 +343,10 @@ TEST_F(UnsplashPickerTest, NamesPhotographersByBothNamesOrTheUsername) {
 TEST(PickerTexts, SpeakEveryLanguage) {
     for (const auto* language : {"ar", "de", "en", "es", "fr", "ja", "ru"}) {
         const auto texts = pickerTexts(language);
-        for (const auto* key : {"title", "search.placeholder", "cancel", "done", "error.noResults.title",
-                                "error.noResults.description", "error.noInternetConnection.title",
-                                "error.noInternetConnection.description", "error.serverError.title",
-                                "error.serverError.description"})
+        for (const auto* key : {"title", "search.placeholder", "search.clear", "cancel", "done",
+                                "error.noResults.title", "error.noResults.description",
+                                "error.noInternetConnection.title", "error.noInternetConnection.description",
+                                "error.serverError.title", "error.serverError.description"})
             EXPECT_NE(texts.localizedString(key), key) << language;
         EXPECT_THAT(texts.localizedString("title"), HasSubstr("%d")) << language;
     }

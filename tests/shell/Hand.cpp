@@ -76,6 +76,12 @@ void Hand::tapAt(QPointF point) {
     QTest::touchEvent(&window_, &touchScreen()).release(0, point.toPoint());
 }
 
+void Hand::hold(QPointF point, const std::function<bool()>& done) {
+    QTest::touchEvent(&window_, &touchScreen()).press(0, point.toPoint());
+    EXPECT_TRUE(runUntil(done));
+    QTest::touchEvent(&window_, &touchScreen()).release(0, point.toPoint());
+}
+
 void Hand::drag(QPointF from, QPointF to) {
     QTest::touchEvent(&window_, &touchScreen()).press(0, from.toPoint());
     for (int step = 1; step <= stepsOfADrag; ++step) {

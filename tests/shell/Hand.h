@@ -34,6 +34,8 @@ public:
     /// Touches the middle of the item of that accessible name, once it is drawn.
     void tap(const QString& name);
     void tapAt(QPointF point);
+    /// Touches a point and rests there until `done`.
+    void hold(QPointF point, const std::function<bool()>& done);
     /// Drags in small steps and rests before letting go, so that nothing is thrown.
     void drag(QPointF from, QPointF to);
     /// Turns the mouse wheel over a point; notches up are positive.

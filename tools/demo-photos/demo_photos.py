@@ -178,6 +178,13 @@ class Service(http.server.BaseHTTPRequestHandler):
         """Nothing is logged: addresses carry the key."""
 
 
+class Server(http.server.ThreadingHTTPServer):
+    def handle_error(self, request, client_address):
+        """A client that hangs up in the middle is nothing to speak of."""
+        if not isinstance(sys.exc_info()[1], ConnectionError):
+            super().handle_error(request, client_address)
+
+
 def main():
     options = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     options.add_argument("--port", type=int, default=8017, help="0 takes a free one, which is printed")
@@ -187,7 +194,7 @@ def main():
     Service.photos = given.photos
     Service.tells = given.tell
     try:
-        server = http.server.ThreadingHTTPServer(("127.0.0.1", given.port), Service)
+        server = Server(("127.0.0.1", given.port), Service)
     except OSError as error:
         print(f"demo photo service: port {given.port}: {error.strerror}", file=sys.stderr)
         return 1
