@@ -65,20 +65,41 @@ void CellModel::update() {
         rows_.erase(rows_.begin() + index);
         endRemoveRows();
     }
+    int index = 0;
     for (const auto& [item, cell] : visible) {
         const auto found =
             std::ranges::find_if(rows_, [&](const CellItem* row) { return &row->cell() == cell.get(); });
-        if (found != rows_.end()) {
+        if (found == rows_.end()) {
+            auto* added = new CellItem(cell, context_, this);
+            added->setItem(item);
+            beginInsertRows({}, index, index);
+            rows_.insert(rows_.begin() + index, added);
+            endInsertRows();
+        } else {
             (*found)->setItem(item);
-            continue;
+            bringTo(index, static_cast<int>(found - rows_.begin()));
         }
-        auto* added = new CellItem(cell, context_, this);
-        added->setItem(item);
-        const int index = static_cast<int>(rows_.size());
-        beginInsertRows({}, index, index);
-        rows_.push_back(added);
-        endInsertRows();
+        ++index;
     }
+}
+
+void CellModel::bringTo(int index, int row) {
+    const int last = static_cast<int>(rows_.size()) - 1;
+    // Cells that left at one end of the screen have come back at the other.
+    if (row - index > last - row)
+        return moveRow(row, index);
+    for (; row > index; --row)
+        moveRow(index, last);
+}
+
+void CellModel::moveRow(int from, int to) {
+    const auto row = [this](int index) { return rows_.begin() + index; };
+    beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
+    if (from < to)
+        std::rotate(row(from), row(from + 1), row(to + 1));
+    else
+        std::rotate(row(to), row(from), row(from + 1));
+    endMoveRows();
 }
 
 CollectionItem::CollectionItem(ui::CollectionView& collection, const BridgeContext& context, QObject* parent)

@@ -49,7 +49,8 @@ private:
     int item_ = -1;
 };
 
-/// The cells on the screen. Rows keep their cell while it is on the screen, so that QML keeps its drawing.
+/// The cells on the screen, in the order of their items: the keyboard walks through them. Rows keep their
+/// cell while it is on the screen, so that QML keeps its drawing.
 class CellModel final : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -68,6 +69,10 @@ public:
     void update();
 
 private:
+    /// Brings a row forward to `index`, with as few moves as may be. All rows before that are in order.
+    void bringTo(int index, int row);
+    void moveRow(int from, int to);
+
     ui::CollectionView& collection_;
     const BridgeContext& context_;
     std::vector<CellItem*> rows_;

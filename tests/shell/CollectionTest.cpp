@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <set>
 
 namespace tessivo {
@@ -99,6 +100,19 @@ TEST_F(DrawnCollection, OnlyTheCellsOnTheScreenAreDrawnWhereverItIsScrolled) {
     ASSERT_TRUE(runUntil([&] { return drawnNumbers() == from(4'997, 5'003); }));
     collection.scrollToItem(itemCount - 1);
     ASSERT_TRUE(runUntil([&] { return drawnNumbers() == from(9'993, 9'999); }));
+}
+
+TEST_F(DrawnCollection, TheKeyboardFindsTheCellsInTheirOrder) {
+    for (const int item : {0, 3, 4, 2, 50, 48, 9'999, 1}) {
+        collection.scrollToItem(item);
+        ASSERT_TRUE(runUntil([&] { return drawnNumbers().contains(item); }));
+        std::vector<int> order;
+        for (const auto* drawing : drawnItems(*root)) {
+            if (drawing->objectName() == QLatin1String("cell"))
+                order.push_back(drawing->property("text").toInt());
+        }
+        EXPECT_TRUE(std::ranges::is_sorted(order)) << "at item " << item;
+    }
 }
 
 TEST_F(DrawnCollection, AReloadKeepsTheDrawingOfEachCell) {

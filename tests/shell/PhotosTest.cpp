@@ -208,6 +208,19 @@ TEST_F(PhotosTest, TheKeyboardChoosesAndCancels) {
     EXPECT_EQ(host->cancelled, 1);
 }
 
+TEST_F(PhotosTest, TheTabKeyWalksThroughThePhotosAndScrollsAlong) {
+    showPhotos(12);
+    hand.tap(QStringLiteral("Search photos"));
+    for (int step = 0; step < 10; ++step) {
+        const auto* focused = window.activeFocusItem();
+        if (accessibleName(*focused) == QLatin1String("Ada L")) {
+            EXPECT_GE(focused->mapToScene({}).y(), 111) << "out from under the bar";
+        }
+        hand.press(Qt::Key_Tab);
+    }
+    EXPECT_GT(screen().collectionView.contentOffset().y, 0);
+}
+
 TEST_F(PhotosTest, AFingerThatRestsShowsThePhotoLarge) {
     showPhotos(2);
     answer("i.test/p1?", "red");

@@ -59,7 +59,7 @@ void Tour::searchPhotos(const QString& text) {
 void Tour::browsePhotos() {
     openPhotos();
     picture("photos");
-    const QPointF photo(window_.width() * 0.3, window_.height() / 2.0);
+    const QPointF photo(window_.width() / 2.0 - 80, window_.height() / 2.0); // beside the gap of two columns
     finger_.drag(photo, photo - QPointF(0, window_.height() / 3.0));
     waitForPhotos();
     picture("photos-scrolled");

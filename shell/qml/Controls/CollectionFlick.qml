@@ -53,12 +53,13 @@ Flickable {
         if (collection)
             collection.setSurroundings(topMargin, sideRoom);
     }
-    // Scrolls as far as it takes for all of a cell to be seen.
+    // Scrolls as far as it takes for all of a cell to be seen, and a piece of the next: the keyboard goes on to it.
     function reveal(cell: Item) {
-        if (cell.y < contentY + topMargin)
-            contentY = cell.y - topMargin;
-        else if (cell.y + cell.height > contentY + height - bottomMargin)
-            contentY = Math.min(cell.y - topMargin, cell.y + cell.height - height + bottomMargin);
+        const peek = 40;
+        const highest = cell.y + cell.height + peek - height + bottomMargin;
+        const lowest = cell.y - peek - topMargin;
+        const end = Math.max(-topMargin, contentHeight + bottomMargin - height);
+        contentY = Math.max(-topMargin, Math.min(Math.max(contentY, highest), lowest, end));
     }
 
     Repeater {

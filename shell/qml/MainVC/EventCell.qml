@@ -18,6 +18,7 @@ FocusScope {
     activeFocusOnTab: true
     // The card's face, wherever a swipe has taken it: a picture of the cell is one of the cell at rest.
     Component.onCompleted: cell.drawnBy(face)
+    onActiveFocusChanged: if (activeFocus) list.reveal(card)
     Keys.onReturnPressed: list.collection.tapItem(cell.item)
     Keys.onMenuPressed: list.collection.openMenu(cell.item, x + width / 2, y + height / 2)
     Accessible.role: Accessible.Button

@@ -26,6 +26,7 @@ Item {
             width: cell.width
             height: cell.height
             activeFocusOnTab: true
+            onActiveFocusChanged: if (activeFocus) rows.reveal(row)
             Keys.onReturnPressed: rows.collection.tapItem(cell.item)
             Keys.onSpacePressed: rows.collection.tapItem(cell.item)
             Accessible.role: Accessible.RadioButton
