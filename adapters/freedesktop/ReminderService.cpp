@@ -65,7 +65,7 @@ Result<bool> ReminderService::claim() {
 }
 
 bool ReminderService::ownerHandsOver() {
-    sd_bus_error error = SD_BUS_ERROR_NULL;
+    sd_bus_error error{};
     Owned<sd_bus_message> reply;
     const int status = take(reply, [&](auto made) {
         return sd_bus_call_method(bus_.handle(), remindersName, remindersPath, remindersName, "HandOver",

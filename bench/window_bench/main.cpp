@@ -3,10 +3,9 @@
 // a short one. Each measurement has a process of its own; the kinds take turns, so that a busy machine hits
 // them alike, and the medians count.
 
-#include "Event/EventContext.h"
-#include "Event/EventItem.h"
 #include "app/Composition.h"
-#include "sqlite/SqliteEventStore.h"
+#include "bench/EventFolder.h"
+#include "bench/ScrollingList.h"
 #include "standard/StandardConsole.h"
 #include "standard/SystemClock.h"
 
@@ -15,7 +14,6 @@
 #include <QGuiApplication>
 #include <QProcess>
 #include <QQmlApplicationEngine>
-#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTemporaryDir>
 
@@ -62,28 +60,14 @@ void report(Cost cost) {
     std::_Exit(EXIT_SUCCESS);
 }
 
-QQuickItem* firstList(QQuickItem& item) {
-    if (item.inherits("QQuickFlickable"))
-        return &item;
-    for (QQuickItem* child : item.childItems()) {
-        if (auto* list = firstList(*child))
-            return list;
-    }
-    return nullptr;
-}
-
 /// Scrolls down, and back up where the list ends, one step a picture.
 void scroll(QQuickWindow& window) {
-    QQuickItem* const list = firstList(*window.contentItem());
-    const double end = list->property("contentHeight").toDouble() - list->height();
-    if (end <= 0) {
-        std::fprintf(stderr, "There is nothing to scroll\n");
-        std::_Exit(EXIT_FAILURE);
-    }
+    QQuickItem& list = scrollingList(window);
+    const double end = wayOf(list);
     const double before = processMilliseconds();
     for (int picture = 1; picture <= pictures; ++picture) {
         const double way = std::fmod(picture * step, 2 * end);
-        list->setProperty("contentY", way <= end ? way : 2 * end - way);
+        list.setProperty("contentY", way <= end ? way : 2 * end - way);
         window.grabWindow();
     }
     report({(processMilliseconds() - before) / pictures, residentMegabytes()});
@@ -118,29 +102,6 @@ int measureProgram(QGuiApplication& application, double start, const QString& fo
         },
         Qt::SingleShotConnection);
     return QGuiApplication::exec();
-}
-
-void fillFolder(const QString& folder, int events) {
-    sqlite::SqliteEventStore store((folder + QStringLiteral("/events.sqlite")).toStdString());
-    EventContext context(store);
-    if (store.load())
-        std::exit(EXIT_FAILURE);
-    for (int number = 0; number < events; ++number) {
-        EventRecord record;
-        record.title = "Anniversary number " + std::to_string(number);
-        record.dateEvent = "05 September 2015"; // the list of past events is the one that opens
-        record.timeEvent = "6:30 PM";
-        record.repEvent = record.alertReminder = record.repReminder = record.gradient = NO_VALUE;
-        record.color = static_cast<std::int16_t>(number % 30);
-        record.timeFormat = 1;
-        record.eventType = false;
-        record.id.emplace();
-        for (std::size_t index = 0; index < sizeof number; ++index)
-            record.id->bytes[index] = static_cast<std::uint8_t>(number >> 8 * index);
-        context.insert(std::move(record));
-    }
-    if (context.save())
-        std::exit(EXIT_FAILURE);
 }
 
 std::optional<Cost> measureInProcess(const QStringList& arguments) {
@@ -187,7 +148,7 @@ bool hold(const Contest& contest) {
 int holdAll() {
     std::map<int, QTemporaryDir> folders;
     for (const int events : {0, 20, 1'000, 10'000})
-        fillFolder(folders[events].path(), events);
+        fillFolder(folders[events].path().toStdString(), events);
     const auto start = [&](int events) {
         return QStringList{QStringLiteral("start"), folders[events].path()};
     };
