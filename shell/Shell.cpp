@@ -3,6 +3,7 @@
 #include "Ports/Console.h"
 #include "bridge/BridgeContext.h"
 #include "bridge/IconProvider.h"
+#include "bridge/ShadowProvider.h"
 #include "bridge/WindowItem.h"
 
 #include <QQmlApplicationEngine>
@@ -34,6 +35,7 @@ void Shell::open() {
     qml_register_types_Tessivo();
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
+    engine.addImageProvider(QStringLiteral("shadow"), new ShadowProvider);
     engine.setInitialProperties({{QStringLiteral("item"), QVariant::fromValue(&parts_->window)}});
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tessivo/Main.qml")));
     if (!window())

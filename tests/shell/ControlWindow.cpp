@@ -1,6 +1,7 @@
 #include "shell/ControlWindow.h"
 
 #include "bridge/IconProvider.h"
+#include "bridge/ShadowProvider.h"
 
 #include <QQmlComponent>
 
@@ -12,6 +13,7 @@ ControlWindow::ControlWindow() {
     qml_register_types_Tessivo();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine_.addImageProvider(QStringLiteral("icon"), new shell::IconProvider);
+    engine_.addImageProvider(QStringLiteral("shadow"), new shell::ShadowProvider);
     window.resize(390, 700);
     window.show();
     window.requestActivate();

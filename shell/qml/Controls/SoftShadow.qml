@@ -1,25 +1,17 @@
 import QtQuick
 
-// A soft shadow under a rounded rectangle: faint outlines that grow and sink.
-Item {
+// A soft shadow under a rounded rectangle: one picture, stretched between its corners.
+BorderImage {
     id: shadow
 
     property real radius: 16
     property real strength: 0.022
+    readonly property int reach: 12
+    readonly property int corner: reach + Math.floor(radius)
 
     anchors.fill: parent
+    anchors.margins: -reach
     z: -1
-    Repeater {
-        model: 6
-        Rectangle {
-            required property int index
-            x: -index
-            y: -index + 3 + index * 0.6
-            width: shadow.width + 2 * index
-            height: shadow.height + 2 * index
-            radius: shadow.radius + index
-            color: Qt.rgba(0.07, 0.09, 0.18, shadow.strength)
-            antialiasing: true
-        }
-    }
+    source: "image://shadow/" + radius + "/" + strength
+    border { left: corner; top: corner; right: corner; bottom: corner }
 }
