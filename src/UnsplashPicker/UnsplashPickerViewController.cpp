@@ -317,6 +317,8 @@ void UnsplashPickerViewController::showFetched(bool hasNew) {
     else if (shown != count || hasNew)
         collectionView.reloadData();
     // Otherwise nothing has changed: a reload would show the item that asks for more once again, for ever.
+    pagingViewOnScreen_ = false; // the foot is shown anew
+    placePagingView();
     if (count == 0)
         showState(EmptyViewState::noResults);
 }

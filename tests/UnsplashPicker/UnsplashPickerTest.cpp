@@ -136,6 +136,9 @@ TEST_F(UnsplashPickerTest, TheFootTellsWhetherMoreIsComing) {
     screen.collectionView.setContentOffset({0, bottom});
     EXPECT_TRUE(screen.pagingView.isLoading());
     EXPECT_EQ(screen.pagingView.frame(), *screen.layout().pagingViewFrame());
+    timeline.runPosted();
+    answerPage(0);
+    EXPECT_FALSE(screen.pagingView.isLoading()) << "nothing more has come, nor will it";
 }
 
 TEST_F(UnsplashPickerTest, SearchesOnlyWhenAsked) {

@@ -45,15 +45,23 @@ class PhotosTest : public ControlWindow {
 protected:
     PhotosTest() {
         mainScreen.resize({390, 700}, 1);
+        open({.severalAtOnce = false});
+    }
+    ~PhotosTest() override { undraw(); }
+
+    struct Wish {
+        bool severalAtOnce;
+    };
+    void open(Wish wish) {
         UnsplashPickerConfiguration configuration("https://api.test");
         configuration.accessKey = "key";
+        configuration.allowsMultipleSelection = wish.severalAtOnce;
         picker = UnsplashPicker::make(services, windowContext, configuration);
         picker->photoPickerDelegate = host;
         stack.top()->present(picker, false);
-        draw(*picker, "ScreenContent { anchors.fill: parent; screen: root.screen }");
+        drawing = &draw(*picker, "ScreenContent { anchors.fill: parent; screen: root.screen }");
         timeline.runPosted();
     }
-    ~PhotosTest() override { undraw(); }
 
     [[nodiscard]] UnsplashPickerViewController& screen() { return picker->photoPickerViewController(); }
     /// Whether an exchange whose address holds `mark` waits for its answer.
@@ -91,6 +99,7 @@ protected:
     PickerServices services{PickerPlatform{console, timeline, work, http, json, images, caches, &texts}};
     std::shared_ptr<Host> host = std::make_shared<Host>();
     std::shared_ptr<UnsplashPicker> picker;
+    QQuickItem* drawing = nullptr;
 };
 
 TEST_F(PhotosTest, ATapChoosesThePhotoUnderItAlsoAtTheRightEdge) {
@@ -101,6 +110,42 @@ TEST_F(PhotosTest, ATapChoosesThePhotoUnderItAlsoAtTheRightEdge) {
     ASSERT_EQ(host->chosen.size(), 1U);
     EXPECT_EQ(host->chosen.front()->identifier, "p2");
     EXPECT_TRUE(waiting("/photos/p2/download?client_id=key"));
+}
+
+TEST_F(PhotosTest, SeveralPhotosAreMarkedAndHandedOverByDone) {
+    EXPECT_EQ(hand.find(QStringLiteral("Done")), nullptr) << "where one is chosen, it goes at once";
+    hand.tap(QStringLiteral("Cancel"));
+    open({.severalAtOnce = true});
+    showPhotos(4);
+    hand.tapAt(middleOfPhoto(0));
+    hand.tapAt(middleOfPhoto(3));
+    EXPECT_NE(hand.find(QStringLiteral("2 selected")), nullptr);
+    const ui::Rect frame = screen().layout().frame(3);
+    const QPointF mark = middleOfPhoto(3) + QPointF(frame.width / 2 - 20, frame.height / 2 - 12);
+    EXPECT_TRUE(seen(mark.toPoint(), Qt::white));
+    hand.tap(QStringLiteral("Done"));
+    ASSERT_EQ(host->chosen.size(), 2U);
+    EXPECT_EQ(host->chosen.back()->identifier, "p4");
+}
+
+TEST_F(PhotosTest, AWiderWindowHasRoomForAnotherColumn) {
+    showPhotos(4);
+    const double before = middleOfPhoto(1).y();
+    drawing->setWidth(600);
+    mainScreen.resize({600, 700}, 1);
+    ASSERT_TRUE(runUntil([&] { return screen().layout().frame(2).maxX() > 580; }));
+    EXPECT_EQ(middleOfPhoto(2).y(), middleOfPhoto(0).y()) << "the third stands in the first row";
+    EXPECT_NE(middleOfPhoto(1).y(), before);
+}
+
+TEST_F(PhotosTest, TheLastPhotosCanBeScrolledOutFromUnderTheKeyboard) {
+    showPhotos(12);
+    const double bottom = screen().collectionView.contentSize().height - 700;
+    mainScreen.setKeyboardHeight(300);
+    ASSERT_TRUE(runUntil([&] {
+        hand.drag({100, 650}, {100, 150});
+        return screen().collectionView.contentOffset().y >= bottom + 290;
+    }));
 }
 
 TEST_F(PhotosTest, ScrollingFetchesTheNextPage) {

@@ -32,7 +32,7 @@ FocusScope {
             y: picker.pagingView.y
             width: photos.width
             height: picker.pagingView.height
-            visible: picker.pagingView.shown
+            visible: picker.pagingView.shown && !missing.visible
             Spinner {
                 anchors.centerIn: parent
                 activity: picker.screen.control("pagingSpinner") as ActivityItem
@@ -46,6 +46,7 @@ FocusScope {
         activity: picker.screen.control("spinner") as ActivityItem
     }
     PhotosMissing {
+        id: missing
         screen: picker.screen
         anchors.fill: parent
         anchors.topMargin: header.height
