@@ -43,8 +43,7 @@ void EventBackgroundViewController::viewDidLoad() {
     eventFormatter = platform().dateFormatters.make(fullFormat);
     buildFrame("Background", "steps4", texts().done);
     nextButton.addTarget(ui::PressEvent::UpInside, [this] { doneButtonTapped(); });
-    imagesButton.setTitle("Image by Unsplash");
-    imagesButton.setImageName("chevron.right");
+    buildRow(imagesButton, "Image by Unsplash");
     imagesButton.addTarget(ui::PressEvent::UpInside, [this] { imagesButtonTapped(); });
     for (ui::View* row : std::initializer_list<ui::View*>{&previewLabel, &eventView, &imagesLabel,
                                                           &imagesButton, &colorsLabel, &colorCollection,
@@ -59,6 +58,13 @@ void EventBackgroundViewController::viewDidLoad() {
     buildStrip(colorCollection);
     buildStrip(gradientCollection);
     showDraft();
+}
+
+void EventBackgroundViewController::buildRow(ui::Button& row, std::string title) {
+    row.setTitle(std::move(title));
+    row.setFont({17, ui::FontWeight::Regular});
+    row.setImageName("chevronNext");
+    row.setTint(ui::ColorRef::black());
 }
 
 void EventBackgroundViewController::buildStrip(ui::CollectionView& strip) {

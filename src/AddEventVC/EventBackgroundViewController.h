@@ -58,6 +58,7 @@ protected:
     void viewDidLoad() override;
 
 private:
+    void buildRow(ui::Button& row, std::string title);
     void buildStrip(ui::CollectionView& strip);
     void showDraft();
     void chooseColor(int row);

@@ -1,7 +1,6 @@
 // The part of the tour that goes through the photo browser.
 
 #include "DemoPhotos.h"
-#include "Interface/Button.h"
 #include "Tour.h"
 #include "UnsplashPicker/PhotoCell.h"
 #include "UnsplashPicker/UnsplashPicker.h"
@@ -42,7 +41,7 @@ void Tour::waitForPhotos() {
 }
 
 void Tour::openPhotos() {
-    dynamic_cast<ui::Button&>(*program_.stack().top()->controls.find("imagesButton")).tap();
+    finger_.tap(nameOf("imagesButton"));
     waitForPhotos();
 }
 

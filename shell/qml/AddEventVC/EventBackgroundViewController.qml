@@ -11,14 +11,17 @@ WizardFrame {
         width: parent.width
         height: step.height > 1000 ? step.height / 4.06 : 200
     }
-    Item { width: 1; height: 8 }
+    SectionLabel { label: step.screen.control("imagesLabel") as LabelItem }
+    ChevronRow {
+        button: step.screen.control("imagesButton") as ButtonItem
+        width: parent.width
+    }
     SectionLabel { label: step.screen.control("colorsLabel") as LabelItem }
     SwatchStrip {
         collection: step.screen.control("colorCollection") as CollectionItem
         x: -Theme.margin
         width: step.width
     }
-    Item { width: 1; height: 8 }
     SectionLabel { label: step.screen.control("gradientsLabel") as LabelItem }
     SwatchStrip {
         collection: step.screen.control("gradientCollection") as CollectionItem
