@@ -1,9 +1,16 @@
 #include "Interface/CollectionView.h"
 
+#include "Interface/Animation.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace tessivo::ui {
+namespace {
+
+constexpr EaseInOut deletion{Seconds(0.3)};
+
+} // namespace
 
 CollectionView::CollectionView(ControlRegistry& registry, std::string name,
                                std::unique_ptr<CollectionLayout> layout)
@@ -45,12 +52,60 @@ void CollectionView::insertItems(int first, int count) {
 void CollectionView::deleteItem(int item) {
     if (item < 0 || item >= count_)
         return;
+    std::map<int, Rect> before; // where the items stand now, by their numbers afterwards
+    const ItemRange range = layout_->itemsIn(bounds());
+    for (int old = range.begin; old < std::min(range.end + 1, count_); ++old)
+        before.emplace(old < item ? old : old - 1, layout_->frame(old));
     --count_;
     selected_.erase(item);
-    if (auto cell = visible_.extract(item))
-        retire(std::move(cell.mapped()));
+    auto cell = visible_.extract(item);
     moveItems(item + 1, -1);
-    invalidateLayout();
+    if (!animations()) {
+        if (cell)
+            retire(std::move(cell.mapped()));
+        invalidateLayout();
+        return;
+    }
+    if (cell)
+        leave(std::move(cell.mapped()));
+    closeGap(before);
+}
+
+/// The cell stays behind the others, where its item was.
+void CollectionView::leave(std::shared_ptr<CollectionViewCell> cell) {
+    insertSubview(*cell, 0);
+    leaving_.push_back(cell);
+    const auto fade = PropertyAnimator::make(*animations(), deletion);
+    fade->addAnimations([cell] { cell->setAlpha(0); });
+    fade->addCompletion([this, alive = lifetime(), cell](AnimatingPosition) {
+        if (!alive.expired())
+            hasLeft(cell);
+    });
+    fade->startAnimation();
+}
+
+void CollectionView::hasLeft(const std::shared_ptr<CollectionViewCell>& cell) {
+    std::erase(leaving_, cell);
+    cell->setAlpha(1);
+    retire(cell);
+    visibleCellsChanges_.emit();
+}
+
+/// Cells that come onto the screen start from where their items stood, too.
+void CollectionView::closeGap(const std::map<int, Rect>& before) {
+    prepareLayout();
+    showVisibleCells();
+    for (const auto& [item, cell] : visible_) {
+        if (const auto start = before.find(item); start != before.end())
+            cell->place(start->second);
+    }
+    const auto moves = PropertyAnimator::make(*animations(), deletion);
+    moves->addAnimations([this] {
+        for (const auto& [item, cell] : visible_)
+            cell->place(layout_->frame(item));
+    });
+    moves->startAnimation();
+    visibleCellsChanges_.emit();
 }
 
 void CollectionView::moveItems(int from, int by) {

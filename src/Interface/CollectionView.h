@@ -9,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <vector>
 
 namespace tessivo::ui {
 
@@ -65,7 +66,9 @@ public:
     void reloadData();
     /// The items are in the data source already; those behind them move on. Cells on the screen stay theirs.
     void insertItems(int first, int count);
-    /// The items are out of the data source already. Cells on the screen stay theirs.
+    /// The item is out of the data source already. Cells on the screen stay theirs. On a screen the item's
+    /// cell fades where it stood while those behind it move up; until that has ended it shows no item and is
+    /// handed to none.
     void deleteItem(int item);
     /// Lays the items out anew, as after a change of size; asks for no count.
     void invalidateLayout();
@@ -79,6 +82,10 @@ public:
     [[nodiscard]] const std::map<int, std::shared_ptr<CollectionViewCell>>& visibleCells() const {
         return visible_;
     }
+    /// The cells of deleted items that are still seen.
+    [[nodiscard]] const std::vector<std::shared_ptr<CollectionViewCell>>& leavingCells() const {
+        return leaving_;
+    }
 
     // Selection by the program tells no delegate.
     void selectItem(int item);
@@ -91,7 +98,7 @@ public:
     /// hears it.
     void tapItem(int item);
 
-    /// Hears when other cells are on the screen, or when they lie elsewhere.
+    /// Hears when other cells are on the screen or leaving it, or when they lie elsewhere.
     [[nodiscard]] Subscription onVisibleCellsChange(std::function<void()> changed) {
         return visibleCellsChanges_.subscribe(std::move(changed));
     }
@@ -105,6 +112,9 @@ private:
     void showVisibleCells();
     void show(int item);
     void retire(std::shared_ptr<CollectionViewCell> cell);
+    void leave(std::shared_ptr<CollectionViewCell> cell);
+    void closeGap(const std::map<int, Rect>& before);
+    void hasLeft(const std::shared_ptr<CollectionViewCell>& cell);
     void moveItems(int from, int by);
 
     std::unique_ptr<CollectionLayout> layout_;
@@ -112,6 +122,7 @@ private:
     std::map<std::string, std::deque<std::shared_ptr<CollectionViewCell>>> pools_;
     std::map<const CollectionViewCell*, std::string> kinds_;
     std::map<int, std::shared_ptr<CollectionViewCell>> visible_;
+    std::vector<std::shared_ptr<CollectionViewCell>> leaving_;
     std::set<int> selected_;
     int count_ = 0;
     Signal<> visibleCellsChanges_;

@@ -145,6 +145,8 @@ protected:
 
     void setValue(AnimatableProperty property, double value);
     void notify(ViewChange change) { changes_.emit(change); }
+    /// The animations of the screen that holds this view; null in none.
+    [[nodiscard]] Animations* animations() const;
 
 private:
     friend class PropertyAnimator;
@@ -165,7 +167,6 @@ private:
         bool geometry = false;
     };
 
-    [[nodiscard]] Animations* animations() const;
     [[nodiscard]] Point originInRoot() const;
     void letGoOf(const View& subview);
     [[nodiscard]] Changes changesOf(const PropertyAnimator& animator) const;

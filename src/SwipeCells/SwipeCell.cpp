@@ -96,12 +96,13 @@ bool SwipeCell::pointInside(ui::Point point) {
         bool beside = false;
         for (ui::View* view : scroll->subviews()) {
             const auto* other = dynamic_cast<SwipeCell*>(view);
-            beside |= other && other != this && isOpen(other->state()) && !covers(other->frame(), inList);
+            beside |= other && other != this && isOpen(other->state()) && other->indexPath() &&
+                      !covers(other->frame(), inList);
         }
         if (beside) {
             const auto views = scroll->subviews();
             for (ui::View* view : views) {
-                if (auto* const other = dynamic_cast<SwipeCell*>(view))
+                if (auto* const other = dynamic_cast<SwipeCell*>(view); other && other->indexPath())
                     other->hideSwipe(true);
             }
             return false;

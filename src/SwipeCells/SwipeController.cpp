@@ -69,7 +69,8 @@ Swipeable* SwipeController::firstCell(Condition condition) const {
     Swipeable* first = nullptr;
     for (ui::View* view : scrollView_->subviews()) {
         auto* const other = dynamic_cast<Swipeable*>(view);
-        if (other && condition(*other) && (!first || other->indexPath() < first->indexPath()))
+        if (other && other->indexPath() && condition(*other) &&
+            (!first || other->indexPath() < first->indexPath()))
             first = other;
     }
     return first;
@@ -82,7 +83,8 @@ void SwipeController::hideCells(const Swipeable* except) {
     for (ui::View* view : views) {
         if (!scrollView_ || std::ranges::find(scrollView_->subviews(), view) == scrollView_->subviews().end())
             continue;
-        if (auto* const other = dynamic_cast<Swipeable*>(view); other && other != except)
+        auto* const other = dynamic_cast<Swipeable*>(view);
+        if (other && other != except && other->indexPath())
             other->hideSwipe(true);
     }
 }
@@ -480,9 +482,12 @@ void SwipeController::fillEnded(SwipeActionsOrientation orientation, int indexPa
 }
 
 void SwipeController::removeCell(int indexPath, double newCenter, HandlerInvocationTiming timing) {
-    auto* const actionsView = swipeable_ ? swipeable_->actionsView() : nullptr;
-    if (!actionsView)
+    auto* const actionsView = swipeable_->actionsView();
+    if (!actionsView) { // the row was closed before its owner made up their mind
+        if (delegate_)
+            delegate_->didDelete(*this, indexPath);
         return;
+    }
     deletionMask_ = actionsView->makeDeletionMask();
     deletionMask_->setAnimations(&environment_.animations);
     actionsContainerView_->setMask(deletionMask_.get());

@@ -1,5 +1,8 @@
 #include "Interface/CollectionView.h"
 
+#include "Interface/Animation.h"
+#include "fakes/Timeline.h"
+
 #include <gmock/gmock.h>
 
 namespace tessivo::ui {
@@ -115,6 +118,80 @@ TEST_F(CollectionTest, ADeletedItemTakesOnlyItsOwnCell) {
     EXPECT_EQ(collection.visibleCells().size(), 3U);
     collection.deleteItem(7);
     EXPECT_EQ(collection.numberOfItems(), 3);
+}
+
+class DeletionOnAScreenTest : public CollectionTest {
+protected:
+    DeletionOnAScreenTest() { collection.setAnimations(&animations); }
+
+    void remove(int item) {
+        --numbers->count;
+        collection.deleteItem(item);
+    }
+    [[nodiscard]] double drawnTop(int item) { return collection.cellForItem(item)->drawnFrame().y; }
+
+    fakes::Timeline line;
+    Animations animations{line, line};
+};
+
+TEST_F(DeletionOnAScreenTest, TheDeletedCellFadesInItsPlaceWhileTheOthersCloseTheGap) {
+    show(6);
+    const auto gone = collection.cellForItem(1);
+    const auto next = collection.cellForItem(2);
+    remove(1);
+    EXPECT_EQ(collection.cellForItem(1), next);
+    EXPECT_EQ(next->frame().y, 55);
+    EXPECT_EQ(collection.itemFor(*gone), std::nullopt);
+    EXPECT_THAT(collection.leavingCells(), ElementsAre(gone));
+    EXPECT_EQ(collection.hitTest({50, 70}), &next->contentView) << "touches go to the item that is there";
+    line.advance(Seconds(0.15));
+    EXPECT_EQ(gone->drawnFrame().y, 55);
+    EXPECT_NEAR(gone->drawnValue(AnimatableProperty::Alpha), 0.5, 0.1);
+    EXPECT_EQ(drawnTop(0), 5);
+    EXPECT_NEAR(drawnTop(1), 80, 5);
+    EXPECT_NEAR(drawnTop(3), 180, 5) << "a cell that comes onto the screen moves along with the others";
+    line.advance(Seconds(0.2));
+    EXPECT_THAT(collection.leavingCells(), IsEmpty());
+    EXPECT_EQ(gone->superview(), nullptr);
+    EXPECT_EQ(gone->alpha(), 1);
+    EXPECT_EQ(drawnTop(1), 55);
+    EXPECT_FALSE(line.framesAreAskedFor());
+}
+
+TEST_F(DeletionOnAScreenTest, ALeavingCellIsHandedOutOnlyOnceItHasLeft) {
+    show(3);
+    const auto first = collection.cellForItem(0);
+    remove(0);
+    remove(0);
+    EXPECT_EQ(collection.leavingCells().size(), 2U);
+    numbers->count = 3;
+    collection.reloadData();
+    for (const auto& [item, cell] : collection.visibleCells())
+        EXPECT_NE(cell, first) << item;
+    line.advance(Seconds(1));
+    numbers->count = 4;
+    collection.reloadData();
+    std::vector<std::shared_ptr<CollectionViewCell>> cells;
+    for (const auto& [item, cell] : collection.visibleCells())
+        cells.push_back(cell);
+    EXPECT_THAT(cells, testing::Contains(first));
+    EXPECT_EQ(first->drawnValue(AnimatableProperty::Alpha), 1);
+}
+
+TEST_F(DeletionOnAScreenTest, ACollectionMayGoWhileACellLeaves) {
+    auto list = std::make_unique<CollectionView>(
+        registry, "other", std::make_unique<LineLayout>(LineLayout::Axis::Vertical, 10));
+    list->registerCell("cell", [] { return std::make_shared<NumberedCell>(); });
+    list->dataSource = numbers;
+    list->delegate = numbers;
+    list->setFrame({0, 0, 100, 200});
+    list->setAnimations(&animations);
+    numbers->count = 2;
+    list->reloadData();
+    list->deleteItem(0);
+    list.reset();
+    line.advance(Seconds(1));
+    EXPECT_FALSE(line.framesAreAskedFor());
 }
 
 TEST_F(CollectionTest, InsertedItemsPushTheOthersOn) {
