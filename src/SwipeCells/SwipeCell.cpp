@@ -113,7 +113,7 @@ bool SwipeCell::pointInside(ui::Point point) {
 
 void SwipeCell::leaveRow() {
     contentView.setClipsToBounds(false);
-    controller_->reset();
+    controller_->abandon();
     auto* const scroll = list();
     if (!scroll)
         return;

@@ -58,6 +58,9 @@ public:
     void setSwipeOffset(double offset, bool animated, Completion completion = {});
     /// The state and the row only; the container stays where it is.
     void reset();
+    /// Another item may take the cell: whatever moves stops, so that nothing of this item's swipe is left
+    /// over.
+    void abandon();
     /// After a change of the screen's traits: an open cell settles anew, at once.
     void traitsDidChange();
     /// Hangs the row on the container's edge, in the cell's present size.
@@ -69,6 +72,8 @@ public:
                                                    double originalCenter, double limit, double ratio = 0.2);
 
 private:
+    static constexpr Seconds settleDuration{0.7};
+
     SwipeController(SwipeEnvironment environment, Swipeable& swipeable, ui::View& container,
                     SwipeControllerDelegate& delegate);
 
@@ -84,6 +89,7 @@ private:
     void giveVisibleWidth();
     void animateTo(double centerX, Seconds duration, double velocity, Completion completion);
     void stopAnimator();
+    void goBack(Completion completion);
     [[nodiscard]] double targetCenter(bool active) const;
     [[nodiscard]] SwipeState targetState(double velocity) const;
     void resetPosition();
@@ -95,8 +101,7 @@ private:
     void removeCell(int indexPath, double newCenter, HandlerInvocationTiming timing);
 
     [[nodiscard]] ui::View& cell() const { return swipeable_->swipedView(); }
-    template <class Condition>
-    [[nodiscard]] Swipeable* firstCell(Condition condition) const;
+    [[nodiscard]] Swipeable* firstCell(bool (*condition)(const Swipeable&)) const;
     void hideCells(const Swipeable* except);
 
     SwipeEnvironment environment_;

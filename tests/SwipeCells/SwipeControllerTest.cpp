@@ -1,7 +1,6 @@
 #include "SwipeCells/SwipeList.h"
 
 #include <gmock/gmock.h>
-#include <rapidcheck.h>
 
 namespace tessivo::swipe {
 namespace {
@@ -154,48 +153,51 @@ TEST_F(SwipeControllerTest, AssistiveTechnologyIsOfferedBothSidesNearestFirst) {
     EXPECT_EQ(list->collection.numberOfItems(), 4);
 }
 
-TEST(SwipeProperties, NoTraceLeavesACellAstray) {
-    EXPECT_TRUE(rc::check([] {
-        const auto list = SwipeList::make();
-        list->right = SwipeActions{list->action("Delete"), list->action("Edit")};
-        list->left = SwipeActions{list->action("Pin")};
-        if (*rc::gen::arbitrary<bool>())
-            list->options.expansionStyle = SwipeExpansionStyle::bounceAtHalf();
-        const auto steps = *rc::gen::container<std::vector<std::tuple<int, int, int, int>>>(
-            rc::gen::tuple(rc::gen::inRange(0, 5), rc::gen::inRange(0, 5), rc::gen::inRange(-320, 321),
-                           rc::gen::inRange(-900, 901)));
-        for (const auto& [what, item, translation, velocity] : steps) {
-            switch (what) {
-            case 0:
-                // A finger on the list closes what stands open beside it.
-                (void)list->collection.hitTest({160, item * 100.0 + 50});
-                list->begin(item, velocity);
-                break;
-            case 1:
-                list->change(item, translation, velocity);
-                break;
-            case 2:
-                list->pan(item).end({static_cast<double>(velocity), 0});
-                break;
-            case 3:
-                list->line.advance(Seconds(std::abs(translation) / 1000.0));
-                break;
-            default:
-                list->cell(item).hideSwipe(true);
-            }
-            int open = 0;
-            for (int each = 0; each < 5; ++each) {
-                const auto& cell = list->cell(each);
-                open += isOpen(cell.state()) ? 1 : 0;
-                RC_ASSERT(!isOffCenter(cell.state()) || cell.actionsView());
-            }
-            RC_ASSERT(open <= 1);
-        }
-        for (int item = 0; item < 5; ++item)
-            list->pan(item).end({0, 0});
-        list->line.advance(Seconds(20));
-        RC_ASSERT(!list->line.framesAreAskedFor());
-    }));
+TEST_F(SwipeControllerTest, AnOpenRowIsTheOnlyThingThatAssistiveTechnologyFindsOnItsCell) {
+    EXPECT_EQ(list->cell(1).accessibilityElement(), nullptr);
+    list->open(1);
+    EXPECT_EQ(list->cell(1).accessibilityElement(), list->cell(1).actionsView());
+    list->screenReader = true;
+    EXPECT_TRUE(list->cell(3).pointInside({10, 10})) << "exploring by touch closes nothing";
+    EXPECT_EQ(list->cell(1).state(), SwipeState::Right);
+    EXPECT_TRUE(list->cell(3).swipeController().tapGestureRecognizer()->recognize({10, 10})) << "a tap does";
+    EXPECT_EQ(list->cell(1).state(), SwipeState::AnimatingToCenter);
+}
+
+TEST_F(SwipeControllerTest, APanThatIsRefusedAtItsStartMovesNothingToItsEnd) {
+    list->open(1);
+    list->begin(2, -100);
+    list->begin(1, 100); // a second finger, on the open cell
+    list->change(1, 90, 100);
+    list->pan(1).end({100, 0});
+    EXPECT_EQ(list->cell(1).state(), SwipeState::Right);
+    EXPECT_EQ(list->centerX(1), 160 - 148);
+    EXPECT_EQ(list->cell(2).state(), SwipeState::Dragging);
+}
+
+TEST_F(SwipeControllerTest, ACellThatWasClosedUnderItsFingerGivesWayToTheNextOne) {
+    list->open(1);
+    list->begin(1, -100);
+    (void)list->collection.hitTest({160, 250}); // a second finger closes it
+    list->begin(2, -100);
+    list->change(1, -40, -100);
+    EXPECT_EQ(list->centerX(1), 160) << "it is on its way back";
+    list->pan(2).end({-100, 0});
+    list->pan(1).end({-100, 0});
+    list->line.advance(Seconds(3));
+    EXPECT_EQ(list->cell(1).state(), SwipeState::Center);
+    EXPECT_EQ(list->cell(2).state(), SwipeState::Right);
+}
+
+TEST_F(SwipeControllerTest, AnOpenCellTakesTheWidthOfATurnedScreen) {
+    list->open(1);
+    list->width = 640;
+    list->collection.setFrame({0, 0, 640, 300});
+    list->collection.layoutIfNeeded();
+    list->cell(1).layoutIfNeeded();
+    list->cell(1).traitsDidChange();
+    EXPECT_EQ(list->centerX(1), 320 - 148);
+    EXPECT_EQ(list->cell(1).actionsView()->frame(), (ui::Rect{640, 0, 1280, 100}));
 }
 
 } // namespace

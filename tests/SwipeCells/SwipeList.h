@@ -12,13 +12,14 @@
 
 namespace tessivo::swipe {
 
-/// Counts what the user feels.
+/// Counts what the user feels, and how often the machine was made ready for it.
 class CountingImpacts final : public ImpactGenerator {
 public:
-    void prepare() override {}
+    void prepare() override { ++prepared; }
     void impactOccurred() override { ++count; }
 
     int count = 0;
+    int prepared = 0;
 };
 
 /// A collection of cells that swipe, with an owner that notes what it hears.
@@ -78,6 +79,9 @@ public:
     SwipeCollectionViewCell& cell(int item) {
         return static_cast<SwipeCollectionViewCell&>(*collection.cellForItem(item));
     }
+    ui::ScrollView& list() { return collection; }
+    void reload() { collection.reloadData(); }
+    ui::View& container(int item) { return cell(item).contentView; }
     ui::PanGestureRecognizer& pan(int item) { return *cell(item).swipeController().panGestureRecognizer(); }
     /// The finger starts in the middle of the cell.
     bool begin(int item, double velocity) { return pan(item).begin({width / 2, 50}, {0, 0}, {velocity, 0}); }
