@@ -1,19 +1,19 @@
-// What the window costs: the processor time and the memory from the start of the program to the first
-// picture, against an empty Qt Quick window, and the same for each picture while a long list scrolls, against
-// a short one. Each measurement has a process of its own; the kinds take turns, so that a busy machine hits
-// them alike, and the medians count.
+// What the window costs: time and memory from the start of the process to the first picture, against a
+// program that opens an empty Qt Quick window and nothing else, and the same for each picture while a long
+// list scrolls, against a short one. Each measurement has a process of its own; the kinds take turns, so that
+// a busy machine hits them alike, and the medians count.
 
 #include "app/Composition.h"
 #include "bench/EventFolder.h"
 #include "bench/ScrollingList.h"
+#include "bench/window_bench/ProcessCost.h"
 #include "standard/StandardConsole.h"
 #include "standard/SystemClock.h"
 
-#include <QFile>
+#include <QElapsedTimer>
 #include <QFont>
 #include <QGuiApplication>
 #include <QProcess>
-#include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QTemporaryDir>
 
@@ -21,7 +21,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <map>
 #include <optional>
 #include <vector>
@@ -35,30 +34,10 @@ constexpr int pictures = 400;
 constexpr double step = 37; ///< points between two pictures: a lively fling
 
 struct Cost {
-    double milliseconds;
+    double processor; ///< ms
+    double wall;      ///< ms, of the whole process
     double megabytes;
 };
-
-double processMilliseconds() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) * 1e-6;
-}
-
-double residentMegabytes() {
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    const QByteArray text = status.readAll();
-    const auto line = text.mid(text.indexOf("VmRSS:") + 6);
-    return line.left(line.indexOf("kB")).trimmed().toDouble() / 1024;
-}
-
-void report(Cost cost) {
-    std::printf("%f %f\n", cost.milliseconds, cost.megabytes);
-    std::fflush(stdout);
-    std::_Exit(EXIT_SUCCESS);
-}
 
 /// Scrolls down, and back up where the list ends, one step a picture.
 void scroll(QQuickWindow& window) {
@@ -70,20 +49,10 @@ void scroll(QQuickWindow& window) {
         list.setProperty("contentY", way <= end ? way : 2 * end - way);
         window.grabWindow();
     }
-    report({(processMilliseconds() - before) / pictures, residentMegabytes()});
+    report((processMilliseconds() - before) / pictures);
 }
 
-int measureEmptyWindow(QGuiApplication& application, double start) {
-    QQmlApplicationEngine engine;
-    engine.loadData("import QtQuick\nWindow { width: 390; height: 844; visible: true }");
-    auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
-    QObject::connect(window, &QQuickWindow::frameSwapped, &application, [start] {
-        report({processMilliseconds() - start, residentMegabytes()});
-    });
-    return QGuiApplication::exec();
-}
-
-int measureProgram(QGuiApplication& application, double start, const QString& folder, bool scrolls) {
+int measureProgram(QGuiApplication& application, const QString& folder, bool scrolls) {
     StandardConsole console;
     SystemClock clock;
     const std::string data = folder.toStdString();
@@ -96,7 +65,7 @@ int measureProgram(QGuiApplication& application, double start, const QString& fo
         window, &QQuickWindow::frameSwapped, &application,
         [=] {
             if (!scrolls)
-                report({processMilliseconds() - start, residentMegabytes()});
+                report(processMilliseconds());
             QMetaObject::invokeMethod(
                 window, [window] { scroll(*window); }, Qt::QueuedConnection);
         },
@@ -104,19 +73,25 @@ int measureProgram(QGuiApplication& application, double start, const QString& fo
     return QGuiApplication::exec();
 }
 
-std::optional<Cost> measureInProcess(const QStringList& arguments) {
+std::optional<Cost> measureInProcess(const QStringList& command) {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QGuiApplication::applicationFilePath(), arguments);
+    QElapsedTimer timer;
+    timer.start();
+    process.start(command[0], command.mid(1));
     process.waitForFinished(-1);
     Cost cost{};
-    if (std::sscanf(process.readAllStandardOutput().constData(), "%lf %lf", &cost.milliseconds,
+    cost.wall = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    if (std::sscanf(process.readAllStandardOutput().constData(), "%lf %lf", &cost.processor,
                     &cost.megabytes) != 2)
         return std::nullopt;
     return cost;
 }
 
-double median(std::vector<double> values) {
+double median(const std::vector<Cost>& costs, double Cost::*part) {
+    std::vector<double> values;
+    for (const Cost& cost : costs)
+        values.push_back(cost.*part);
     std::ranges::nth_element(values, values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2));
     return values[values.size() / 2];
 }
@@ -128,20 +103,24 @@ struct Contest {
 };
 
 bool hold(const Contest& contest) {
-    std::vector<double> time[2];
-    std::vector<double> memory[2];
+    std::vector<Cost> costs[2];
     for (int turn = 0; turn < turns; ++turn) {
         for (const int side : {0, 1}) {
             const auto cost = measureInProcess(side == 0 ? contest.floor : contest.ours);
             if (!cost)
                 return false;
-            time[side].push_back(cost->milliseconds);
-            memory[side].push_back(cost->megabytes);
+            costs[side].push_back(*cost);
         }
     }
-    std::printf("%-32s %8.2f ms against %8.2f ms: %.2f x   %6.1f MB against %6.1f MB: %.2f x\n", contest.name,
-                median(time[1]), median(time[0]), median(time[1]) / median(time[0]), median(memory[1]),
-                median(memory[0]), median(memory[1]) / median(memory[0]));
+    std::printf("%s\n", contest.name);
+    const auto line = [&](const char* what, double Cost::*part) {
+        const double floor = median(costs[0], part);
+        const double ours = median(costs[1], part);
+        std::printf("  %-14s %8.2f against %8.2f: %.2f x\n", what, ours, floor, ours / floor);
+    };
+    line("wall, ms", &Cost::wall);
+    line("processor, ms", &Cost::processor);
+    line("memory, MB", &Cost::megabytes);
     return true;
 }
 
@@ -149,13 +128,14 @@ int holdAll() {
     std::map<int, QTemporaryDir> folders;
     for (const int events : {0, 20, 1'000, 10'000})
         fillFolder(folders[events].path().toStdString(), events);
+    const QString self = QGuiApplication::applicationFilePath();
     const auto start = [&](int events) {
-        return QStringList{QStringLiteral("start"), folders[events].path()};
+        return QStringList{self, QStringLiteral("start"), folders[events].path()};
     };
     const auto scrolling = [&](int events) {
-        return QStringList{QStringLiteral("scroll"), folders[events].path()};
+        return QStringList{self, QStringLiteral("scroll"), folders[events].path()};
     };
-    const QStringList empty{QStringLiteral("empty")};
+    const QStringList empty{QGuiApplication::applicationDirPath() + QStringLiteral("/empty_window")};
     const bool held = hold({"start, no events", empty, start(0)}) &&
                       hold({"start, 1,000 events", empty, start(1'000)}) &&
                       hold({"scrolling 10,000 against 20", scrolling(20), scrolling(10'000)});
@@ -165,7 +145,6 @@ int holdAll() {
 } // namespace
 
 int main(int argc, char** argv) {
-    const double start = processMilliseconds();
     qputenv("LC_ALL", "en_US.UTF-8");
     QGuiApplication application(argc, argv);
     QFont font;
@@ -174,7 +153,5 @@ int main(int argc, char** argv) {
     const QStringList arguments = QGuiApplication::arguments().mid(1);
     if (arguments.isEmpty())
         return holdAll();
-    if (arguments[0] == QStringLiteral("empty"))
-        return measureEmptyWindow(application, start);
-    return measureProgram(application, start, arguments[1], arguments[0] == QStringLiteral("scroll"));
+    return measureProgram(application, arguments[1], arguments[0] == QStringLiteral("scroll"));
 }

@@ -59,7 +59,7 @@ TEST_F(ShareSheetWindow, TheSheetShowsThePictureAndEachButtonSharesIt) {
     const auto sheet = std::make_shared<ui::ActivityViewController>(windowContext, sharing, picture);
     for (const char* act : {"Save", "Copy", "Open", "Mail"}) {
         screen->present(sheet);
-        draw(*sheet, "ShareSheet { anchors.fill: parent; screen: root.screen }");
+        draw(*sheet, "ActivityViewController { anchors.fill: parent; screen: root.screen }");
         ASSERT_TRUE(runUntil([&] { return window.grabWindow().pixelColor(195, 380) == QColor("magenta"); }));
         hand.tap(QString::fromLatin1(act));
         EXPECT_EQ(stack.top(), screen.get()) << act;
@@ -78,7 +78,7 @@ TEST_F(ShareSheetWindow, TheKeyboardLeavesAndCancelsWithoutSharing) {
     const auto sheet = std::make_shared<ui::ActivityViewController>(
         windowContext, sharing, std::make_shared<Bitmap>(Bitmap{1, 1, {1, 2, 3, 255}}));
     screen->present(sheet);
-    draw(*sheet, "ShareSheet { anchors.fill: parent; focus: true; screen: root.screen }");
+    draw(*sheet, "ActivityViewController { anchors.fill: parent; focus: true; screen: root.screen }");
     hand.press(Qt::Key_Escape);
     EXPECT_EQ(stack.top(), screen.get());
     screen->present(sheet);

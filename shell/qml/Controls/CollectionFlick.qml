@@ -74,7 +74,7 @@ Flickable {
     Loader {
         id: menu
         active: false
-        sourceComponent: ContextMenu {}
+        source: "ContextMenu.qml"
     }
     Connections {
         target: flick.collection

@@ -12,30 +12,16 @@ Item {
         height: parent.height
         x: loader.screen.kind === ScreenItem.Full ? loader.screen.view.x : 0
         focus: true
-        sourceComponent: {
-            switch (loader.screen.kind) {
-            case ScreenItem.Sheet: return sheet;
-            case ScreenItem.Alert: return alert;
-            case ScreenItem.ActionSheet: return loader.screen instanceof AlertItem ? actionSheet : full;
-            default: return full;
-            }
+        Component.onCompleted: {
+            const alert = loader.screen as AlertItem;
+            if (loader.screen.kind === ScreenItem.Sheet)
+                setSource("Sheet.qml", { screen: loader.screen });
+            else if (loader.screen.kind === ScreenItem.Alert)
+                setSource("AlertDialog.qml", { alert: alert });
+            else if (alert)
+                setSource("ActionSheet.qml", { alert: alert });
+            else
+                setSource("ScreenContent.qml", { screen: loader.screen });
         }
-    }
-
-    Component {
-        id: full
-        ScreenContent { screen: loader.screen }
-    }
-    Component {
-        id: sheet
-        Sheet { screen: loader.screen }
-    }
-    Component {
-        id: alert
-        AlertDialog { alert: loader.screen as AlertItem }
-    }
-    Component {
-        id: actionSheet
-        ActionSheet { alert: loader.screen as AlertItem }
     }
 }
