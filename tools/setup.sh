@@ -11,7 +11,7 @@ run=(libqt6svg6 qt6-image-formats-plugins qt6-wayland dbus xdg-utils ca-certific
      qml6-module-qtquick-layouts qml6-module-qtquick-shapes
      fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji)
 test=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev qml6-module-qttest
-      xvfb xauth libgl1-mesa-dri dunst desktop-file-utils clang-format tzdata locales)
+      xvfb xauth libgl1-mesa-dri dunst desktop-file-utils clang libclang-rt-dev clang-format tzdata locales)
 
 case "${1:-}" in
     build) wanted=("${build[@]}") ;;
