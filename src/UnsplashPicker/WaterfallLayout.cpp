@@ -32,11 +32,11 @@ void WaterfallLayout::prepare(int count, ui::Size, ui::Size bounds) {
     width_ = bounds.width;
     pagingViewFrame_.reset();
     frames_.clear();
+    lowestEdgeUpTo_.clear();
     contentHeight_ = 0;
     const auto sizes = delegate.lock();
     if (sizes && rawColumnCount() >= 1)
         place(count, *sizes);
-    indexEdges();
 }
 
 void WaterfallLayout::place(int count, WaterfallLayoutDelegate& sizes) {
@@ -49,15 +49,20 @@ void WaterfallLayout::place(int count, WaterfallLayoutDelegate& sizes) {
     const std::span heights(allHeights.data(), static_cast<std::size_t>(columns));
     std::ranges::fill(heights, topInset);
 
-    frames_.reserve(static_cast<std::size_t>(count));
+    const double width = std::floor(columnWidth);
+    double lowestEdge = -std::numeric_limits<double>::infinity();
+    frames_.resize(static_cast<std::size_t>(count));
+    lowestEdgeUpTo_.resize(frames_.size());
     for (int item = 0; item < count; ++item) {
         const ui::Size size = sizes.waterfallSizeForItem(item);
         const auto shortest = std::ranges::min_element(heights);
         const auto column = static_cast<double>(shortest - heights.begin());
         const double x = columns == 1 ? 0 : (columnWidth + spacing) * column + layoutMargins().left;
-        frames_.push_back(
-            {x, *shortest, std::floor(columnWidth), std::floor(columnWidth * size.height / size.width)});
-        *shortest += frames_.back().height + spacing;
+        const ui::Rect frame{x, *shortest, width, std::floor(columnWidth * size.height / size.width)};
+        *shortest += frame.height + spacing;
+        lowestEdge = std::max(lowestEdge, frame.maxY());
+        frames_[static_cast<std::size_t>(item)] = frame;
+        lowestEdgeUpTo_[static_cast<std::size_t>(item)] = lowestEdge;
     }
     contentHeight_ = std::ranges::max(heights);
     if (count > 0) {
@@ -65,17 +70,6 @@ void WaterfallLayout::place(int count, WaterfallLayoutDelegate& sizes) {
         contentHeight_ += pagingViewHeight;
     }
     contentHeight_ += spacing;
-}
-
-void WaterfallLayout::indexEdges() {
-    lowestEdgeUpTo_.resize(frames_.size());
-    highestEdgeFrom_.resize(frames_.size());
-    double edge = -std::numeric_limits<double>::infinity();
-    for (std::size_t item = 0; item < frames_.size(); ++item)
-        lowestEdgeUpTo_[item] = edge = std::max(edge, frames_[item].maxY());
-    edge = std::numeric_limits<double>::infinity();
-    for (std::size_t item = frames_.size(); item-- > 0;)
-        highestEdgeFrom_[item] = edge = std::min(edge, frames_[item].y);
 }
 
 ui::Size WaterfallLayout::contentSize() const {
@@ -92,7 +86,7 @@ ui::ItemRange WaterfallLayout::itemsIn(const ui::Rect& visible) const {
     const auto meets = [&](const ui::Rect& frame) { return frame.intersects(visible); };
     // What ends above the rectangle or begins below it cannot meet it.
     const auto above = std::ranges::upper_bound(lowestEdgeUpTo_, visible.minY()) - lowestEdgeUpTo_.begin();
-    const auto below = std::ranges::lower_bound(highestEdgeFrom_, visible.maxY()) - highestEdgeFrom_.begin();
+    const auto below = std::ranges::lower_bound(frames_, visible.maxY(), {}, &ui::Rect::y) - frames_.begin();
     const int count = static_cast<int>(frames_.size());
     if (above >= below)
         return {0, count};

@@ -52,16 +52,15 @@ private:
     [[nodiscard]] int rawColumnCount() const;
     [[nodiscard]] double contentWidth() const;
     void place(int count, WaterfallLayoutDelegate& sizes);
-    void indexEdges();
 
     Console& console_;
     double width_ = 0;
     double contentHeight_ = 0;
     std::vector<ui::Rect> frames_;
     std::optional<ui::Rect> pagingViewFrame_;
-    // Rising numbers to find the first and the last visible item by bisection.
-    std::vector<double> lowestEdgeUpTo_;  ///< the largest maxY of the items up to this one
-    std::vector<double> highestEdgeFrom_; ///< the smallest y of this item and those behind it
+    /// The largest maxY of the items up to each one: it rises, as the tops of the items do by themselves, so
+    /// that the first and the last visible item are found by bisection.
+    std::vector<double> lowestEdgeUpTo_;
 };
 
 } // namespace tessivo::unsplash
