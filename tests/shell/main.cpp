@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 namespace {
 
 /// A complaint of QML is a fault in whatever test it comes up.
@@ -18,7 +20,9 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     qputenv("LC_ALL", "en_US.UTF-8");
     qputenv("TZ", "Europe/Berlin");
-    qputenv("QT_QPA_PLATFORM", "offscreen"); // also where the tests are only listed
+    // Without a display, also where the tests are only listed; or with one, and so through OpenGL.
+    if (argc < 2 || std::strcmp(argv[1], "--on-display") != 0)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
     QFont font;
     font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Noto Color Emoji")});
