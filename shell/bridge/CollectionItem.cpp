@@ -3,6 +3,12 @@
 #include <algorithm>
 
 namespace tessivo::shell {
+namespace {
+
+/// So many cells that have left the screen keep their drawing: in a scrolled list they soon return.
+constexpr int maximumParked = 8;
+
+} // namespace
 
 CellItem::CellItem(std::shared_ptr<ui::CollectionViewCell> cell, const BridgeContext& context,
                    QObject* parent)
@@ -29,9 +35,19 @@ void CellItem::follow() {
         Q_EMIT attachedChanged();
 }
 
-void CellItem::setItem(int item) {
-    if (std::exchange(item_, item) != item)
-        Q_EMIT itemChanged();
+void CellItem::show(int item) {
+    become(item, true);
+}
+
+void CellItem::park() {
+    become(none, false);
+}
+
+void CellItem::become(int item, bool seen) {
+    if (std::exchange(item_, item) == item && seen_ == seen)
+        return;
+    seen_ = seen;
+    Q_EMIT itemChanged();
 }
 
 CellModel::CellModel(ui::CollectionView& collection, const BridgeContext& context, QObject* parent)
@@ -54,33 +70,39 @@ QHash<int, QByteArray> CellModel::roleNames() const {
 }
 
 void CellModel::update() {
-    const auto& visible = collection_.visibleCells();
-    const auto itemOf = [&](const CellItem& row) { return collection_.itemFor(row.cell()); };
-    for (std::size_t row = rows_.size(); row > 0; --row) {
-        if (itemOf(*rows_[row - 1]))
-            continue;
-        const int index = static_cast<int>(row) - 1;
-        beginRemoveRows({}, index, index);
-        rows_[row - 1]->deleteLater();
-        rows_.erase(rows_.begin() + index);
+    int row = 0;
+    for (const auto& cell : collection_.leavingCells())
+        show(cell, CellItem::none, row++);
+    for (const auto& [item, cell] : collection_.visibleCells())
+        show(cell, item, row++);
+    park(row);
+}
+
+void CellModel::show(const std::shared_ptr<ui::CollectionViewCell>& cell, int item, int row) {
+    const auto found =
+        std::ranges::find_if(rows_, [&](const CellItem* held) { return &held->cell() == cell.get(); });
+    if (found != rows_.end()) {
+        (*found)->show(item);
+        bringTo(row, static_cast<int>(found - rows_.begin()));
+        return;
+    }
+    auto* added = new CellItem(cell, context_, this);
+    added->show(item);
+    beginInsertRows({}, row, row);
+    rows_.insert(rows_.begin() + row, added);
+    endInsertRows();
+}
+
+void CellModel::park(int first) {
+    const int last = std::min(first + maximumParked, static_cast<int>(rows_.size())) - 1;
+    for (int row = static_cast<int>(rows_.size()) - 1; row > last; --row) {
+        beginRemoveRows({}, row, row);
+        rows_.back()->deleteLater();
+        rows_.pop_back();
         endRemoveRows();
     }
-    int index = 0;
-    for (const auto& [item, cell] : visible) {
-        const auto found =
-            std::ranges::find_if(rows_, [&](const CellItem* row) { return &row->cell() == cell.get(); });
-        if (found == rows_.end()) {
-            auto* added = new CellItem(cell, context_, this);
-            added->setItem(item);
-            beginInsertRows({}, index, index);
-            rows_.insert(rows_.begin() + index, added);
-            endInsertRows();
-        } else {
-            (*found)->setItem(item);
-            bringTo(index, static_cast<int>(found - rows_.begin()));
-        }
-        ++index;
-    }
+    for (int row = first; row <= last; ++row)
+        rows_[static_cast<std::size_t>(row)]->park();
 }
 
 void CellModel::bringTo(int index, int row) {
@@ -115,7 +137,10 @@ CollectionItem::CollectionItem(ui::CollectionView& collection, const BridgeConte
 
 void CollectionItem::setSurroundings(double top, double sides) {
     collection_.setSafeAreaInsets({top, 0, 0, 0});
-    collection_.layout().setLayoutMargins({0, sides, 0, sides});
+    const ui::Insets margins{0, sides, 0, sides};
+    if (collection_.layout().layoutMargins() == margins)
+        return;
+    collection_.layout().setLayoutMargins(margins);
     collection_.invalidateLayout();
 }
 

@@ -19,20 +19,28 @@ class CellItem final : public ViewItem {
     QML_ELEMENT
     QML_UNCREATABLE("Cells belong to the program")
     Q_PROPERTY(int item READ item NOTIFY itemChanged FINAL)
+    Q_PROPERTY(bool seen READ seen NOTIFY itemChanged FINAL)
     Q_PROPERTY(bool selected READ selected NOTIFY contentChanged FINAL)
     Q_PROPERTY(bool highlighted READ highlighted NOTIFY contentChanged FINAL)
     Q_PROPERTY(QList<tessivo::shell::LooseViewItem*> attached READ attached NOTIFY attachedChanged FINAL)
 
 public:
+    static constexpr int none = -1;
+
     CellItem(std::shared_ptr<ui::CollectionViewCell> cell, const BridgeContext& context, QObject* parent);
 
     [[nodiscard]] const ui::CollectionViewCell& cell() const { return *cell_; }
+    /// `none` for a cell that shows none any more.
     [[nodiscard]] int item() const { return item_; }
+    /// Whether it is drawn. A cell off the screen is not; that of a deleted item is, until it has faded.
+    [[nodiscard]] bool seen() const { return seen_; }
     [[nodiscard]] bool selected() const { return cell_->isSelected(); }
     [[nodiscard]] bool highlighted() const { return cell_->isHighlighted(); }
     /// What stands in the content without a name of its own.
     [[nodiscard]] QList<LooseViewItem*> attached() const { return attached_; }
-    void setItem(int item);
+    void show(int item);
+    /// The cell has left the screen.
+    void park();
     Q_INVOKABLE tessivo::shell::ViewItem* control(const QString& name) { return controls_.control(name); }
 
 Q_SIGNALS:
@@ -42,15 +50,18 @@ Q_SIGNALS:
 private:
     std::shared_ptr<ui::CollectionViewCell> cell_;
     void follow();
+    void become(int item, bool seen);
 
     ItemSet controls_;
     QList<LooseViewItem*> attached_;
     Subscription contentChanges_;
-    int item_ = -1;
+    int item_ = none;
+    bool seen_ = false;
 };
 
-/// The cells on the screen, in the order of their items: the keyboard walks through them. Rows keep their
-/// cell while it is on the screen, so that QML keeps its drawing.
+/// The cells on the screen, in the order of their items: the keyboard walks through them. Before them, and so
+/// under them, come those of deleted items that fade; behind them some that have left the screen. Rows keep
+/// their cell, so that QML keeps its drawing.
 class CellModel final : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -72,6 +83,9 @@ private:
     /// Brings a row forward to `index`, with as few moves as may be. All rows before that are in order.
     void bringTo(int index, int row);
     void moveRow(int from, int to);
+    void show(const std::shared_ptr<ui::CollectionViewCell>& cell, int item, int row);
+    /// The rows from `first` on hold cells that are off the screen.
+    void park(int first);
 
     ui::CollectionView& collection_;
     const BridgeContext& context_;

@@ -23,6 +23,7 @@ public:
 
     /// The room that the window wants kept free at the edges of the content. A layout may have no use for it.
     void setLayoutMargins(Insets margins) { margins_ = margins; }
+    [[nodiscard]] Insets layoutMargins() const { return margins_; }
 
     /// Works out all frames for `count` items of `itemSize` in a collection as large as `bounds`. Called
     /// before anything is asked.
@@ -31,9 +32,6 @@ public:
     [[nodiscard]] virtual Rect frame(int item) const = 0;
     /// The items to show while `visible` is on the screen.
     [[nodiscard]] virtual ItemRange itemsIn(const Rect& visible) const = 0;
-
-protected:
-    [[nodiscard]] Insets layoutMargins() const { return margins_; }
 
 private:
     Insets margins_;

@@ -126,6 +126,27 @@ TEST_F(DrawnCollection, AReloadKeepsTheDrawingOfEachCell) {
     ASSERT_TRUE(runUntil([&] { return drawnNumbers() == from(0, 2); }));
 }
 
+TEST_F(DrawnCollection, TheCellOfADeletedItemFadesWhereItStood) {
+    screen->view().addSubview(collection);
+    const auto second = [&]() -> const QQuickItem* {
+        for (const auto* drawing : drawings()) {
+            if (drawing->property("text").toInt() == 1)
+                return drawing;
+        }
+        return nullptr;
+    };
+    collection.deleteItem(1);
+    timeline.advance(Seconds(0.15));
+    const auto* fading = second();
+    ASSERT_NE(fading, nullptr);
+    EXPECT_EQ(fading->y(), rowHeight);
+    EXPECT_LT(fading->opacity(), 0.9);
+    timeline.advance(Seconds(0.3));
+    EXPECT_EQ(second(), nullptr);
+    EXPECT_EQ(drawings().size(), 7U);
+    collection.removeFromSuperview();
+}
+
 TEST_F(DrawnCollection, ATapSelectsTheItemUnderIt) {
     collection.scrollToItem(42);
     ASSERT_TRUE(runUntil([&] { return drawnNumbers().contains(42); }));

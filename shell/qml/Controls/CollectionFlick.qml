@@ -65,6 +65,10 @@ Flickable {
     Repeater {
         model: flick.collection.cells
         delegate: flick.delegate
+        onItemAdded: (index, item) => {
+            item.visible = Qt.binding(() => item.cell?.seen ?? false); // null while both go
+            item.opacity = Qt.binding(() => item.cell?.alpha ?? 1);
+        }
     }
     TouchSurface {
         width: Math.max(flick.contentWidth, flick.width)
