@@ -7,6 +7,7 @@
 #include <QImage>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tessivo {
 namespace {
@@ -173,6 +174,26 @@ TEST_F(PhotosTest, ALatePictureFadesInOverItsTint) {
     timeline.advance(Seconds(0.2));
     EXPECT_TRUE(seen(first, Qt::red));
     EXPECT_TRUE(seen(middleOfPhoto(1).toPoint(), QColor(0x33, 0x66, 0x99))) << "which is not there yet";
+}
+
+TEST_F(PhotosTest, TheNameCanBeReadOnAWhitePhoto) {
+    showPhotos(1);
+    answer("i.test/p1?", "white");
+    timeline.advance(Seconds(1));
+    ASSERT_TRUE(seen(middleOfPhoto(0).toPoint(), Qt::white));
+    const auto luminance = [](QColor color) {
+        const auto linear = [](double part) {
+            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+               0.0722 * linear(color.blueF());
+    };
+    const ui::Rect frame = screen().layout().frame(0);
+    const QPointF foot = middleOfPhoto(0) + QPointF(frame.width / 2 - 20, frame.height / 2);
+    for (const int height : {10, 16, 22}) { // of the letters, which end well before the edge
+        const QColor behind = window.grabWindow().pixelColor((foot - QPointF(0, height)).toPoint());
+        EXPECT_GE(1.05 / (luminance(behind) + 0.05), 4.5) << "at " << height;
+    }
 }
 
 TEST_F(PhotosTest, ACellThatComesBackShowsItsOwnPicture) {

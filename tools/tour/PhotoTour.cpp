@@ -1,6 +1,5 @@
 // The part of the tour that goes through the photo browser.
 
-#include "DemoPhotos.h"
 #include "Tour.h"
 #include "UnsplashPicker/PhotoCell.h"
 #include "UnsplashPicker/UnsplashPicker.h"

@@ -23,11 +23,10 @@ constexpr double dayShares[] = {0.12, 0.47, 0.85};
 
 } // namespace
 
-Tour::Tour(Composition& program, const Stage& stage, const QDir& pictures, DemoPhotos& photos)
+Tour::Tour(Composition& program, const Stage& stage, const QDir& pictures)
     : program_(program),
       stage_(stage),
       pictures_(pictures),
-      photos_(photos),
       window_(*program.shell().window()),
       finger_(window_) {}
 

@@ -7,7 +7,6 @@
 
 namespace tessivo {
 class Composition;
-class DemoPhotos;
 namespace unsplash {
 class UnsplashPickerViewController;
 }
@@ -18,7 +17,7 @@ namespace tessivo::tour {
 /// One walk through the program on one stage, as a user would take it.
 class Tour {
 public:
-    Tour(Composition& program, const Stage& stage, const QDir& pictures, DemoPhotos& photos);
+    Tour(Composition& program, const Stage& stage, const QDir& pictures);
 
     void run();
 
@@ -59,7 +58,6 @@ private:
     Composition& program_;
     const Stage& stage_;
     QDir pictures_;
-    DemoPhotos& photos_;
     QQuickWindow& window_;
     Finger finger_;
     int count_ = 0;

@@ -50,7 +50,7 @@ int playStage(QGuiApplication& application, const Stage& stage, const QDir& pict
     const std::string folder = data.path().toStdString();
     Composition program({folder, folder + "/cache", stage.language, [] {}, photos.address()}, clock, console);
     program.start();
-    Tour(program, stage, pictures, photos).run();
+    Tour(program, stage, pictures).run();
     application.processEvents();
     return complaints == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
