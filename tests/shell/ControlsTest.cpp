@@ -1,5 +1,6 @@
 #include "Interface/AlertController.h"
 #include "Interface/DatePicker.h"
+#include "UnsplashPicker/UnsplashPickerPreviewViewController.h"
 #include "icu/IcuCalendar.h"
 #include "icu/IcuDateFormatters.h"
 #include "shell/ControlWindow.h"
@@ -185,6 +186,50 @@ TEST_F(ControlWindow, AnAlertStaysUntilItIsAnswered) {
     hand.tap(QStringLiteral("Yes"));
     EXPECT_THAT(answers, ElementsAre("Yes"));
     EXPECT_EQ(stack.top(), screen.get());
+}
+
+class DrawnSheet : public ControlWindow {
+protected:
+    static constexpr double height = 300;
+
+    ~DrawnSheet() override { undraw(); }
+
+    /// Shows a sheet and waits until it has risen.
+    void show() {
+        stack.setRoot(screen);
+        sheet = std::make_shared<unsplash::UnsplashPickerPreviewViewController>(windowContext, ui::Image{});
+        sheet->modalPresentationStyle = ui::PresentationStyle::Sheet;
+        sheet->sheetPresentation.height = height;
+        screen->present(sheet, false);
+        draw(*sheet, "Sheet { anchors.fill: parent; screen: root.screen }");
+        ASSERT_TRUE(runUntil([&] { return top() == window.height() - height; }));
+    }
+    [[nodiscard]] double top() const {
+        const auto* close = hand.find(QStringLiteral("Close")); // the sheet's content, below its handle
+        return close ? close->mapToScene({0, 0}).y() - 8 : 0;
+    }
+    [[nodiscard]] bool hasGone() const { return stack.top() == screen.get(); }
+    void dragDownBy(double way) {
+        const QPointF handle(195, window.height() - height + 4);
+        hand.drag(handle, handle + QPointF(0, way));
+    }
+
+    std::shared_ptr<ui::ViewController> sheet;
+};
+
+TEST_F(DrawnSheet, ReturnsFromAShortDragAndGoesByALongOne) {
+    show();
+    dragDownBy(40);
+    EXPECT_TRUE(runUntil([&] { return top() == window.height() - height; }));
+    EXPECT_FALSE(hasGone());
+    dragDownBy(200);
+    EXPECT_TRUE(runUntil([&] { return hasGone(); }));
+}
+
+TEST_F(DrawnSheet, GoesByATapBesideIt) {
+    show();
+    hand.tapAt({195, 100});
+    EXPECT_TRUE(runUntil([&] { return hasGone(); }));
 }
 
 TEST_F(ControlWindow, ADisabledButtonTakesNoTouchAndNoKey) {

@@ -44,6 +44,8 @@ FocusScope {
             drag.axis: Drag.YAxis
             drag.minimumY: sheet.height - sheet.wanted
             drag.maximumY: sheet.height
+            onPressed: rise.stop() // a sheet on its way stays with the finger that takes it
+            onCanceled: rise.restart()
             onReleased: {
                 if (panel.y > sheet.height - sheet.wanted * 0.7)
                     sheet.close();
@@ -71,8 +73,10 @@ FocusScope {
                 focus: true
             }
         }
-        NumberAnimation on y {
+        NumberAnimation {
             id: rise
+            target: panel
+            property: "y"
             to: sheet.height - sheet.wanted
             duration: Theme.calm
             easing.type: Easing.OutCubic
@@ -87,5 +91,11 @@ FocusScope {
             onFinished: sheet.screen.dismiss()
         }
     }
-    onHeightChanged: if (!rise.running && !sink.running) panel.y = height - wanted
+    Component.onCompleted: rise.start()
+    onHeightChanged: {
+        if (rise.running)
+            rise.restart();
+        else if (!sink.running)
+            panel.y = height - wanted;
+    }
 }
