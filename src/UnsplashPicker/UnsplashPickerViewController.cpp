@@ -62,6 +62,7 @@ void UnsplashPickerViewController::viewDidLoad() {
     cancelBarButtonItem.setAccessibilityName(services_.text("cancel"));
     cancelBarButtonItem.addTarget(ui::PressEvent::UpInside, [this] { cancelBarButtonTapped(); });
     doneBarButtonItem.setTitle(services_.text("done"));
+    doneBarButtonItem.setTitleColor(ui::ColorRef::named("button"));
     doneBarButtonItem.setEnabled(false);
     doneBarButtonItem.setHidden(!services_.configuration().allowsMultipleSelection);
     doneBarButtonItem.addTarget(ui::PressEvent::UpInside, [this] { doneBarButtonTapped(); });

@@ -30,7 +30,7 @@ FocusScope {
     Keys.onMenuPressed: list.collection.openMenu(cell.item, x + width / 2, y + height / 2)
     Accessible.role: Accessible.Button
     Accessible.name: photoView.accessibleName
-    Accessible.checked: cell.selected
+    Accessible.selected: cell.selected
     Accessible.onPressAction: choose()
     Behavior on scale { NumberAnimation { duration: Theme.quick } }
 
