@@ -15,10 +15,11 @@
 #include "qt/QtTextMeasuring.h"
 #include "qt/QtTimers.h"
 #include "qtdesktop/QtLinkOpener.h"
+#include "qtdesktop/QtPhotoLibrary.h"
+#include "qtdesktop/QtPictureSharing.h"
 #include "qtimage/QtImageCoding.h"
 #include "qtnetwork/QtHttpClient.h"
 #include "qtnetwork/QtResponseCaches.h"
-#include "qtsharing/QtPictureSharing.h"
 #include "shell/Shell.h"
 #include "shell/bridge/QuickSnapshots.h"
 #include "sqlite/SqliteEventStore.h"
@@ -98,6 +99,7 @@ private:
     ThreadWorkQueue background_;
     QtHttpClient http_;
     QtPictureSharing pictureSharing_;
+    QtPhotoLibrary photoLibrary_{QDBusConnection::sessionBus()};
     shell::QuickSnapshots snapshots_;
 
     // The program.

@@ -4,6 +4,7 @@
 #include "bridge/ButtonItem.h"
 #include "bridge/CollectionItem.h"
 #include "bridge/LabelItem.h"
+#include "bridge/ScrollItem.h"
 #include "bridge/TextInputItem.h"
 #include "bridge/ValueItems.h"
 
@@ -39,6 +40,8 @@ ViewItem* ItemSet::make(ui::View& view) const {
         return new ActivityItem(*spinner, context_, owner_);
     if (auto* collection = dynamic_cast<ui::CollectionView*>(&view))
         return new CollectionItem(*collection, context_, owner_);
+    if (auto* scroll = dynamic_cast<ui::ScrollView*>(&view))
+        return new ScrollItem(*scroll, context_, owner_);
     return new ViewItem(view, context_, owner_);
 }
 

@@ -1,6 +1,7 @@
 #include "bridge/PicturePaint.h"
 
 #include "bridge/BitmapImage.h"
+#include "bridge/PictureFit.h"
 
 #include <QQuickWindow>
 #include <QSGImageNode>
@@ -8,25 +9,10 @@
 namespace tessivo::shell {
 namespace {
 
-QSizeF fitted(QSizeF picture, QSizeF area, ui::ContentMode mode) {
-    switch (mode) {
-    case ui::ContentMode::ScaleToFill:
-        return area;
-    case ui::ContentMode::AspectFit:
-        return picture.scaled(area, Qt::KeepAspectRatio);
-    case ui::ContentMode::AspectFill:
-        return picture.scaled(area, Qt::KeepAspectRatioByExpanding);
-    case ui::ContentMode::Center:
-        return picture;
-    }
-    return area;
-}
-
 /// Puts the part of the picture that meets `area` where it belongs.
 void place(QSGImageNode& node, const QRectF& area, ui::ContentMode mode) {
     const QSizeF picture = node.texture()->textureSize();
-    QRectF whole({}, fitted(picture, area.size(), mode));
-    whole.moveCenter(area.center());
+    const QRectF whole = fitted(picture, area, mode);
     const QRectF seen = whole & area;
     const double x = picture.width() / whole.width();
     const double y = picture.height() / whole.height();

@@ -43,11 +43,13 @@ void EventBackgroundViewController::viewDidLoad() {
     eventFormatter = platform().dateFormatters.make(fullFormat);
     buildFrame("Background", "steps4", texts().done);
     nextButton.addTarget(ui::PressEvent::UpInside, [this] { doneButtonTapped(); });
+    buildRow(photosButton, "Photo Library");
+    photosButton.addTarget(ui::PressEvent::UpInside, [this] { photosButtonTapped(); });
     buildRow(imagesButton, "Image by Unsplash");
     imagesButton.addTarget(ui::PressEvent::UpInside, [this] { imagesButtonTapped(); });
-    for (ui::View* row : std::initializer_list<ui::View*>{&previewLabel, &eventView, &imagesLabel,
-                                                          &imagesButton, &colorsLabel, &colorCollection,
-                                                          &gradientsLabel, &gradientCollection})
+    for (ui::View* row : std::initializer_list<ui::View*>{
+             &previewLabel, &eventView, &photosLabel, &photosButton, &imagesLabel, &imagesButton,
+             &colorsLabel, &colorCollection, &gradientsLabel, &gradientCollection})
         view().addSubview(*row);
     // Confirming at once must give a whole event, so a background is chosen from the start.
     if (!eventData)
@@ -160,6 +162,29 @@ void EventBackgroundViewController::chooseGradient(int row) {
 void EventBackgroundViewController::reloadStrips() {
     colorCollection.reloadData();
     gradientCollection.reloadData();
+}
+
+void EventBackgroundViewController::photosButtonTapped() {
+    const auto picker = std::make_shared<ImagePickerController>(services());
+    picker->delegate = weakSelf<ImagePickerControllerDelegate>(this);
+    present(picker);
+}
+
+void EventBackgroundViewController::imagePickerControllerDidFinishPickingMedia(ImagePickerController& picker,
+                                                                               const PickedMedia& info) {
+    if (!info.editedImage)
+        platform().console.stopProgram("The photo library gave no edited picture.");
+    const bool hasAddress = info.imageURL && Url::parse(*info.imageURL);
+    eventData->photoPath = hasAddress ? info.imageURL : std::nullopt;
+    eventData->gradient = NO_VALUE;
+    eventData->color = NO_VALUE;
+    eventData->unsplashPath.reset();
+    eventView.photoView.setContentMode(ui::ContentMode::AspectFill);
+    eventView.photoView.setImage(*info.editedImage);
+    selectedColorIndexPath.reset();
+    selectedGradientIndexPath.reset();
+    reloadStrips();
+    picker.dismiss();
 }
 
 void EventBackgroundViewController::imagesButtonTapped() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AddEventVC/ImagePickerController.h"
 #include "AddEventVC/Label.h"
 #include "AddEventVC/UnsplahImageView.h"
 #include "AddEventVC/WizardScreen.h"
@@ -16,7 +17,8 @@ class EventBackgroundViewController final : public WizardScreen,
                                             public ui::CollectionViewDataSource,
                                             public ui::CollectionViewDelegate,
                                             public unsplash::UnsplashPickerDelegate,
-                                            public FullScreenImageDelegate {
+                                            public FullScreenImageDelegate,
+                                            public ImagePickerControllerDelegate {
 public:
     explicit EventBackgroundViewController(SharedServices& services);
 
@@ -31,6 +33,8 @@ public:
 
     EventView eventView;
     InfoLabel previewLabel{controls, "previewLabel", "Preview"};
+    InfoLabel photosLabel{controls, "photosLabel", "Photos"};
+    ui::Button photosButton{controls, "photosButton"};
     InfoLabel imagesLabel{controls, "imagesLabel", "Images"};
     ui::Button imagesButton{controls, "imagesButton"};
     InfoLabel colorsLabel{controls, "colorsLabel", "Solid Colors"};
@@ -41,6 +45,8 @@ public:
     [[nodiscard]] std::string screenName() const override { return "EventBackgroundViewController"; }
 
     void doneButtonTapped();
+    /// Opens the user's photo library.
+    void photosButtonTapped();
     /// Opens the photo browser.
     void imagesButtonTapped();
 
@@ -53,6 +59,10 @@ public:
     void photoPickerDidSelect(unsplash::UnsplashPicker& picker, const unsplash::Photos& photos) override;
     void photoPickerDidCancel(unsplash::UnsplashPicker&) override {}
     void didCrop(const ui::Image& image, const std::optional<std::string>& urlString) override;
+    /// Takes the edited picture for the preview; without one the program stops.
+    void imagePickerControllerDidFinishPickingMedia(ImagePickerController& picker,
+                                                    const PickedMedia& info) override;
+    void imagePickerControllerDidCancel(ImagePickerController& picker) override { picker.dismiss(); }
 
 protected:
     void viewDidLoad() override;

@@ -23,6 +23,8 @@ void UnsplahImageView::viewDidLoad() {
     saveButton.setTitleColor(ui::ColorRef::named("button"));
     saveButton.addTarget(ui::PressEvent::UpInside, [this] { saveButtonTapped(); });
     photographerButton.setTitle(photographer.value_or(""));
+    if (!photographer)
+        photographerButton.setAccessibilityName("Photographer");
     photographerButton.setTitleColor(ui::ColorRef::white());
     photographerButton.setImageName("photographer");
     photographerButton.setBackgroundColor(ui::ColorRef::black());

@@ -1,5 +1,7 @@
 #include "Interface/ScrollView.h"
 
+#include <algorithm>
+
 namespace tessivo::ui {
 
 ScrollView::ScrollView() {
@@ -23,6 +25,33 @@ void ScrollView::setContentInset(Insets insets) {
 void ScrollView::setContentOffset(Point offset) {
     scrolledTo(offset);
     scrollRequests_.emit(offset);
+}
+
+void ScrollView::setZoomedContent(Size size, double maximumScale) {
+    naturalSize_ = size;
+    maximumZoomScale_ = maximumScale;
+    zoomedTo(1, {});
+}
+
+void ScrollView::zoomedTo(double scale, Point anchor) {
+    const double former = zoomScale_;
+    zoomScale_ = std::clamp(scale, 1.0, maximumZoomScale_);
+    const Size size{naturalSize_.width * zoomScale_, naturalSize_.height * zoomScale_};
+    if (zoomedView_)
+        zoomedView_->setFrame({0, 0, size.width, size.height});
+    setContentSize(size);
+    const double growth = zoomScale_ / former;
+    const Point offset = contentOffset();
+    scrolledTo(nearestOffset(
+        {(offset.x + anchor.x) * growth - anchor.x, (offset.y + anchor.y) * growth - anchor.y}));
+}
+
+Point ScrollView::nearestOffset(Point offset) const {
+    const auto within = [](double value, double content, double frame) {
+        return std::clamp(value, 0.0, std::max(0.0, content - frame));
+    };
+    return {within(offset.x, contentSize_.width, bounds().width),
+            within(offset.y, contentSize_.height, bounds().height)};
 }
 
 void ScrollView::scrolledTo(Point offset) {

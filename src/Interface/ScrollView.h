@@ -20,6 +20,20 @@ public:
     void setContentOffset(Point offset);
     /// The window has been scrolled by the user.
     void scrolledTo(Point offset);
+
+    // Zooming: one view fills the content and is enlarged with it.
+    /// Nothing before `setZoomedContent`. Not owned.
+    void setZoomedView(View* view) { zoomedView_ = view; }
+    /// The content is that large at the scale 1, which it has now, and can be enlarged up to `maximumScale`.
+    void setZoomedContent(Size size, double maximumScale);
+    [[nodiscard]] double zoomScale() const { return zoomScale_; }
+    /// The user enlarges the content to `scale`, held within 1 and the maximum, while the point of the
+    /// content under `anchor` (in the frame, from its upper left corner) stays there, as far as the content
+    /// reaches.
+    void zoomedTo(double scale, Point anchor);
+    /// The offset nearest to `offset` at which the content fills the frame.
+    [[nodiscard]] Point nearestOffset(Point offset) const;
+
     /// The safe area as it falls on this view.
     [[nodiscard]] Insets safeAreaInsets() const { return safeAreaInsets_; }
     void setSafeAreaInsets(Insets insets) { safeAreaInsets_ = insets; }
@@ -37,6 +51,10 @@ protected:
 
 private:
     Size contentSize_;
+    Size naturalSize_; ///< of the content at the scale 1
+    View* zoomedView_ = nullptr;
+    double zoomScale_ = 1;
+    double maximumZoomScale_ = 1;
     Insets contentInset_;
     Insets safeAreaInsets_;
     std::shared_ptr<PanGestureRecognizer> pan_ = std::make_shared<PanGestureRecognizer>();

@@ -65,12 +65,22 @@ ui::Image EventImages::showUnsplashImage(const std::string& urlText, ui::Size dr
 
 void EventImages::loadPhoto(const std::string& photoPath, ui::Size drawn,
                             std::function<void(ui::Image)> show) const {
+    readPhoto(photoPath, drawn, [show = std::move(show)](ui::Image image) {
+        if (image.isSet())
+            show(std::move(image));
+    });
+}
+
+void EventImages::readPhoto(const std::string& photoPath, ui::Size drawn,
+                            std::function<void(ui::Image)> read) const {
     const auto received = [platform = platform_, pixels = pixelsFor(drawn, screen_),
-                           show = std::move(show)](const Result<HttpResponse>& answer) {
-        if (!answer)
-            return platform.console.print("Ошибка загрузки изображения: " + answer.error().description);
-        if (const ui::Image image{{}, platform.images.decode(answer.value().body, pixels)}; image.isSet())
-            platform.mainQueue.post([show, image] { show(image); });
+                           read = std::move(read)](const Result<HttpResponse>& answer) {
+        ui::Image image;
+        if (answer)
+            image.bitmap = platform.images.decode(answer.value().body, pixels);
+        else
+            platform.console.print("Ошибка загрузки изображения: " + answer.error().description);
+        platform.mainQueue.post([read, image] { read(image); });
     };
     platform_.http.start({.url = photoPath}, received);
 }

@@ -39,6 +39,9 @@ public:
     /// address that gives no picture.
     void loadPhoto(const std::string& photoPath, ui::Size drawn, std::function<void(ui::Image)> show) const;
 
+    /// The same, but `read` always hears how it ended: of an address that gives no picture, without one.
+    void readPhoto(const std::string& photoPath, ui::Size drawn, std::function<void(ui::Image)> read) const;
+
 private:
     const Platform& platform_;
     const ui::MainScreen& screen_;

@@ -16,6 +16,7 @@ class LocalizedTexts;
 class MainQueue;
 class NamedColors;
 class NotificationCenter;
+class PhotoLibrary;
 class PictureSharing;
 class ResponseCaches;
 class SavedSettings;
@@ -54,6 +55,7 @@ struct Platform {
     LinkOpener& links;
     ui::ViewSnapshots& snapshots;
     PictureSharing& pictureSharing;
+    PhotoLibrary& photoLibrary;
     const LocalizedTexts* photoTexts; ///< the photo browser's own; null where they were not found
 };
 

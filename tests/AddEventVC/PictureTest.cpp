@@ -6,6 +6,7 @@
 #include "MainVC/EventCell.h"
 #include "Support/EventImages.h"
 #include "UnsplashPicker/PickerServices.h"
+#include "support/Pictures.h"
 #include "support/Program.h"
 #include "support/Wizard.h"
 
@@ -18,20 +19,6 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-/// Columns of a picture have a red of ten times their number.
-Bitmap stripes(int width, int height) {
-    Bitmap bitmap{width, height, {}};
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x)
-            bitmap.pixels.insert(bitmap.pixels.end(), {static_cast<std::uint8_t>(x * 10), 0, 0, 255});
-    }
-    return bitmap;
-}
-
-int redAt(const Bitmap& bitmap, int x) {
-    return bitmap.pixels[static_cast<std::size_t>(x) * 4];
-}
 
 TEST(PictureCrop, GrowsToWholePixelsAndIsCutToThePicture) {
     struct Case {

@@ -15,6 +15,7 @@
 #include "fakes/RecordingLinkOpener.h"
 #include "fakes/RecordingPictureSharing.h"
 #include "fakes/ScriptedHttpClient.h"
+#include "fakes/ScriptedPhotoLibrary.h"
 #include "fakes/Timeline.h"
 #include "icu/IcuCalendar.h"
 #include "icu/IcuDateFormatters.h"
@@ -71,6 +72,7 @@ public:
     fakes::RecordingLinkOpener links;
     fakes::CannedSnapshots snapshots{timeline};
     fakes::RecordingPictureSharing pictureSharing;
+    fakes::ScriptedPhotoLibrary photoLibrary;
     QtImageCoding images;
     FolderDocumentFiles documents{folder / "documents"};
     ui::MainScreen screen{{390, 844}};
@@ -114,6 +116,7 @@ private:
                         program.links,
                         program.snapshots,
                         program.pictureSharing,
+                        program.photoLibrary,
                         &program.photoTexts_},
                        window, screens),
               stack(window) {

@@ -1,5 +1,9 @@
 // The part of the tour that goes through the photo browser.
 
+#include "AddEventVC/ImagePickerController.h"
+#include "AddEventVC/UnsplahImageView.h"
+#include "Interface/CollectionView.h"
+#include "Interface/TabBarController.h"
 #include "Tour.h"
 #include "UnsplashPicker/PhotoCell.h"
 #include "UnsplashPicker/UnsplashPicker.h"
@@ -26,6 +30,17 @@ bool isComplete(unsplash::UnsplashPickerViewController& screen) {
 }
 
 } // namespace
+
+template <class Screen>
+Screen& Tour::waitFor() {
+    const auto shown = [this] { return dynamic_cast<Screen*>(program_.stack().top()); };
+    if (!QTest::qWaitFor([&] { return shown() != nullptr; }, patience)) {
+        qCritical("The screen does not come");
+        std::exit(EXIT_FAILURE);
+    }
+    finger_.settle();
+    return *shown();
+}
 
 unsplash::UnsplashPickerViewController& Tour::photoScreen() const {
     return dynamic_cast<unsplash::UnsplashPicker&>(*program_.stack().top()).photoPickerViewController();
@@ -73,6 +88,45 @@ void Tour::browsePhotos() {
     searchPhotos(QStringLiteral("lost"));
     picture("photos-offline");
     finger_.press(Qt::Key_Escape);
+}
+
+void Tour::choosePhoto() {
+    openPhotos();
+    finger_.tapAt({window_.width() * 0.3, window_.height() / 2.0});
+    waitFor<UnsplahImageView>();
+    const QPointF middle(window_.width() / 2.0, window_.height() / 2.0);
+    finger_.drag(middle + QPointF(80, 0), middle - QPointF(80, 0));
+    picture("photo-crop");
+    finger_.tap(nameOf("saveButton"));
+    picture("background-photo");
+}
+
+void Tour::chooseFromLibrary() {
+    finger_.tap(nameOf("photosButton"));
+    const auto& picker = waitFor<ImagePickerController>();
+    if (!QTest::qWaitFor([&] { return picker.imageView.image().isSet(); }, patience)) {
+        qCritical("The photo does not come: %s", picker.messageLabel.text().c_str());
+        std::exit(EXIT_FAILURE);
+    }
+    const QPointF middle(window_.width() / 2.0, window_.height() / 2.0);
+    finger_.drag(middle, middle - QPointF(0, 20));
+    picture("photo-library");
+    finger_.tap(nameOf("chooseButton"));
+    picture("background-library");
+}
+
+void Tour::showPictureCards() {
+    auto& list =
+        dynamic_cast<ui::TabBarController&>(*program_.stack().top()).selectedViewController()->controls;
+    auto& cards = dynamic_cast<ui::CollectionView&>(*list.find("collection"));
+    cards.scrollToItem(cards.numberOfItems() - 1);
+    finger_.settle();
+    picture("picture-cards");
+    const double middle = window_.width() / 2.0;
+    const double height = window_.height() * 0.6;
+    finger_.drag({middle + 100, height}, {middle - 80, height});
+    picture("picture-card-open");
+    finger_.drag({middle - 80, height}, {middle + 100, height});
 }
 
 } // namespace tessivo::tour

@@ -38,9 +38,12 @@ void Tour::run() {
     addEvent({"Anna & Max: Wedding", 1, 2, 0, 2, 4, -1, false});
     addEvent({"A long-awaited trip!", -1, 0, 2, 3, -1, 8, false});
     addEvent({"Driving Test", 1, 0, 0, 0, 16, -1, false});
+    addEvent({"Walk in the Hills", 1, 1, 0, 1, -1, -1, false, Picture::Service});
+    addEvent({"Up Before the Sun", -1, 1, 1, 2, -1, -1, false, Picture::Library});
     finger_.tap(QStringLiteral("Future"));
     picture("future");
     swipeCard();
+    showPictureCards();
     addEvent({"First Day at Work", 0, -1, -2, 4, -1, 13, false});
     addEvent({"Moved House", -2, -1, 0, 1, 22, -1, false});
     finger_.tap(QStringLiteral("Past"));
@@ -86,7 +89,17 @@ void Tour::addEvent(const Wish& wish) {
     pictureIf(wish.inPictures, "background");
     if (wish.inPictures)
         browsePhotos();
-    chooseBackground(wish);
+    switch (wish.picture) {
+    case Picture::None:
+        chooseBackground(wish);
+        break;
+    case Picture::Service:
+        choosePhoto();
+        break;
+    case Picture::Library:
+        chooseFromLibrary();
+        break;
+    }
     finger_.tap(nameOf("nextButton"));
 }
 

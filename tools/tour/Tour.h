@@ -22,6 +22,8 @@ public:
     void run();
 
 private:
+    enum class Picture { None, Service, Library };
+
     /// An event to make, and whether to take pictures on the way.
     struct Wish {
         const char* title;
@@ -32,10 +34,13 @@ private:
         int color;    ///< item of the strip; -1 for none
         int gradient; ///< likewise
         bool inPictures;
+        Picture picture = Picture::None; ///< in place of colour and gradient
     };
 
     /// Opens the first card and looks at what its buttons lead to.
     void swipeCard();
+    /// Scrolls to the cards with pictures, and opens the last one.
+    void showPictureCards();
     void addEvent(const Wish& wish);
     void chooseDay(const Wish& wish);
     void chooseTimeAndRepeat(const Wish& wish);
@@ -43,8 +48,14 @@ private:
     void chooseBackground(const Wish& wish);
     /// From the background step: looks through the photos and leaves without one.
     void browsePhotos();
+    /// From the background step: a photo of the service, and one of the user's.
+    void choosePhoto();
+    void chooseFromLibrary();
     void openPhotos();
     void waitForPhotos();
+    /// The screen on top, once it is of that kind.
+    template <class Screen>
+    Screen& waitFor();
     void searchPhotos(const QString& text);
     [[nodiscard]] unsplash::UnsplashPickerViewController& photoScreen() const;
     void turnWheel(QRectF rowAbove, int wheel, int rows);

@@ -5,6 +5,7 @@
 #include "DemoPhotos.h"
 #include "Ports/Clock.h"
 #include "Stage.h"
+#include "StandInPhotoLibrary.h"
 #include "Tour.h"
 #include "app/Composition.h"
 #include "standard/StandardConsole.h"
@@ -43,6 +44,7 @@ public:
 /// The tour of one stage. Language and time zone belong to a process, so each stage has one of its own.
 int playStage(QGuiApplication& application, const Stage& stage, const QDir& pictures) {
     QTemporaryDir data;
+    const StandInPhotoLibrary photoLibrary;
     DemoPhotos photos;
     StandardConsole console;
     StillClock clock;

@@ -11,6 +11,11 @@ WizardFrame {
         width: parent.width
         height: step.height > 1000 ? step.height / 4.06 : 200
     }
+    SectionLabel { label: step.screen.control("photosLabel") as LabelItem }
+    ChevronRow {
+        button: step.screen.control("photosButton") as ButtonItem
+        width: parent.width
+    }
     SectionLabel { label: step.screen.control("imagesLabel") as LabelItem }
     ChevronRow {
         button: step.screen.control("imagesButton") as ButtonItem

@@ -16,6 +16,11 @@ CardPaint {
     Accessible.role: Accessible.StaticText
     Accessible.name: informationLabel.text + ", " + timeLabel.text
 
+    CardPicture {
+        anchors.fill: parent
+        view: card.screen.control("eventView.photoView") as ImageItem
+        radius: card.radius
+    }
     CardLabel {
         label: card.timeLabel
         anchors.top: parent.top

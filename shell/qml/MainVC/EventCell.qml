@@ -36,6 +36,11 @@ FocusScope {
         scale: card.cell.highlighted ? 0.985 : 1
         Behavior on scale { NumberAnimation { duration: Theme.quick } }
         SoftShadow { radius: card.cell.cornerRadius }
+        CardPicture {
+            anchors.fill: parent
+            view: card.cell.control("photoImage") as ImageItem
+            radius: card.content.cornerRadius
+        }
         CardLabel {
             label: card.timeLabel
             anchors.top: parent.top

@@ -1,5 +1,5 @@
-#include "qtsharing/QtPictureSharing.h"
-#include "adapters/qtsharing/StandInPortal.h"
+#include "qtdesktop/QtPictureSharing.h"
+#include "adapters/qtdesktop/StandInPortal.h"
 #include "qt/QtMainQueue.h"
 #include "qtimage/QtImageCoding.h"
 #include "session/PrivateSession.h"

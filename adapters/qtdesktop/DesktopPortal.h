@@ -2,10 +2,11 @@
 
 #include <QDBusConnection>
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 
-namespace tessivo::sharing {
+namespace tessivo::desktop {
 
 /// The desktop's portal, through which a program reaches others even from a sandbox. Main thread of a running
 /// Qt application; answers come in later turns of its loop, each question once, while this object lives.
@@ -16,6 +17,8 @@ public:
         Absent ///< no portal answers, or it cannot do this: there may be another way
     };
     using Answered = std::function<void(Answer)>;
+    /// The addresses of the files; none where the user has chosen none.
+    using Chosen = std::function<void(Answer, const QStringList& addresses)>;
 
     explicit DesktopPortal(const QDBusConnection& bus) : bus_(bus) {}
 
@@ -23,13 +26,19 @@ public:
     void openFile(const QString& path, Answered answered);
     /// Begins a mail with the file attached.
     void composeMail(const QString& attachment, Answered answered);
+    /// Lets the user choose a file of these media types. The question is closed, unanswered, when what comes
+    /// back is deleted; it deletes itself once it is answered.
+    QObject* chooseFile(const QString& title, const QString& kind, const QStringList& mediaTypes,
+                        Chosen chosen);
 
 private:
-    void call(const char* interface, const char* method, QList<QVariant> arguments, QVariantMap options,
-              Answered answered);
+    using Responded = std::function<void(Answer, const QVariantMap& results)>;
+
+    QObject* call(const char* interface, const char* method, QList<QVariant> arguments, QVariantMap options,
+                  Responded responded);
 
     QDBusConnection bus_;
     int requests_ = 0; ///< made so far: each has a token of its own
 };
 
-} // namespace tessivo::sharing
+} // namespace tessivo::desktop

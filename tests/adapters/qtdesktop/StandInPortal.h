@@ -3,6 +3,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
+#include <QStringList>
 
 #include <optional>
 #include <string>
@@ -20,12 +21,16 @@ public:
     struct Asked {
         std::string interface;
         std::string method;
-        std::string contents; ///< of the file handed over
-        bool ask = false;     ///< whether the user is to choose
+        std::string contents;     ///< of the file handed over
+        bool ask = false;         ///< whether the user is to choose
+        QStringList mediaTypes{}; ///< of the files that can be chosen
     };
 
     bool refuses = false; ///< fails each call, as a portal without that interface does
     uint response = 0;    ///< 0 success, 1 turned away by the user, 2 failed
+    bool answers = true;  ///< false leaves the question open
+    QStringList uris;     ///< of what the user chooses
+    int closed = 0;       ///< questions that were taken back
     std::vector<Asked> asked;
 
     QString introspect(const QString&) const override { return {}; }

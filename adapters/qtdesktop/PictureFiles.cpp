@@ -1,4 +1,4 @@
-#include "qtsharing/PictureFiles.h"
+#include "qtdesktop/PictureFiles.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -7,7 +7,7 @@
 #include <chrono>
 #include <system_error>
 
-namespace tessivo::sharing {
+namespace tessivo::desktop {
 namespace {
 
 namespace fs = std::filesystem;
@@ -83,4 +83,4 @@ Result<fs::path> lendPicture(const fs::path& folder, std::string_view bytes) {
     return writeNew(folder, bytes, lent);
 }
 
-} // namespace tessivo::sharing
+} // namespace tessivo::desktop

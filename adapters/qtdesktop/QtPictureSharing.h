@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Ports/PictureSharing.h"
-#include "qtsharing/DesktopPortal.h"
+#include "qtdesktop/DesktopPortal.h"
 
 #include <QObject>
 
@@ -51,7 +51,7 @@ private:
     WorkQueue& background_;
     MainQueue& mainQueue_;
     QObject programs_; ///< owns those that run
-    sharing::DesktopPortal portal_;
+    desktop::DesktopPortal portal_;
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true); ///< work may end after this object
 };
 

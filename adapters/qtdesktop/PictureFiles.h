@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string_view>
 
-namespace tessivo::sharing {
+namespace tessivo::desktop {
 
 /// Writes `bytes` as "Tessivo.png" in `folder`, which is made where it is missing, or as "Tessivo 2.png" and
 /// so on where that is taken: no file is replaced, not even one that comes up at the same time. Gives where
@@ -16,4 +16,4 @@ Result<std::filesystem::path> keepPicture(const std::filesystem::path& folder, s
 /// goes.
 Result<std::filesystem::path> lendPicture(const std::filesystem::path& folder, std::string_view bytes);
 
-} // namespace tessivo::sharing
+} // namespace tessivo::desktop

@@ -1,9 +1,9 @@
-#include "qtsharing/QtPictureSharing.h"
+#include "qtdesktop/QtPictureSharing.h"
 
 #include "Ports/ImageCoding.h"
 #include "Ports/MainQueue.h"
 #include "Ports/WorkQueue.h"
-#include "qtsharing/PictureFiles.h"
+#include "qtdesktop/PictureFiles.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -30,7 +30,7 @@ QtPictureSharing::QtPictureSharing(Folders folders, const QDBusConnection& bus, 
       portal_(bus) {}
 
 void QtPictureSharing::save(std::shared_ptr<const Bitmap> picture, Done done) {
-    write(sharing::keepPicture, folders_.pictures, std::move(picture),
+    write(desktop::keepPicture, folders_.pictures, std::move(picture),
           [done = std::move(done)](const Written& written) {
               done(written ? Outcome() : Outcome(written.error()));
           });
@@ -51,8 +51,8 @@ void QtPictureSharing::copy(std::shared_ptr<const Bitmap> picture, Done done) {
 
 void QtPictureSharing::open(std::shared_ptr<const Bitmap> picture, Done done) {
     lend(std::move(picture), done, [this, done](const QString& path) {
-        portal_.openFile(path, [this, path, done](sharing::DesktopPortal::Answer answer) {
-            if (answer == sharing::DesktopPortal::Answer::Done)
+        portal_.openFile(path, [this, path, done](desktop::DesktopPortal::Answer answer) {
+            if (answer == desktop::DesktopPortal::Answer::Done)
                 done(std::nullopt);
             else
                 run(QStringLiteral("xdg-open"), {path}, "No program opened the picture.", done);
@@ -62,8 +62,8 @@ void QtPictureSharing::open(std::shared_ptr<const Bitmap> picture, Done done) {
 
 void QtPictureSharing::mail(std::shared_ptr<const Bitmap> picture, Done done) {
     lend(std::move(picture), done, [this, done](const QString& path) {
-        portal_.composeMail(path, [this, path, done](sharing::DesktopPortal::Answer answer) {
-            if (answer == sharing::DesktopPortal::Answer::Done)
+        portal_.composeMail(path, [this, path, done](desktop::DesktopPortal::Answer answer) {
+            if (answer == desktop::DesktopPortal::Answer::Done)
                 done(std::nullopt);
             else
                 run(QStringLiteral("xdg-email"), {QStringLiteral("--attach"), path},
@@ -87,7 +87,7 @@ void QtPictureSharing::write(Writer writer, const std::filesystem::path& folder,
 
 void QtPictureSharing::lend(std::shared_ptr<const Bitmap> picture, Done done,
                             std::function<void(const QString& path)> next) {
-    write(sharing::lendPicture, folders_.lent, std::move(picture),
+    write(desktop::lendPicture, folders_.lent, std::move(picture),
           [done = std::move(done), next = std::move(next)](const Written& written) {
               if (written)
                   next(QString::fromStdString(written.value().string()));

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "bridge/ValueItems.h"
+
+#include <QPointer>
+#include <QQuickItem>
+
+#include <memory>
+
+namespace tessivo::shell {
+
+/// The picture of a card, under its text: fitted as its view says, and rounded as the card is. It is made
+/// once for each picture and size, and costs nothing where there is no picture.
+class CardPicture : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(tessivo::shell::ImageItem* view READ view WRITE setView NOTIFY viewChanged REQUIRED FINAL)
+    Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged FINAL)
+
+public:
+    explicit CardPicture(QQuickItem* parent = nullptr);
+
+    [[nodiscard]] ImageItem* view() const { return view_; }
+    void setView(ImageItem* view);
+    [[nodiscard]] double radius() const { return radius_; }
+    void setRadius(double radius);
+
+Q_SIGNALS:
+    void viewChanged();
+    void radiusChanged();
+
+protected:
+    QSGNode* updatePaintNode(QSGNode* former, UpdatePaintNodeData* data) override;
+    void geometryChange(const QRectF& place, const QRectF& former) override;
+
+private:
+    /// All that the looks depend on.
+    struct Looks {
+        std::shared_ptr<const Bitmap> picture;
+        ui::ContentMode mode = ui::ContentMode::AspectFill;
+        QSizeF size;
+        double scale = 1;
+        double radius = 0;
+
+        friend bool operator==(const Looks&, const Looks&) = default;
+    };
+
+    [[nodiscard]] Looks looks() const;
+
+    QPointer<ImageItem> view_;
+    double radius_ = 0;
+    Looks inScene_; ///< what the node shows
+};
+
+} // namespace tessivo::shell

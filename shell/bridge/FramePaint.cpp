@@ -1,0 +1,36 @@
+#include "bridge/FramePaint.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace tessivo::shell {
+namespace {
+
+constexpr double radius = 16;
+constexpr QColor shade(0, 0, 0, 170);
+constexpr double lineWidth = 1.5;
+
+} // namespace
+
+FramePaint::FramePaint(QQuickItem* parent) : QQuickPaintedItem(parent) {
+    setAntialiasing(true);
+}
+
+void FramePaint::setFrame(const QRectF& frame) {
+    if (frame == frame_)
+        return;
+    frame_ = frame;
+    update();
+    Q_EMIT frameChanged();
+}
+
+void FramePaint::paint(QPainter* painter) {
+    QPainterPath around; // odd and even: what lies in both is left out
+    around.addRect(boundingRect());
+    around.addRoundedRect(frame_, radius, radius);
+    painter->fillPath(around, shade);
+    painter->setPen(QPen(Qt::white, lineWidth));
+    painter->drawRoundedRect(frame_, radius, radius);
+}
+
+} // namespace tessivo::shell

@@ -1,0 +1,52 @@
+import QtQuick
+import Tessivo
+
+// What stands around the frame of a photo: what to do, what went wrong, and the ways on and out.
+Item {
+    id: bars
+
+    required property ScreenItem screen
+    readonly property LabelItem message: screen.control("messageLabel") as LabelItem
+    readonly property ButtonItem chooseButton: screen.control("chooseButton") as ButtonItem
+    readonly property int barHeight: 56
+
+    anchors.fill: parent
+
+    StyledLabel {
+        label: bars.screen.control("titleLabel") as LabelItem
+        anchors.horizontalCenter: parent.horizontalCenter
+        height: bars.barHeight
+        visible: bars.chooseButton.shown
+        verticalAlignment: Text.AlignVCenter
+        Accessible.role: Accessible.Heading
+    }
+    StyledLabel {
+        label: bars.message
+        anchors.centerIn: parent
+        width: parent.width - 4 * Theme.margin
+        visible: text.length > 0
+    }
+    TextButton {
+        button: bars.screen.control("cancelButton") as ButtonItem
+        anchors.left: parent.left
+        anchors.leftMargin: 4
+        anchors.verticalCenter: foot.verticalCenter
+    }
+    TextButton {
+        button: bars.screen.control("libraryButton") as ButtonItem
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.verticalCenter: foot.verticalCenter
+    }
+    TextButton {
+        button: bars.chooseButton
+        anchors.right: parent.right
+        anchors.rightMargin: 4
+        anchors.verticalCenter: foot.verticalCenter
+    }
+    Item {
+        id: foot
+        width: parent.width
+        height: bars.barHeight
+        anchors.bottom: parent.bottom
+    }
+}

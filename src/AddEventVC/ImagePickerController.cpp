@@ -1,0 +1,133 @@
+#include "AddEventVC/ImagePickerController.h"
+
+#include "AddEventVC/PictureCrop.h"
+#include "Extension/EventView.h"
+#include "Ports/Console.h"
+#include "Ports/PhotoLibrary.h"
+#include "Support/EventImages.h"
+
+#include <algorithm>
+
+namespace tessivo {
+namespace {
+
+constexpr double maximumZoom = 4;
+constexpr double barHeight = 56;
+
+} // namespace
+
+void ImagePickerController::viewDidLoad() {
+    view().setBackgroundColor(ui::ColorRef::black());
+    titleLabel.setText("Move and Scale");
+    titleLabel.setFont({17, ui::FontWeight::Semibold});
+    titleLabel.setTextColor(ui::ColorRef::white());
+    messageLabel.setNumberOfLines(0);
+    messageLabel.setTextColor(ui::ColorRef::white());
+    messageLabel.setAlignment(ui::TextAlignment::Center);
+    imageView.setAccessibilityName("Photo");
+    const auto offer = [](ui::Button& button, const char* title, ui::FontWeight weight) {
+        button.setTitle(title);
+        button.setFont({17, weight});
+        button.setTitleColor(ui::ColorRef::white());
+    };
+    offer(cancelButton, "Cancel", ui::FontWeight::Regular);
+    offer(libraryButton, "Photo Library", ui::FontWeight::Regular);
+    offer(chooseButton, "Choose", ui::FontWeight::Semibold);
+    cancelButton.addTarget(ui::PressEvent::UpInside, [this] { cancelButtonTapped(); });
+    libraryButton.addTarget(ui::PressEvent::UpInside, [this] { libraryButtonTapped(); });
+    chooseButton.addTarget(ui::PressEvent::UpInside, [this] { chooseButtonTapped(); });
+    chooseButton.setHidden(true);
+    cropView.addSubview(imageView);
+    cropView.setZoomedView(&imageView);
+    for (ui::View* part : std::initializer_list<ui::View*>{&cropView, &titleLabel, &messageLabel,
+                                                           &cancelButton, &libraryButton, &chooseButton})
+        view().addSubview(*part);
+    screenSizeDidChange();
+}
+
+void ImagePickerController::viewDidAppear() {
+    if (!opened_)
+        openLibrary();
+}
+
+void ImagePickerController::openLibrary() {
+    opened_ = true;
+    platform().photoLibrary.choosePhoto([this, alive = weak_from_this()](const PhotoLibrary::Choice& choice) {
+        if (alive.expired())
+            return;
+        if (!choice)
+            tell(choice.error().description);
+        else if (choice.value())
+            load(*choice.value());
+        else if (!imageView.image().isSet())
+            cancelButtonTapped(); // and a photo that was chosen before stays
+    });
+}
+
+void ImagePickerController::load(const std::string& url) {
+    const ui::Size drawn{cropView.frame().width * maximumZoom, cropView.frame().height * maximumZoom};
+    services().eventImages().readPhoto(url, drawn, [this, url, alive = weak_from_this()](ui::Image photo) {
+        if (alive.expired())
+            return;
+        if (photo.isSet())
+            return showPhoto(std::move(photo), url);
+        platform().console.print("Не удалось загрузить изображение.");
+        tell("This photo cannot be shown.");
+    });
+}
+
+void ImagePickerController::showPhoto(ui::Image photo, const std::string& url) {
+    messageLabel.setText("");
+    imageView.setImage(std::move(photo));
+    imageURL_ = url;
+    chooseButton.setHidden(false);
+    screenSizeDidChange();
+}
+
+void ImagePickerController::tell(std::string message) {
+    imageView.setImage({});
+    imageURL_.reset();
+    chooseButton.setHidden(true);
+    messageLabel.setText(std::move(message));
+}
+
+void ImagePickerController::screenSizeDidChange() {
+    const ui::Size card = EventView::sizeOn(screen());
+    const double room = screen().height() - 2 * barHeight;
+    cropView.setFrame({(screen().width() - card.width) / 2,
+                       barHeight + std::max(0.0, (room - card.height) / 2), card.width, card.height});
+    const auto& picture = imageView.image().bitmap;
+    if (!picture)
+        return;
+    // At the smallest, the photo just covers the frame.
+    const double factor = std::max(card.width / picture->width, card.height / picture->height);
+    const ui::Size whole{picture->width * factor, picture->height * factor};
+    cropView.setZoomedContent(whole, maximumZoom);
+    cropView.setContentOffset({(whole.width - card.width) / 2, (whole.height - card.height) / 2});
+}
+
+std::optional<ui::Image> ImagePickerController::framedPart() const {
+    const auto& picture = imageView.image().bitmap;
+    const ui::Rect seen = cropView.convertTo(imageView, cropView.bounds());
+    const double scale = picture->width / imageView.bounds().width;
+    auto part = cropped(*picture, {seen.x * scale, seen.y * scale, seen.width * scale, seen.height * scale});
+    if (!part)
+        return std::nullopt;
+    return ui::Image{{}, std::move(part)};
+}
+
+void ImagePickerController::cancelButtonTapped() {
+    if (const auto told = delegate.lock())
+        told->imagePickerControllerDidCancel(*this);
+}
+
+void ImagePickerController::chooseButtonTapped() {
+    if (const auto told = delegate.lock())
+        told->imagePickerControllerDidFinishPickingMedia(*this, {imageView.image(), framedPart(), imageURL_});
+}
+
+void ImagePickerController::libraryButtonTapped() {
+    openLibrary();
+}
+
+} // namespace tessivo

@@ -1,0 +1,205 @@
+#include "AddEventVC/EventBackgroundViewController.h"
+#include "AddEventVC/EventDateAndTimeViewController.h"
+#include "AddEventVC/ReminderViewController.h"
+#include "Event/CoreDataStack.h"
+#include "MainVC/EventCell.h"
+#include "support/Pictures.h"
+#include "support/Program.h"
+#include "support/Wizard.h"
+
+#include <gmock/gmock.h>
+
+namespace tessivo {
+namespace {
+
+using testing::ElementsAre;
+
+constexpr auto photo = "file:///home/ada/sea%20side.jpg";
+
+/// The background step with the photo library open on it. The network answers for files, too.
+class ImagePickerTest : public testing::Test {
+protected:
+    ImagePickerTest() {
+        openWizard(program).textField.editTo("Summer");
+        next<EventDateAndTimeViewController>(program).datePicker.pick(program.timeline.now() +
+                                                                      Seconds(10 * 86400));
+        next<ReminderViewController>(program);
+        chooser = &next<EventBackgroundViewController>(program);
+        (void)program.console.take();
+    }
+
+    ImagePickerController& openLibrary() {
+        chooser->photosButton.tap();
+        program.settle();
+        return program.top<ImagePickerController>();
+    }
+    /// Chooses the file in the desktop's window; it holds `data`.
+    void choose(const Result<HttpResponse>& answer) {
+        program.photoLibrary.choose(std::optional<std::string>(photo));
+        program.http.answer(answer);
+        program.settle();
+    }
+    void choose(const Bitmap& picture) {
+        choose(HttpResponse{std::nullopt, {}, *program.images.png(picture)});
+    }
+    [[nodiscard]] const Bitmap& preview() const { return *chooser->eventView.photoView.image().bitmap; }
+
+    Program program;
+    EventBackgroundViewController* chooser;
+};
+
+TEST_F(ImagePickerTest, TheFramedPartIsPreviewedAndTheFileBecomesTheBackground) {
+    auto& picker = openLibrary();
+    EXPECT_TRUE(picker.chooseButton.isHidden()) << "there is nothing to choose yet";
+    choose(stripes(20, 5));
+    EXPECT_FALSE(picker.chooseButton.isHidden());
+    const ui::Size frame = picker.cropView.bounds().size();
+    EXPECT_EQ(frame, (ui::Size{358, 200}));
+    EXPECT_EQ(picker.imageView.frame().size(), (ui::Size{800, 200})) << "it just covers the frame";
+    EXPECT_EQ(picker.cropView.contentOffset(), (ui::Point{221, 0})) << "its middle is in the frame";
+
+    picker.cropView.scrolledTo(picker.cropView.nearestOffset({5000, 50})); // to the right end
+    picker.chooseButton.tap();
+    program.settle();
+    ASSERT_EQ(program.stack().top(), chooser);
+    EXPECT_EQ(preview().height, 5);
+    EXPECT_EQ(preview().width, 9); // 358 of 800 points of 20 columns, grown to whole ones
+    EXPECT_EQ(redAt(preview(), 8), 190);
+    EXPECT_EQ(chooser->eventView.photoView.contentMode(), ui::ContentMode::AspectFill);
+    EXPECT_EQ(chooser->eventData->photoPath, photo);
+    EXPECT_EQ(chooser->eventData->gradient, NO_VALUE);
+    EXPECT_EQ(chooser->eventData->color, NO_VALUE);
+    EXPECT_EQ(chooser->eventData->unsplashPath, std::nullopt);
+    EXPECT_EQ(chooser->selectedGradientIndexPath, std::nullopt);
+
+    chooser->nextButton.tap();
+    program.settle();
+    EXPECT_TRUE(program.console.take().empty()) << "a photo of the user's is not copied";
+    program.restart();
+    const auto row = program.services().coreDataStack().fetchEvents().front();
+    EXPECT_EQ(row->photoPath(), photo);
+    const auto cell = std::make_shared<EventCell>(program.services());
+    cell->configure(*row);
+    EXPECT_EQ(program.http.exchanges().back()->request.url, photo);
+    program.http.answer(HttpResponse{std::nullopt, {}, *program.images.png(stripes(20, 5))});
+    program.timeline.runPosted();
+    EXPECT_EQ(cell->photoImage.image().bitmap->width, 20) << "the card shows all of the photo";
+    cell->configure(*row);
+    program.http.answer(Error{std::string(urlErrorDomain), UrlErrorFileDoesNotExist, "gone"});
+    program.timeline.runPosted();
+    EXPECT_FALSE(cell->photoImage.image().isSet());
+    EXPECT_EQ(program.console.take().back(), "Ошибка загрузки изображения: gone");
+}
+
+TEST_F(ImagePickerTest, EnlargingKeepsWhatIsUnderTheFingersAndStaysWithinBounds) {
+    auto& picker = openLibrary();
+    choose(stripes(16, 8)); // 400 x 200 points; 21 of them beyond each side
+    picker.cropView.zoomedTo(2, {100, 50});
+    EXPECT_EQ(picker.imageView.frame().size(), (ui::Size{800, 400}));
+    EXPECT_EQ(picker.cropView.contentOffset(), (ui::Point{142, 50})) << "121, 50 of the photo under 100, 50";
+    picker.cropView.zoomedTo(9, {0, 0});
+    EXPECT_EQ(picker.cropView.zoomScale(), 4);
+    picker.cropView.zoomedTo(0.1, {358, 200});
+    EXPECT_EQ(picker.cropView.zoomScale(), 1);
+    const ui::Point offset = picker.cropView.contentOffset();
+    EXPECT_GE(offset.x, 0);
+    EXPECT_LE(offset.x, 42);
+    EXPECT_EQ(offset.y, 0) << "the photo covers the frame";
+    picker.cropView.zoomedTo(4, {0, 0});
+    picker.cropView.scrolledTo({0, 0});
+    picker.chooseButton.tap();
+    EXPECT_EQ(preview().width, 4); // 358 of 1600 points of 16 columns
+    EXPECT_EQ(preview().height, 2);
+    EXPECT_EQ(redAt(preview(), 0), 0);
+}
+
+TEST_F(ImagePickerTest, CancellingInEitherWindowChangesNothing) {
+    openLibrary();
+    program.photoLibrary.choose(std::optional<std::string>());
+    program.settle();
+    EXPECT_EQ(program.stack().top(), chooser);
+
+    auto& picker = openLibrary();
+    choose(stripes(20, 5));
+    picker.cancelButton.tap();
+    program.settle();
+    EXPECT_EQ(program.stack().top(), chooser);
+    EXPECT_EQ(chooser->eventData->gradient, 1);
+    EXPECT_EQ(chooser->eventData->photoPath, std::nullopt);
+    EXPECT_EQ(chooser->selectedGradientIndexPath, 1);
+    EXPECT_FALSE(chooser->eventView.photoView.image().isSet());
+}
+
+TEST_F(ImagePickerTest, AnotherPhotoCanBeChosenAndTurningAwayKeepsTheFirst) {
+    auto& picker = openLibrary();
+    choose(stripes(20, 5));
+    picker.libraryButton.tap();
+    program.photoLibrary.choose(std::optional<std::string>());
+    EXPECT_EQ(picker.imageView.image().bitmap->width, 20);
+    picker.libraryButton.tap();
+    choose(stripes(12, 5));
+    EXPECT_EQ(picker.imageView.image().bitmap->width, 12);
+    EXPECT_EQ(program.stack().top(), &picker);
+}
+
+TEST_F(ImagePickerTest, WhatCannotBeShownIsSaidAndAnotherCanBeChosen) {
+    auto& picker = openLibrary();
+    for (const auto& [answer, lines] :
+         {std::pair(Result<HttpResponse>(HttpResponse{std::nullopt, {}, "no picture"}), 1),
+          std::pair(Result<HttpResponse>(Error{std::string(urlErrorDomain), UrlErrorTooLarge, "large"}),
+                    2)}) {
+        choose(answer);
+        const auto said = program.console.take();
+        EXPECT_EQ(said.size(), static_cast<std::size_t>(lines));
+        EXPECT_EQ(said.back(), "Не удалось загрузить изображение.");
+        EXPECT_EQ(picker.messageLabel.text(), "This photo cannot be shown.");
+        EXPECT_TRUE(picker.chooseButton.isHidden());
+        picker.libraryButton.tap();
+    }
+    program.photoLibrary.choose(Error{"PhotoLibrary", 1, "There is no window."});
+    EXPECT_EQ(picker.messageLabel.text(), "There is no window.");
+    picker.libraryButton.tap();
+    choose(stripes(20, 5));
+    EXPECT_EQ(picker.messageLabel.text(), "");
+    EXPECT_FALSE(picker.chooseButton.isHidden());
+}
+
+TEST_F(ImagePickerTest, AnAnswerAfterTheScreenHasGoneIsDropped) {
+    openLibrary().cancelButton.tap();
+    program.settle();
+    program.photoLibrary.choose(std::optional<std::string>(photo));
+    EXPECT_TRUE(program.http.exchanges().empty());
+    openLibrary();
+    program.photoLibrary.choose(std::optional<std::string>(photo));
+    program.top<ImagePickerController>().cancelButton.tap();
+    program.settle();
+    program.http.answer(HttpResponse{std::nullopt, {}, *program.images.png(stripes(20, 5))});
+    program.settle();
+    EXPECT_EQ(program.stack().top(), chooser);
+    EXPECT_EQ(chooser->eventData->photoPath, std::nullopt);
+}
+
+TEST_F(ImagePickerTest, ASourceThatLeavesOutTheAddressLeavesTheEventWithoutABackground) {
+    const ui::Image picture{{}, std::make_shared<const Bitmap>(stripes(4, 4))};
+    for (const auto& address : {std::optional<std::string>(), std::optional<std::string>("no address")}) {
+        chooser->imagePickerControllerDidFinishPickingMedia(openLibrary(), {picture, picture, address});
+        program.settle();
+        EXPECT_EQ(chooser->eventData->photoPath, std::nullopt);
+        EXPECT_EQ(chooser->eventData->gradient, NO_VALUE);
+    }
+    chooser->nextButton.tap();
+    program.settle();
+    const auto row = program.services().coreDataStack().fetchEvents().front();
+    const auto cell = std::make_shared<EventCell>(program.services());
+    EXPECT_THROW(cell->configure(*row), fakes::ProgramStopped);
+}
+
+TEST_F(ImagePickerTest, ASourceWithoutAnEditedPictureStopsTheProgram) {
+    const ui::Image picture{{}, std::make_shared<const Bitmap>(stripes(4, 4))};
+    auto& picker = openLibrary();
+    EXPECT_THROW(chooser->imagePickerControllerDidFinishPickingMedia(picker, {picture, std::nullopt, photo}),
+                 fakes::ProgramStopped);
+}
+
+} // namespace
+} // namespace tessivo
