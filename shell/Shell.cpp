@@ -2,6 +2,7 @@
 
 #include "Ports/Console.h"
 #include "bridge/BridgeContext.h"
+#include "bridge/CellScope.h"
 #include "bridge/IconProvider.h"
 #include "bridge/ShadowProvider.h"
 #include "bridge/WindowItem.h"
@@ -33,6 +34,7 @@ Shell::~Shell() = default;
 void Shell::open() {
     QQmlApplicationEngine& engine = parts_->engine;
     qml_register_types_Tessivo();
+    CellScope::makeAccessible();
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
     engine.addImageProvider(QStringLiteral("shadow"), new ShadowProvider);

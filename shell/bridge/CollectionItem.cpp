@@ -50,6 +50,13 @@ void CellItem::become(int item, bool seen) {
     Q_EMIT itemChanged();
 }
 
+QStringList CellItem::actionNames() const {
+    QStringList names;
+    for (const auto& name : cell_->accessibilityActionNames())
+        names.push_back(QString::fromStdString(name));
+    return names;
+}
+
 CellModel::CellModel(ui::CollectionView& collection, const BridgeContext& context, QObject* parent)
     : QAbstractListModel(parent), collection_(collection), context_(context) {
     update();
@@ -160,6 +167,11 @@ void CollectionItem::scrollBegan() {
 
 void CollectionItem::scrollEnded() {
     collection_.panGestureRecognizer()->end({});
+}
+
+void CollectionItem::closeSwipes() {
+    scrollBegan();
+    scrollEnded();
 }
 
 bool CollectionItem::openMenu(int item, double x, double y) {

@@ -36,6 +36,10 @@ public:
     [[nodiscard]] bool seen() const { return seen_; }
     [[nodiscard]] bool selected() const { return cell_->isSelected(); }
     [[nodiscard]] bool highlighted() const { return cell_->isHighlighted(); }
+    /// What can be done with the cell besides tapping it, by name.
+    [[nodiscard]] QStringList actionNames() const;
+    /// Does the first of that name; nothing where there is none.
+    Q_INVOKABLE void act(const QString& name) { cell_->performAccessibilityAction(name.toStdString()); }
     /// What stands in the content without a name of its own.
     [[nodiscard]] QList<LooseViewItem*> attached() const { return attached_; }
     void show(int item);
@@ -123,6 +127,8 @@ public:
     /// The user's finger begins to scroll, and lets go.
     Q_INVOKABLE void scrollBegan();
     Q_INVOKABLE void scrollEnded();
+    /// The user turns to something else: what a swipe has left open closes, as it does for a scroll.
+    Q_INVOKABLE void closeSwipes();
     /// The user rests on an item, at a place of the content. Says whether a menu or anything else came of it.
     Q_INVOKABLE bool openMenu(int item, double x, double y);
 

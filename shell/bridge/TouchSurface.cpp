@@ -1,7 +1,7 @@
 #include "bridge/TouchSurface.h"
 
 #include <QGuiApplication>
-#include <QMouseEvent>
+
 #include <QStyleHints>
 
 namespace tessivo::shell {

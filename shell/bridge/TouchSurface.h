@@ -4,6 +4,7 @@
 #include "bridge/CollectionItem.h"
 
 #include <QBasicTimer>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QQuickItem>
 
@@ -32,6 +33,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    /// Comes after the press of a second quick tap, which is a tap like any other.
+    void mouseDoubleClickEvent(QMouseEvent* event) override { event->accept(); }
     void mouseUngrabEvent() override;
     void timerEvent(QTimerEvent* event) override;
 

@@ -1,5 +1,7 @@
 #include "bridge/ViewItem.h"
 
+#include <utility>
+
 namespace tessivo::shell {
 
 ViewItem::ViewItem(ui::View& view, const BridgeContext& context, QObject* parent)
@@ -9,6 +11,7 @@ ViewItem::ViewItem(ui::View& view, const BridgeContext& context, QObject* parent
               Q_EMIT contentChanged();
               break;
           case ui::ViewChange::Appearance:
+              followMask();
               Q_EMIT appearanceChanged();
               break;
           case ui::ViewChange::Geometry:
@@ -19,6 +22,21 @@ ViewItem::ViewItem(ui::View& view, const BridgeContext& context, QObject* parent
               break;
           }
       })) {}
+
+void ViewItem::followMask() {
+    ui::View* const mask = view_.mask();
+    if (std::exchange(mask_, mask) == mask)
+        return;
+    maskChanges_ = mask ? mask->onChange([this](ui::ViewChange) { Q_EMIT maskChanged(); }) : Subscription();
+    Q_EMIT maskChanged();
+}
+
+QRectF ViewItem::mask() const {
+    if (!view_.mask())
+        return {};
+    const ui::Rect frame = view_.mask()->drawnFrame();
+    return {frame.x, frame.y, frame.width, frame.height};
+}
 
 Fill ViewItem::fill() const {
     Fill fill;

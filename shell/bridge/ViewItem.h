@@ -27,6 +27,8 @@ class ViewItem : public QObject {
     Q_PROPERTY(double width READ width NOTIFY geometryChanged FINAL)
     Q_PROPERTY(double height READ height NOTIFY geometryChanged FINAL)
     Q_PROPERTY(double scale READ scale NOTIFY geometryChanged FINAL)
+    Q_PROPERTY(bool masked READ masked NOTIFY maskChanged FINAL)
+    Q_PROPERTY(QRectF mask READ mask NOTIFY maskChanged FINAL)
 
 public:
     ViewItem(ui::View& view, const BridgeContext& context, QObject* parent);
@@ -45,6 +47,10 @@ public:
     [[nodiscard]] double height() const { return view_.drawnFrame().height; }
     [[nodiscard]] double scale() const { return view_.drawnValue(ui::AnimatableProperty::Scale); }
 
+    [[nodiscard]] bool masked() const { return view_.mask() != nullptr; }
+    /// What is shown of the view, in its own space; empty for a view without a mask.
+    [[nodiscard]] QRectF mask() const;
+
     /// The user taps the view.
     Q_INVOKABLE void tap() { view_.tap(); }
     /// `item` draws the view with all that it holds: pictures of the view are taken of it.
@@ -55,6 +61,7 @@ Q_SIGNALS:
     void placedChanged();
     void geometryChanged();
     void contentChanged();
+    void maskChanged();
 
 protected:
     [[nodiscard]] const BridgeContext& context() const { return context_; }
@@ -62,6 +69,10 @@ protected:
 private:
     ui::View& view_;
     const BridgeContext& context_;
+    void followMask();
+
+    const ui::View* mask_ = nullptr;
+    Subscription maskChanges_;
     Subscription changes_;
 };
 

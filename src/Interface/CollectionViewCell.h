@@ -3,6 +3,9 @@
 #include "Interface/ControlRegistry.h"
 #include "Interface/View.h"
 
+#include <string>
+#include <vector>
+
 namespace tessivo::ui {
 
 /// One item of a collection on the screen. The collection reuses it for other items when it has left the
@@ -32,6 +35,11 @@ public:
         highlighted_ = highlighted;
         notify(ViewChange::Content);
     }
+
+    /// What assistive technology may do with the cell besides pressing it, by name.
+    [[nodiscard]] virtual std::vector<std::string> accessibilityActionNames() { return {}; }
+    /// Does the first of that name; false where there is none.
+    virtual bool performAccessibilityAction(const std::string& /*name*/) { return false; }
 
     /// The place that the collection's layout gives the cell.
     virtual void place(const Rect& frame) { setFrame(frame); }

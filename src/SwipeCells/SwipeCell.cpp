@@ -201,6 +201,19 @@ std::vector<SwipeAccessibilityCustomAction> SwipeCell::accessibilityCustomAction
     return all;
 }
 
+std::vector<std::string> SwipeCell::accessibilityActionNames() {
+    std::vector<std::string> names;
+    for (auto& custom : accessibilityCustomActions())
+        names.push_back(std::move(custom.name));
+    return names;
+}
+
+bool SwipeCell::performAccessibilityAction(const std::string& name) {
+    const auto actions = accessibilityCustomActions();
+    const auto found = std::ranges::find(actions, name, &SwipeAccessibilityCustomAction::name);
+    return found != actions.end() && performAccessibilityCustomAction(*found);
+}
+
 bool SwipeCell::performAccessibilityCustomAction(const SwipeAccessibilityCustomAction& custom) {
     if (!list())
         return false;

@@ -60,6 +60,8 @@ public:
     [[nodiscard]] std::vector<SwipeAccessibilityCustomAction> accessibilityCustomActions();
     /// Calls the handler; a destructive action takes the item from the list too. False without a list.
     bool performAccessibilityCustomAction(const SwipeAccessibilityCustomAction& custom);
+    [[nodiscard]] std::vector<std::string> accessibilityActionNames() override;
+    bool performAccessibilityAction(const std::string& name) override;
 
 protected:
     enum class Container { ContentView, Cell };

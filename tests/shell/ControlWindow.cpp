@@ -1,5 +1,6 @@
 #include "shell/ControlWindow.h"
 
+#include "bridge/CellScope.h"
 #include "bridge/IconProvider.h"
 #include "bridge/ShadowProvider.h"
 
@@ -11,6 +12,7 @@ namespace tessivo {
 
 ControlWindow::ControlWindow() {
     qml_register_types_Tessivo();
+    shell::CellScope::makeAccessible();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine_.addImageProvider(QStringLiteral("icon"), new shell::IconProvider);
     engine_.addImageProvider(QStringLiteral("shadow"), new shell::ShadowProvider);

@@ -61,6 +61,14 @@ Flickable {
         const end = Math.max(-topMargin, contentHeight + bottomMargin - height);
         contentY = Math.max(-topMargin, Math.min(Math.max(contentY, highest), lowest, end));
     }
+    // The keyboard goes to the cell of an item; the one beside it has made sure that it is drawn.
+    function goTo(item: int) {
+        for (let index = 0; index < contentItem.children.length; ++index) {
+            const drawn = contentItem.children[index] as CellScope;
+            if (drawn && drawn.cell.item === item)
+                drawn.forceActiveFocus(Qt.TabFocusReason);
+        }
+    }
 
     Repeater {
         model: flick.collection.cells

@@ -7,6 +7,7 @@ T.Popup {
     id: popup
 
     property MenuItem menu
+    property Item opener // had the keyboard, and gets it back unless a choice opens something
 
     width: 256
     margins: 12
@@ -14,6 +15,8 @@ T.Popup {
     focus: true
     transformOrigin: T.Popup.Top
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    onAboutToShow: opener = parent.Window.activeFocusItem
+    onAboutToHide: opener?.forceActiveFocus(Qt.PopupFocusReason)
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.quick }
         NumberAnimation { property: "scale"; from: 0.9; to: 1; duration: Theme.quick; easing.type: Easing.OutCubic }

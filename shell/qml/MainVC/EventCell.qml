@@ -2,10 +2,9 @@ import QtQuick
 import Tessivo
 
 // The card of one event.
-FocusScope {
+CellScope {
     id: card
 
-    required property CellItem cell
     readonly property CollectionFlick list: parent?.parent as CollectionFlick
     readonly property ViewItem content: cell.control("contentView")
     readonly property LabelItem timeLabel: cell.control("timeLabel") as LabelItem
@@ -15,18 +14,37 @@ FocusScope {
     y: cell.y
     width: cell.width
     height: cell.height
+    opacity: cell.alpha
     activeFocusOnTab: true
     // The card's face, wherever a swipe has taken it: a picture of the cell is one of the cell at rest.
     Component.onCompleted: cell.drawnBy(face)
     onActiveFocusChanged: if (activeFocus) list.reveal(card)
     Keys.onReturnPressed: list.collection.tapItem(cell.item)
-    Keys.onMenuPressed: list.collection.openMenu(cell.item, x + width / 2, y + height / 2)
+    Keys.onEscapePressed: list.collection.closeSwipes()
+    Keys.onDeletePressed: cell.act("Delete")
+    Keys.onUpPressed: list.goTo(cell.item - 1)
+    Keys.onDownPressed: list.goTo(cell.item + 1)
+    Keys.onMenuPressed: openMenu()
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
+            openMenu();
+    }
     Accessible.role: Accessible.Button
     Accessible.name: cell.accessibleName
-    Accessible.onPressAction: list.collection.tapItem(cell.item)
+    Accessible.ignored: cell.item < 0
+    onPressed: list.collection.tapItem(cell.item)
 
+    function openMenu() {
+        list.collection.openMenu(cell.item, x + width / 2, y + height / 2);
+    }
+
+    MaskWindow {
+        id: pane
+        view: card.content
+    }
     CardPaint {
         id: face
+        parent: pane.held
         x: card.content.x
         y: card.content.y
         width: card.content.width
