@@ -94,8 +94,7 @@ QImage cardPicture(const QImage& picture, QSizeF size, double scale, double radi
     QLinearGradient shade(area.topLeft(), area.bottomLeft());
     const QColor above = black(veil(card, 0, reach));
     const QColor below = black(veil(card, card.height() - reach, card.height()));
-    const QColor between = black((above.alphaF() + below.alphaF()) / 4); // where no text stands
-    shade.setStops({{0, above}, {textReach, above}, {0.5, between}, {1 - textReach, below}, {1, below}});
+    shade.setStops({{0, above}, {textReach, above}, {1 - textReach, below}, {1, below}});
     painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
     painter.fillRect(area, shade);
 

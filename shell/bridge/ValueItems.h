@@ -90,6 +90,7 @@ class ImageItem final : public ViewItem {
     QML_ELEMENT
     QML_UNCREATABLE("Pictures belong to the program")
     Q_PROPERTY(QString image READ image NOTIFY contentChanged FINAL)
+    Q_PROPERTY(bool loaded READ loaded NOTIFY contentChanged FINAL)
     Q_PROPERTY(QColor tint READ tint NOTIFY contentChanged FINAL)
 
 public:
@@ -98,6 +99,8 @@ public:
 
     [[nodiscard]] const ui::ImageView& view() const { return view_; }
     [[nodiscard]] QString image() const { return QString::fromStdString(view_.image().name); }
+    /// Whether it is a picture that was loaded, and not one of the resources or none.
+    [[nodiscard]] bool loaded() const { return view_.image().bitmap != nullptr; }
     [[nodiscard]] QColor tint() const { return context().color(view_.tint()); }
 
 private:

@@ -18,6 +18,7 @@ QtObject {
     readonly property color muted: named("disabled")
     readonly property color page: named("mainBack")
     readonly property color ink: "#15171C"
+    readonly property color noPicture: "#5B6475"
 
     readonly property int margin: 16
     readonly property int touch: 44

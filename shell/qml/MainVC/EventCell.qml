@@ -7,6 +7,7 @@ CellScope {
 
     readonly property CollectionFlick list: parent?.parent as CollectionFlick
     readonly property ViewItem content: cell.control("contentView")
+    readonly property ImageItem photo: cell.control("photoImage") as ImageItem
     readonly property LabelItem timeLabel: cell.control("timeLabel") as LabelItem
     readonly property LabelItem informationLabel: cell.control("eventInformationLabel") as LabelItem
 
@@ -42,21 +43,31 @@ CellScope {
         id: pane
         view: card.content
     }
-    CardPaint {
+    Item {
         id: face
         parent: pane.held
         x: card.content.x
         y: card.content.y
         width: card.content.width
         height: card.content.height
-        radius: card.content.cornerRadius
-        fill: card.content.fill
         scale: card.cell.highlighted ? 0.985 : 1
         Behavior on scale { NumberAnimation { duration: Theme.quick } }
         SoftShadow { radius: card.cell.cornerRadius }
+        Rectangle { // a picture that is not there leaves a calm ground for the text
+            anchors.fill: parent
+            visible: !card.photo.loaded && !card.content.fill.fades && card.content.fill.color.a === 0
+            radius: card.content.cornerRadius
+            color: Theme.noPicture
+        }
+        CardPaint {
+            anchors.fill: parent
+            visible: !card.photo.loaded // or its edge shines through beside the picture's
+            radius: card.content.cornerRadius
+            fill: card.content.fill
+        }
         CardPicture {
             anchors.fill: parent
-            view: card.cell.control("photoImage") as ImageItem
+            view: card.photo
             radius: card.content.cornerRadius
         }
         CardLabel {
