@@ -93,6 +93,18 @@ void Hand::drag(QPointF from, QPointF to) {
     QTest::touchEvent(&window_, &touchScreen()).release(0, to.toPoint());
 }
 
+void Hand::pinch(QPointF center, double from, double to) {
+    const auto place = [&](double apart) { return QPointF(apart / 2, 0).toPoint(); };
+    const QPoint middle = center.toPoint();
+    QTest::touchEvent(&window_, &touchScreen()).press(0, middle - place(from)).press(1, middle + place(from));
+    for (int step = 1; step <= stepsOfADrag; ++step) {
+        QTest::qWait(8);
+        const QPoint apart = place(from + (to - from) * step / stepsOfADrag);
+        QTest::touchEvent(&window_, &touchScreen()).move(0, middle - apart).move(1, middle + apart);
+    }
+    QTest::touchEvent(&window_, &touchScreen()).release(0, middle - place(to)).release(1, middle + place(to));
+}
+
 void Hand::turnMouseWheel(QPointF point, int notches) {
     QWheelEvent event(point, window_.mapToGlobal(point), {}, {0, notches * notch}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);

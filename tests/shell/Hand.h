@@ -38,6 +38,8 @@ public:
     void hold(QPointF point, const std::function<bool()>& done);
     /// Drags in small steps and rests before letting go, so that nothing is thrown.
     void drag(QPointF from, QPointF to);
+    /// Moves two fingers apart or together about a point, in small steps.
+    void pinch(QPointF center, double from, double to);
     /// Turns the mouse wheel over a point; notches up are positive.
     void turnMouseWheel(QPointF point, int notches);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

@@ -159,6 +159,10 @@ TEST_F(PicturesTest, APhotoIsMovedAndEnlargedUnderItsFrame) {
     hand.drag({300, 350}, {200, 350});
     const double right = picker.cropView.contentSize().width - picker.cropView.bounds().width;
     EXPECT_EQ(picker.cropView.contentOffset().x, right) << "the photo covers the frame";
+    hand.pinch({195, 350}, 80, 240);
+    EXPECT_NEAR(picker.cropView.zoomScale(), 2.4, 0.6) << "less what a touch takes to be a pinch";
+    hand.pinch({195, 350}, 300, 40);
+    EXPECT_EQ(picker.cropView.zoomScale(), 1);
     hand.turnMouseWheel({195, 350}, 3);
     EXPECT_GT(picker.cropView.zoomScale(), 1.2);
     hand.press(Qt::Key_Minus);
