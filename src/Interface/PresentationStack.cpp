@@ -20,7 +20,7 @@ PresentationStack::~PresentationStack() {
         screen->enterStack(nullptr);
 }
 
-void PresentationStack::setRoot(std::shared_ptr<ViewController> root) {
+void PresentationStack::setRoot(const std::shared_ptr<ViewController>& root) {
     const auto former = std::exchange(screens_, {});
     if (!former.empty())
         former.back()->beginDisappearing();
@@ -53,7 +53,7 @@ ViewController& PresentationStack::covered(std::size_t index) const {
     return *screens_[place];
 }
 
-void PresentationStack::present(ViewController& presenter, std::shared_ptr<ViewController> screen,
+void PresentationStack::present(ViewController& presenter, const std::shared_ptr<ViewController>& screen,
                                 bool animated, std::function<void()> completion) {
     if (isInTransition() || screens_.empty() || screens_.back().get() != &presenter)
         return; // it presents another already, or is itself on its way
@@ -70,12 +70,11 @@ void PresentationStack::present(ViewController& presenter, std::shared_ptr<ViewC
     if (const auto chooser = screen->transitioningDelegate.lock();
         chooser && animated && screen->modalPresentationStyle == PresentationStyle::Custom)
         transition = chooser->animationControllerForPresented(*screen);
-    run(std::move(transition), uncovered.view(), screen->view(),
-        [screen, completion = std::move(completion)] {
-            screen->finishAppearing();
-            if (completion)
-                completion();
-        });
+    run(transition, uncovered.view(), screen->view(), [screen, completion = std::move(completion)] {
+        screen->finishAppearing();
+        if (completion)
+            completion();
+    });
 }
 
 void PresentationStack::dismissAbove(const ViewController& base, bool animated,
@@ -87,7 +86,7 @@ void PresentationStack::dismissAbove(const ViewController& base, bool animated,
     const std::vector dismissed(screens_.begin() + static_cast<std::ptrdiff_t>(first), screens_.end());
     const bool uncovers =
         std::ranges::any_of(dismissed, [](const auto& screen) { return coversWhatIsBelow(*screen); });
-    const auto top = dismissed.back();
+    const auto& top = dismissed.back();
     // What is seen to leave is the topmost full screen; where only sheets and alerts go, nothing slides.
     const auto leaving = std::ranges::find_if(dismissed.rbegin(), dismissed.rend(),
                                               [](const auto& screen) { return coversWhatIsBelow(*screen); });
@@ -112,10 +111,10 @@ void PresentationStack::dismissAbove(const ViewController& base, bool animated,
         if (completion)
             completion();
     };
-    run(std::move(transition), left->view(), uncovered->view(), goAway);
+    run(transition, left->view(), uncovered->view(), goAway);
 }
 
-void PresentationStack::run(std::shared_ptr<AnimatedTransitioning> transition, View& from, View& to,
+void PresentationStack::run(const std::shared_ptr<AnimatedTransitioning>& transition, View& from, View& to,
                             std::function<void()> ended) {
     if (!transition) {
         ended();

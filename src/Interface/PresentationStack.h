@@ -19,7 +19,7 @@ public:
     PresentationStack& operator=(const PresentationStack&) = delete;
 
     /// Makes `root` the one screen. What stood before goes.
-    void setRoot(std::shared_ptr<ViewController> root);
+    void setRoot(const std::shared_ptr<ViewController>& root);
 
     /// From the root to the top.
     [[nodiscard]] const std::vector<std::shared_ptr<ViewController>>& screens() const { return screens_; }
@@ -34,7 +34,7 @@ public:
     }
 
     // For view controllers.
-    void present(ViewController& presenter, std::shared_ptr<ViewController> screen, bool animated,
+    void present(ViewController& presenter, const std::shared_ptr<ViewController>& screen, bool animated,
                  std::function<void()> completion);
     void dismissAbove(const ViewController& base, bool animated, std::function<void()> completion);
     [[nodiscard]] ViewController* above(const ViewController& screen) const;
@@ -42,7 +42,7 @@ public:
 
 private:
     [[nodiscard]] ViewController& covered(std::size_t index) const;
-    void run(std::shared_ptr<AnimatedTransitioning> transition, View& from, View& to,
+    void run(const std::shared_ptr<AnimatedTransitioning>& transition, View& from, View& to,
              std::function<void()> ended);
 
     WindowContext& window_;

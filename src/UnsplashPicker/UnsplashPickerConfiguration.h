@@ -26,8 +26,8 @@ public:
     std::string secretKey;            ///< carried for the host; nothing uses it
     std::optional<std::string> query; ///< a fixed search, which takes the place of the search bar
     bool allowsMultipleSelection = false;
-    std::int64_t memoryCapacity = 50 * 1024 * 1024; ///< bytes of pictures kept
-    std::int64_t diskCapacity = 100 * 1024 * 1024;
+    std::int64_t memoryCapacity = std::int64_t{50} * 1024 * 1024; ///< bytes of pictures kept
+    std::int64_t diskCapacity = std::int64_t{100} * 1024 * 1024;
     ContentFilterLevel contentFilterLevel = ContentFilterLevel::low;
 
     [[nodiscard]] const std::string& apiURL() const { return apiURL_; }
