@@ -43,18 +43,15 @@ void Button::setMenu(Menu menu) {
 }
 
 void Button::addTarget(PressEvent event, std::function<void()> target) {
-    targets_.emplace_back(event, std::move(target));
+    presses_.add([event, target = std::move(target)](PressEvent happened) {
+        if (happened == event)
+            target();
+    });
 }
 
 void Button::press(PressEvent event) {
-    if (!enabled_)
-        return;
-    for (std::size_t index = 0; index < targets_.size(); ++index) {
-        if (targets_[index].first == event) {
-            const auto target = targets_[index].second;
-            target();
-        }
-    }
+    if (enabled_)
+        presses_.emit(event);
 }
 
 void Button::tap() {

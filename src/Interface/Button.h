@@ -47,7 +47,7 @@ private:
     ColorRef titleColor_ = ColorRef::black();
     ColorRef disabledTitleColor_ = ColorRef::named("disabled");
     Menu menu_;
-    std::vector<std::pair<PressEvent, std::function<void()>>> targets_;
+    Signal<PressEvent> presses_;
     bool enabled_ = true;
 };
 

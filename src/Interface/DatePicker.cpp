@@ -59,10 +59,7 @@ void DatePicker::turn(std::size_t wheelIndex, int row) {
 
 void DatePicker::pick(Instant date) {
     setDate(date);
-    for (std::size_t index = 0; index < targets_.size(); ++index) {
-        const auto target = targets_[index];
-        target();
-    }
+    targets_.emit();
 }
 
 DatePicker::Wheel DatePicker::dayWheel() const {

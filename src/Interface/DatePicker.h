@@ -39,7 +39,7 @@ public:
     /// The user picks a moment in one go: as turning all wheels there.
     void pick(Instant date);
 
-    void addValueChangedTarget(std::function<void()> target) { targets_.push_back(std::move(target)); }
+    void addValueChangedTarget(std::function<void()> target) { targets_.add(std::move(target)); }
 
 private:
     [[nodiscard]] Wheel dayWheel() const;
@@ -55,7 +55,7 @@ private:
     const Calendar& calendar_;
     const DateFormatters& formatters_;
     Instant date_;
-    std::vector<std::function<void()>> targets_;
+    Signal<> targets_;
 };
 
 } // namespace tessivo::ui

@@ -35,19 +35,16 @@ public:
         if (index == selectedIndex_ || index < 0 || static_cast<std::size_t>(index) >= titles_.size())
             return;
         setSelectedIndex(index);
-        for (std::size_t target = 0; target < targets_.size(); ++target) {
-            const auto call = targets_[target];
-            call();
-        }
+        targets_.emit();
     }
 
-    void addValueChangedTarget(std::function<void()> target) { targets_.push_back(std::move(target)); }
+    void addValueChangedTarget(std::function<void()> target) { targets_.add(std::move(target)); }
 
 private:
     std::vector<std::string> titles_;
     int selectedIndex_ = -1;
     ColorRef selectedTint_;
-    std::vector<std::function<void()>> targets_;
+    Signal<> targets_;
 };
 
 } // namespace tessivo::ui

@@ -19,12 +19,16 @@ public:
     using Slot = std::function<void(Arguments...)>;
 
     Subscription subscribe(Slot slot) {
-        const auto identifier = ++state_->lastIdentifier;
-        state_->slots.emplace_back(identifier, std::make_shared<Slot>(std::move(slot)));
-        return Subscription([identifier, weak = std::weak_ptr(state_)] {
+        add(std::move(slot));
+        return Subscription([identifier = state_->lastIdentifier, weak = std::weak_ptr(state_)] {
             if (const auto state = weak.lock())
                 state->leave(identifier);
         });
+    }
+
+    /// Subscribes for as long as the signal lives.
+    void add(Slot slot) {
+        state_->slots.emplace_back(++state_->lastIdentifier, std::make_shared<Slot>(std::move(slot)));
     }
 
     void emit(Arguments... arguments) const {

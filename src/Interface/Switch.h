@@ -19,17 +19,14 @@ public:
     /// The user's change: turns it over and calls the value-changed targets.
     void toggle() {
         setOn(!on_);
-        for (std::size_t index = 0; index < targets_.size(); ++index) {
-            const auto target = targets_[index];
-            target();
-        }
+        targets_.emit();
     }
 
-    void addValueChangedTarget(std::function<void()> target) { targets_.push_back(std::move(target)); }
+    void addValueChangedTarget(std::function<void()> target) { targets_.add(std::move(target)); }
 
 private:
     bool on_ = false;
-    std::vector<std::function<void()>> targets_;
+    Signal<> targets_;
 };
 
 } // namespace tessivo::ui

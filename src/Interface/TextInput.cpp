@@ -35,10 +35,7 @@ bool TextInput::edit(TextRange range, const std::string& replacement) {
     if (const auto asked = delegate.lock(); asked && !asked->shouldChangeText(*this, range, replacement))
         return false;
     setText(replacing(text_, range, replacement));
-    for (std::size_t index = 0; index < targets_.size(); ++index) {
-        const auto target = targets_[index];
-        target();
-    }
+    targets_.emit();
     return true;
 }
 

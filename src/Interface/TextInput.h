@@ -47,7 +47,7 @@ public:
     void endEditing();
     [[nodiscard]] bool isEditing() const { return editing_; }
 
-    void addEditingChangedTarget(std::function<void()> target) { targets_.push_back(std::move(target)); }
+    void addEditingChangedTarget(std::function<void()> target) { targets_.add(std::move(target)); }
 
     std::weak_ptr<TextInputDelegate> delegate;
 
@@ -57,7 +57,7 @@ private:
     ColorRef textColor_ = ColorRef::black();
     Insets textInsets_;
     bool editing_ = false;
-    std::vector<std::function<void()>> targets_;
+    Signal<> targets_;
 };
 
 /// Editable text of one line, with a placeholder that shows while it is empty.
