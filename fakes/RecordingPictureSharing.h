@@ -17,8 +17,10 @@ public:
         Done done;
     };
 
-    void save(std::shared_ptr<const Bitmap> picture, Done done) override {
-        shared.push_back({"save", std::move(picture), std::move(done)});
+    void save(std::shared_ptr<const Bitmap> picture, Saved saved) override {
+        shared.push_back({"save", std::move(picture), [this, saved](const Outcome& outcome) {
+                              saved(outcome ? Result<std::string>(*outcome) : Result(savedPath));
+                          }});
     }
     void copy(std::shared_ptr<const Bitmap> picture, Done done) override {
         shared.push_back({"copy", std::move(picture), std::move(done)});
@@ -31,6 +33,7 @@ public:
     }
 
     std::vector<Shared> shared;
+    std::string savedPath = "/home/user/Pictures/Tessivo.png";
 };
 
 } // namespace tessivo::fakes

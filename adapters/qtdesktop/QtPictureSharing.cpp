@@ -29,10 +29,13 @@ QtPictureSharing::QtPictureSharing(Folders folders, const QDBusConnection& bus, 
       mainQueue_(mainQueue),
       portal_(bus) {}
 
-void QtPictureSharing::save(std::shared_ptr<const Bitmap> picture, Done done) {
+void QtPictureSharing::save(std::shared_ptr<const Bitmap> picture, Saved saved) {
     write(desktop::keepPicture, folders_.pictures, std::move(picture),
-          [done = std::move(done)](const Written& written) {
-              done(written ? Outcome() : Outcome(written.error()));
+          [saved = std::move(saved)](const Written& written) {
+              if (written)
+                  saved(written.value().string());
+              else
+                  saved(written.error());
           });
 }
 

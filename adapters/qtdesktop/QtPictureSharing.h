@@ -28,7 +28,7 @@ public:
     QtPictureSharing(Folders folders, const QDBusConnection& bus, const ImageCoding& images,
                      WorkQueue& background, MainQueue& mainQueue);
 
-    void save(std::shared_ptr<const Bitmap> picture, Done done) override;
+    void save(std::shared_ptr<const Bitmap> picture, Saved saved) override;
     void copy(std::shared_ptr<const Bitmap> picture, Done done) override;
     void open(std::shared_ptr<const Bitmap> picture, Done done) override;
     void mail(std::shared_ptr<const Bitmap> picture, Done done) override;

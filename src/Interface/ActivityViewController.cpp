@@ -5,11 +5,11 @@
 namespace tessivo::ui {
 namespace {
 
-void tell(ViewController& screen, WindowContext& window, const char* failure, const Error& error) {
+void showAlert(ViewController& screen, WindowContext& window, const char* title, const std::string& message) {
     ViewController* top = &screen;
     while (auto* above = top->presentedViewController())
         top = above;
-    auto alert = std::make_shared<AlertController>(window, AlertStyle::Alert, failure, error.description);
+    auto alert = std::make_shared<AlertController>(window, AlertStyle::Alert, title, message);
     alert->addAction({"OK", AlertActionStyle::Cancel, {}});
     top->present(std::move(alert));
 }
@@ -23,7 +23,7 @@ ActivityViewController::ActivityViewController(WindowContext& window, PictureSha
     preview.setImage({"", picture_});
     preview.setContentMode(ContentMode::AspectFit);
     preview.setAccessibilityName("The picture to share");
-    offer(saveButton, "Save", "shareSave", &PictureSharing::save, "The Picture Was Not Saved");
+    offerSaving();
     offer(copyButton, "Copy", "shareCopy", &PictureSharing::copy, "The Picture Was Not Copied");
     offer(openButton, "Open", "shareOpen", &PictureSharing::open, "The Picture Was Not Opened");
     offer(mailButton, "Mail", "shareMail", &PictureSharing::mail, "The Picture Was Not Sent");
@@ -32,24 +32,46 @@ ActivityViewController::ActivityViewController(WindowContext& window, PictureSha
     cancelButton.addTarget(PressEvent::UpInside, [this] { dismiss(); });
 }
 
-void ActivityViewController::offer(Button& button, const char* title, const char* image, Act act,
-                                   const char* failure) {
+void ActivityViewController::offer(Button& button, const char* title, const char* image,
+                                   std::function<void(Tell)> act) {
     button.setTitle(title);
     button.setImageName(image);
-    button.addTarget(PressEvent::UpInside, [this, act, failure] { perform(act, failure); });
+    button.addTarget(PressEvent::UpInside, [this, act = std::move(act)] {
+        ViewController* below = presentingViewController();
+        if (!below)
+            return; // a second press on a sheet that is on its way out
+        act(tellOver(*below));
+        dismiss();
+    });
 }
 
-void ActivityViewController::perform(Act act, const char* failure) {
-    ViewController* below = presentingViewController();
-    if (!below)
-        return; // a second press on a sheet that is on its way out
-    auto tellFailure = [presenter = below->weak_from_this(), &window = window(), failure](Outcome outcome) {
-        const auto screen = presenter.lock();
-        if (outcome && screen)
-            tell(*screen, window, failure, *outcome);
-    };
-    (sharing_.*act)(picture_, std::move(tellFailure));
-    dismiss();
+void ActivityViewController::offer(Button& button, const char* title, const char* image, HandOver act,
+                                   const char* failure) {
+    offer(button, title, image, [this, act, failure](Tell tell) {
+        (sharing_.*act)(picture_, [tell = std::move(tell), failure](const Outcome& outcome) {
+            if (outcome)
+                tell(failure, outcome->description);
+        });
+    });
+}
+
+void ActivityViewController::offerSaving() {
+    offer(saveButton, "Save", "shareSave", [this](Tell tell) {
+        sharing_.save(picture_, [tell = std::move(tell)](const Result<std::string>& path) {
+            if (path)
+                tell("The Picture Was Saved", path.value());
+            else
+                tell("The Picture Was Not Saved", path.error().description);
+        });
+    });
+}
+
+ActivityViewController::Tell ActivityViewController::tellOver(ViewController& screen) {
+    return
+        [weak = screen.weak_from_this(), &window = window()](const char* title, const std::string& message) {
+            if (const auto standing = weak.lock())
+                showAlert(*standing, window, title, message);
+        };
 }
 
 } // namespace tessivo::ui

@@ -5,10 +5,14 @@
 #include "Interface/ViewController.h"
 #include "Ports/PictureSharing.h"
 
+#include <functional>
+#include <string>
+
 namespace tessivo::ui {
 
 /// The share sheet: one picture, and what can be done with it. An act hands the picture over and takes the
-/// sheet away; where it fails, an alert says so on the screen that is on top by then.
+/// sheet away. Where it fails, and where a picture was saved to, an alert says on the screen that is on top
+/// by then.
 class ActivityViewController final : public ViewController {
 public:
     /// `sharing` outlives the sheet.
@@ -25,10 +29,14 @@ public:
     Button cancelButton{controls, "cancelButton"};
 
 private:
-    using Act = void (PictureSharing::*)(std::shared_ptr<const Bitmap>, PictureSharing::Done);
+    /// Says something to the user later, on the screen that is on top by then.
+    using Tell = std::function<void(const char* title, const std::string& message)>;
+    using HandOver = void (PictureSharing::*)(std::shared_ptr<const Bitmap>, PictureSharing::Done);
 
-    void offer(Button& button, const char* title, const char* image, Act act, const char* failure);
-    void perform(Act act, const char* failure);
+    void offer(Button& button, const char* title, const char* image, std::function<void(Tell)> act);
+    void offer(Button& button, const char* title, const char* image, HandOver act, const char* failure);
+    void offerSaving();
+    [[nodiscard]] Tell tellOver(ViewController& screen);
 
     PictureSharing& sharing_;
     std::shared_ptr<const Bitmap> picture_;

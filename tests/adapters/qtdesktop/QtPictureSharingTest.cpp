@@ -17,6 +17,7 @@
 
 #include <chrono>
 #include <fstream>
+#include <functional>
 #include <iterator>
 
 namespace tessivo {
@@ -63,17 +64,24 @@ protected:
 
     using Act = void (PictureSharing::*)(std::shared_ptr<const Bitmap>, PictureSharing::Done);
 
-    /// Shares the picture and waits for the answer, which must not come inline.
-    Outcome share(Act act) {
-        std::optional<Outcome> answer;
-        (static_cast<PictureSharing&>(sharing).*act)(picture, [&](Outcome outcome) { answer = outcome; });
+    /// Asks and waits for the answer, which must not come inline.
+    template <class Answer>
+    Answer await(const std::function<void(std::function<void(Answer)>)>& ask) {
+        std::optional<Answer> answer;
+        ask([&](Answer given) { answer = std::move(given); });
         EXPECT_FALSE(answer);
         QElapsedTimer timer;
         timer.start();
         while (!answer && timer.elapsed() < 10'000)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
-        EXPECT_TRUE(answer) << "nobody answered";
-        return answer.value_or(std::nullopt);
+        return answer.value_or(Error{"Test", 0, "Nobody answered."});
+    }
+    Outcome share(Act act) {
+        return await<Outcome>(
+            [&](auto answer) { (static_cast<PictureSharing&>(sharing).*act)(picture, std::move(answer)); });
+    }
+    Result<std::string> save() {
+        return await<Result<std::string>>([&](auto answer) { sharing.save(picture, std::move(answer)); });
     }
 
     [[nodiscard]] std::string called() const { return read(folder / "called"); }
@@ -92,23 +100,26 @@ protected:
 TEST_F(Sharing, EachPictureIsSavedBesideTheOthersAndReplacesNone) {
     fs::create_directories(folder / "Pictures");
     std::ofstream(folder / "Pictures" / "Tessivo 2.png") << "the user's own";
-    EXPECT_EQ(share(&PictureSharing::save), std::nullopt);
-    EXPECT_EQ(share(&PictureSharing::save), std::nullopt);
-    EXPECT_EQ(read(folder / "Pictures" / "Tessivo 2.png"), "the user's own");
-    for (const auto* name : {"Tessivo.png", "Tessivo 3.png"})
+    for (const auto* name : {"Tessivo.png", "Tessivo 3.png"}) {
+        const auto saved = save();
+        ASSERT_TRUE(saved) << saved.error().description;
+        EXPECT_EQ(saved.value(), (folder / "Pictures" / name).string());
         EXPECT_EQ(*images.decode(read(folder / "Pictures" / name), {}), *picture) << name;
+    }
+    EXPECT_EQ(read(folder / "Pictures" / "Tessivo 2.png"), "the user's own");
 }
 
 TEST_F(Sharing, APictureThatCannotBeSavedIsAnErrorThatNamesThePlace) {
     std::ofstream(folder / "Pictures") << "a file where the folder should be";
-    const auto outcome = share(&PictureSharing::save);
-    ASSERT_TRUE(outcome);
-    EXPECT_THAT(outcome->description, HasSubstr((folder / "Pictures").string()));
+    const auto saved = save();
+    ASSERT_FALSE(saved);
+    EXPECT_THAT(saved.error().description, HasSubstr((folder / "Pictures").string()));
 }
 
 TEST_F(Sharing, ABrokenPictureIsAnErrorAndLeavesNoFile) {
     picture = std::make_shared<Bitmap>(Bitmap{2, 2, {1, 2, 3}});
-    for (const Act act : {&PictureSharing::save, &PictureSharing::copy, &PictureSharing::open})
+    EXPECT_FALSE(save());
+    for (const Act act : {&PictureSharing::copy, &PictureSharing::open})
         EXPECT_TRUE(share(act));
     EXPECT_FALSE(fs::exists(folder / "Pictures"));
 }
