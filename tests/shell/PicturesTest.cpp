@@ -25,8 +25,8 @@ double luminance(const QColor& color) {
 
 TEST(CardPicture, WhiteTextReadsOnAnyPictureAndADarkOneStaysAsItIs) {
     const QSizeF size(358, 200);
-    for (const QColor& ground : {QColor(Qt::white), QColor("#ffee58"), QColor("#7ec8e3"), QColor("#9e9e9e"),
-                                 QColor("#303f9f"), QColor(Qt::black)}) {
+    for (const QColor& ground : {QColor(Qt::white), QColor("#ffee58"), QColor("#7ec8e3"), QColor("#00ff00"),
+                                 QColor("#9e9e9e"), QColor("#303f9f"), QColor(Qt::black)}) {
         QImage picture(100, 100, QImage::Format_RGBA8888);
         picture.fill(ground);
         const QImage card = shell::cardPicture(picture, size, 2, 16, ui::ContentMode::AspectFill);
