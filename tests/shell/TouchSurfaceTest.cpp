@@ -209,6 +209,11 @@ TEST_F(TouchSurfaceTest, AFingerThatRestsOpensTheMenuAndTapsNothing) {
     hold(inItem(2));
     ASSERT_TRUE(runUntil([this] { return hand.find(QStringLiteral("Edit")) != nullptr; }));
     letGo(inItem(2));
+    const QQuickItem& row = *hand.find(QStringLiteral("Edit"));
+    EXPECT_TRUE(runUntil([&] {
+        const QImage drawn = window.grabWindow();
+        return drawn.pixelColor((middleOf(row) * drawn.devicePixelRatio()).toPoint()) == QColor(Qt::white);
+    })) << "its rows stand on a ground of their own";
 
     hand.tap(QStringLiteral("Edit"));
     hand.tap(QStringLiteral("Edit Title"));

@@ -93,12 +93,16 @@ void Finger::tapAt(QPointF point) {
     settle();
 }
 
-void Finger::drag(QPointF from, QPointF to) {
+void Finger::drag(QPointF from, QPointF to, const std::function<void()>& halfWay) {
     QTest::touchEvent(&window_, device_).press(0, from.toPoint());
     for (int step = 1; step <= stepsOfADrag; ++step) {
         const QPointF point = from + (to - from) * step / stepsOfADrag;
         QTest::qWait(16);
         QTest::touchEvent(&window_, device_).move(0, point.toPoint());
+        if (halfWay && step == stepsOfADrag / 2) {
+            QTest::qWait(100);
+            halfWay();
+        }
     }
     QTest::qWait(200);
     QTest::touchEvent(&window_, device_).release(0, to.toPoint());

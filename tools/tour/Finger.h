@@ -4,6 +4,8 @@
 #include <QRectF>
 #include <QString>
 
+#include <functional>
+
 class QPointingDevice;
 class QQuickItem;
 class QQuickWindow;
@@ -21,8 +23,9 @@ public:
     void tap(const QString& name);
     /// Touches a point of the window.
     void tapAt(QPointF point);
-    /// Drags from one point to another in small steps, and rests before letting go.
-    void drag(QPointF from, QPointF to);
+    /// Drags from one point to another in small steps, and rests before letting go. Half-way it rests too,
+    /// where something is to be done there.
+    void drag(QPointF from, QPointF to, const std::function<void()>& halfWay = {});
     /// Touches a point and rests there, until whatever comes of that has come.
     void hold(QPointF point);
     void press(Qt::Key key);

@@ -3,7 +3,6 @@
 #include "AddEventVC/ImagePickerController.h"
 #include "AddEventVC/UnsplahImageView.h"
 #include "Interface/CollectionView.h"
-#include "Interface/TabBarController.h"
 #include "Tour.h"
 #include "UnsplashPicker/PhotoCell.h"
 #include "UnsplashPicker/UnsplashPicker.h"
@@ -116,17 +115,14 @@ void Tour::chooseFromLibrary() {
 }
 
 void Tour::showPictureCards() {
-    auto& list =
-        dynamic_cast<ui::TabBarController&>(*program_.stack().top()).selectedViewController()->controls;
-    auto& cards = dynamic_cast<ui::CollectionView&>(*list.find("collection"));
-    cards.scrollToItem(cards.numberOfItems() - 1);
+    const int last = cards().numberOfItems() - 1;
+    cards().scrollToItem(last);
     finger_.settle();
     picture("picture-cards");
-    const double middle = window_.width() / 2.0;
-    const double height = window_.height() * 0.6;
-    finger_.drag({middle + 100, height}, {middle - 80, height});
+    swipeCard(last);
     picture("picture-card-open");
-    finger_.drag({middle - 80, height}, {middle + 100, height});
+    const QPointF middle = middleOfCard(last);
+    finger_.drag(middle - QPointF(80, 0), middle + QPointF(100, 0));
 }
 
 } // namespace tessivo::tour

@@ -4,7 +4,7 @@
 #include "Interface/Button.h"
 #include "Interface/CollectionView.h"
 #include "Interface/Label.h"
-#include "Interface/SegmentedControl.h"
+#include "Interface/TabBarController.h"
 #include "Interface/TextInput.h"
 #include "Support/LocalizationVariables.h"
 #include "app/Composition.h"
@@ -42,7 +42,7 @@ void Tour::run() {
     addEvent({"Up Before the Sun", -1, 1, 1, 2, -1, -1, false, Picture::Library});
     finger_.tap(QStringLiteral("Future"));
     picture("future");
-    swipeCard();
+    useCards();
     showPictureCards();
     addEvent({"First Day at Work", 0, -1, -2, 4, -1, 13, false});
     addEvent({"Moved House", -2, -1, 0, 1, 22, -1, false});
@@ -50,21 +50,38 @@ void Tour::run() {
     picture("past");
 }
 
-void Tour::swipeCard() {
-    const double middle = window_.width() / 2.0;
-    const double height = stage_.size.height() / 5.0;
-    finger_.drag({middle + 100, height}, {middle - 80, height});
+ui::CollectionView& Tour::cards() const {
+    const auto& tabs = dynamic_cast<ui::TabBarController&>(*program_.stack().top());
+    return dynamic_cast<ui::CollectionView&>(*tabs.selectedViewController()->controls.find("collection"));
+}
+
+QPointF Tour::middleOfCard(int item) {
+    return finger_.placeOf(QString::fromStdString(cards().cellForItem(item)->accessibilityName())).center();
+}
+
+void Tour::swipeCard(int item, const char* halfWay) {
+    const QPointF middle = middleOfCard(item);
+    finger_.drag(middle + QPointF(100, 0), middle - QPointF(80, 0),
+                 [&] { pictureIf(halfWay != nullptr, halfWay); });
+}
+
+void Tour::useCards() {
+    swipeCard(0, "swipe");
     picture("open-row");
     finger_.tap(QStringLiteral("Edit"));
     picture("edit-sheet");
     finger_.tap(QStringLiteral("Cancel"));
-    finger_.drag({middle + 100, height}, {middle - 80, height});
+    swipeCard(1, "swipe-solid");
+    picture("open-row-solid");
     finger_.tap(QStringLiteral("Delete"));
     picture("delete-sheet");
     finger_.tap(QString::fromStdString(program_.services().localizationVariables().alertNo));
     finger_.tap(QStringLiteral("Share"));
     picture("share-sheet");
     finger_.tap(QStringLiteral("Cancel"));
+    finger_.hold(middleOfCard(0));
+    picture("menu");
+    finger_.press(Qt::Key_Escape);
 }
 
 void Tour::addEvent(const Wish& wish) {

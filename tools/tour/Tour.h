@@ -7,6 +7,9 @@
 
 namespace tessivo {
 class Composition;
+namespace ui {
+class CollectionView;
+}
 namespace unsplash {
 class UnsplashPickerViewController;
 }
@@ -37,10 +40,15 @@ private:
         Picture picture = Picture::None; ///< in place of colour and gradient
     };
 
-    /// Opens the first card and looks at what its buttons lead to.
-    void swipeCard();
+    /// Opens cards, and looks at what their buttons and their menu lead to.
+    void useCards();
     /// Scrolls to the cards with pictures, and opens the last one.
     void showPictureCards();
+    /// Swipes a card open, with a picture on the way if it is named.
+    void swipeCard(int item, const char* halfWay = nullptr);
+    /// The list in front.
+    [[nodiscard]] ui::CollectionView& cards() const;
+    [[nodiscard]] QPointF middleOfCard(int item);
     void addEvent(const Wish& wish);
     void chooseDay(const Wish& wish);
     void chooseTimeAndRepeat(const Wish& wish);

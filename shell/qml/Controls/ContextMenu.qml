@@ -10,6 +10,8 @@ T.Popup {
     property Item opener // had the keyboard, and gets it back unless a choice opens something
 
     width: 256
+    height: implicitContentHeight + topPadding + bottomPadding
+    verticalPadding: 4
     margins: 12
     modal: true
     focus: true

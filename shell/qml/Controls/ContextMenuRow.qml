@@ -40,6 +40,7 @@ T.AbstractButton {
             text: row.title
             font.pixelSize: Theme.body
             color: Theme.ink
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
         Icon {
