@@ -15,8 +15,8 @@ namespace tessivo::swipe {
 struct SwipeActionTransitioningContext {
     std::optional<std::string> actionIdentifier;
     ui::Button& button;
-    double newPercentVisible;
-    double oldPercentVisible;
+    double newPercentVisible = 0;
+    double oldPercentVisible = 0;
     ui::View& wrapperView;
     ui::Animations& animations;
 };

@@ -50,7 +50,7 @@ void SwipeActionsView::buildButtons(ui::Size maximumSize) {
     double imageHeight = 0;
     for (const auto& action : actions_) {
         auto& button = buttonStore_.emplace_back(*action, environment_.texts);
-        button.addTarget(ui::PressEvent::UpInside, [this, &button] { actionTapped(button); });
+        button.addTarget(ui::PressEvent::UpInside, [this, index = buttons_.size()] { actionTapped(index); });
         button.spacing = options_.buttonSpacing.value_or(defaultButtonMargin);
         button.contentInsets = {padding, padding, padding, padding};
         button.verticalAlignment = options_.buttonVerticalAlignment;
@@ -209,13 +209,11 @@ void SwipeActionsView::setExpanded(bool expanded, bool feedback) {
                                    std::span(reversedButtons_).subspan(1));
 }
 
-void SwipeActionsView::actionTapped(const SwipeActionButton& button) {
+void SwipeActionsView::actionTapped(std::size_t index) {
     // The action may take the row away while its button is still calling: it goes in a later turn.
     environment_.mainQueue.post([self = shared_from_this()] {});
-    const auto told = delegate.lock();
-    const auto found = std::ranges::find(buttons_, &button);
-    if (told && found != buttons_.end())
-        told->didSelect(*this, actions_[static_cast<std::size_t>(found - buttons_.begin())]);
+    if (const auto told = delegate.lock())
+        told->didSelect(*this, actions_[index]);
 }
 
 std::unique_ptr<ui::View> SwipeActionsView::makeDeletionMask() const {

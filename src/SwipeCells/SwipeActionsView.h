@@ -82,7 +82,7 @@ protected:
 private:
     void buildButtons(ui::Size maximumSize);
     void addWrapper(std::size_t index);
-    void actionTapped(const SwipeActionButton& button);
+    void actionTapped(std::size_t index);
     [[nodiscard]] double safeMargin() const;
     [[nodiscard]] ActionsViewLayoutContext makeContext() const;
     [[nodiscard]] const SwipeExpanding* expansionDelegate() const;

@@ -10,7 +10,6 @@ namespace tessivo::swipe {
 
 SwipeCell::SwipeCell(SwipeEnvironment environment, Container container)
     : environment_(environment), container_(container) {
-    this->container().setClipsToBounds(false);
     controller_ = SwipeController::make(std::move(environment), *this, this->container(), *this);
 }
 
@@ -100,11 +99,7 @@ bool SwipeCell::pointInside(ui::Point point) {
                       !covers(other->frame(), inList);
         }
         if (beside) {
-            const auto views = scroll->subviews();
-            for (ui::View* view : views) {
-                if (auto* const other = dynamic_cast<SwipeCell*>(view); other && other->indexPath())
-                    other->hideSwipe(true);
-            }
+            controller_->hideCells(nullptr);
             return false;
         }
     }

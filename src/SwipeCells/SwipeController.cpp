@@ -249,10 +249,12 @@ void SwipeController::setSwipeOffset(double offset, bool animated, Completion co
     const double reach = std::copysign(std::min(cell().bounds().width, distance), offset);
     const double target =
         distance == std::numeric_limits<double>::max() ? targetCenter(true) : cell().bounds().midX() + reach;
-    if (animated)
+    if (animated) {
         animateTo(target, settleDuration, 0, std::move(completion));
-    else
+    } else {
+        stopAnimator(); // what has been under way would end in its own place
         moveTo(target);
+    }
 }
 
 void SwipeController::reset() {

@@ -56,6 +56,8 @@ public:
     /// Opens the cell by `offset`: to the right above 0, to the left below; 0 closes it. The largest length
     /// there is opens it as far as the row is wide.
     void setSwipeOffset(double offset, bool animated, Completion completion = {});
+    /// Closes, animated, all cells of the list but `except`, which may be null.
+    void hideCells(const Swipeable* except);
     /// The state and the row only; the container stays where it is.
     void reset();
     /// Another item may take the cell: whatever moves stops, so that nothing of this item's swipe is left
@@ -102,7 +104,6 @@ private:
 
     [[nodiscard]] ui::View& cell() const { return swipeable_->swipedView(); }
     [[nodiscard]] Swipeable* firstCell(bool (*condition)(const Swipeable&)) const;
-    void hideCells(const Swipeable* except);
 
     SwipeEnvironment environment_;
     Swipeable* swipeable_;

@@ -79,7 +79,7 @@ void SwipeController::fillEnded(SwipeActionsOrientation orientation, int indexPa
         delegate_->didEndEditing(*this, orientation);
     if (style == ExpansionFulfillmentStyle::Reset)
         hideSwipe(true);
-    else
+    else if (swipeable_)
         removeCell(indexPath, newCenter, timing);
 }
 

@@ -206,6 +206,7 @@ TEST_F(SwipeActionsViewTest, GroundsAreTheActionsOwnOrThoseOfItsStyle) {
     EXPECT_EQ(groundOf(0), std::nullopt);
     EXPECT_NE(dynamic_cast<VisualEffectView*>(view.subviews()[0]), nullptr);
     EXPECT_EQ(view.backgroundColor(), ui::ColorRef::of(plain));
+    EXPECT_TRUE(view.clipsToBounds());
     // A button without a ground of its own shows no press.
     for (ui::Button* button : view.buttons())
         button->press(ui::PressEvent::Down);
@@ -213,6 +214,145 @@ TEST_F(SwipeActionsViewTest, GroundsAreTheActionsOwnOrThoseOfItsStyle) {
     for (const ui::Button* button : view.buttons())
         highlights.push_back(button->backgroundColor() == ui::ColorRef::of({0, 0, 0, 0.1}));
     EXPECT_THAT(highlights, ElementsAre(false, false, true, true, true));
+    list->options.backgroundColor = ui::ColorRef::named("mainBack");
+    EXPECT_EQ(show().backgroundColor(), ui::ColorRef::named("mainBack"));
+}
+
+TEST_F(SwipeActionsViewTest, AButtonLooksAsItsActionSaysAtRestAndWhilePressed) {
+    const auto red = ui::ColorRef::of({1, 0, 0, 1});
+    const auto green = ui::ColorRef::of({0, 1, 0, 1});
+    const ui::Font large{21, ui::FontWeight::Bold};
+    add("plain")->image = picture(20, 20);
+    const auto own = add("own");
+    own->font = large;
+    own->textColor = red;
+    own->highlightedTextColor = green;
+    own->highlightedBackgroundColor = green;
+    own->image = picture(20, 20);
+    own->highlightedImage = ActionImage{ui::Image::named("pressed"), {20, 20}};
+    add("red")->textColor = red;
+    const auto& view = show();
+    const struct {
+        const char* what;
+        std::size_t index;
+        ui::Font font;
+        ui::ColorRef text, pressedText, pressedGround;
+        std::string pressedImage;
+    } rows[] = {{"the standard",
+                 2,
+                 {15, ui::FontWeight::Medium},
+                 ui::ColorRef::white(),
+                 ui::ColorRef::white(),
+                 ui::ColorRef::of({0, 0, 0, 0.1}),
+                 "picture"},
+                {"its own", 1, large, red, green, green, "pressed"},
+                {"tinted by its text",
+                 0,
+                 {15, ui::FontWeight::Medium},
+                 red,
+                 red,
+                 ui::ColorRef::of({0, 0, 0, 0.1}),
+                 ""}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        const auto& button = view.button(row.index);
+        const auto pressed = [&](ui::PressEvent event) { view.buttons()[row.index]->press(event); };
+        const auto imageName = [&] {
+            return button.presentImage() ? button.presentImage()->image.name : std::string();
+        };
+        EXPECT_EQ(button.font(), row.font);
+        EXPECT_EQ(button.presentTitleColor(), row.text);
+        pressed(ui::PressEvent::Down);
+        EXPECT_TRUE(button.isHighlighted());
+        EXPECT_EQ(button.presentTitleColor(), row.pressedText);
+        EXPECT_EQ(button.backgroundColor(), row.pressedGround);
+        EXPECT_EQ(imageName(), row.pressedImage);
+        pressed(ui::PressEvent::UpOutside);
+        EXPECT_FALSE(button.isHighlighted());
+        EXPECT_EQ(button.presentTitleColor(), row.text);
+        EXPECT_EQ(button.backgroundColor(), ui::ColorRef::clear());
+        EXPECT_EQ(imageName(), row.pressedImage.empty() ? "" : "picture");
+    }
+    EXPECT_TRUE(list->heard.back().starts_with("begin")) << "let go beside, nothing was chosen";
+}
+
+/// Notes what it is asked and told, and takes its own time.
+class NotingExpansion final : public SwipeExpanding {
+public:
+    SwipeExpansionAnimationTimingParameters timingParameters(std::span<ui::Button* const> buttons,
+                                                             bool expanding) const override {
+        note("asked", expanding, buttons);
+        return {Seconds(0.4), Seconds(0.2)};
+    }
+    void buttonDidChange(ui::Animations&, ui::Button& button, bool expanding,
+                         std::span<ui::Button* const> others) const override {
+        note("told of " + button.title(), expanding, others);
+    }
+    mutable std::vector<std::string> heard;
+
+private:
+    void note(std::string what, bool expanding, std::span<ui::Button* const> buttons) const {
+        what += expanding ? " out:" : " in:";
+        for (const auto* button : buttons)
+            what += " " + button->title();
+        heard.push_back(what);
+    }
+};
+
+TEST_F(SwipeActionsViewTest, TheOwnersDelegateTimesAndAccompaniesTheExpansion) {
+    const auto expansion = std::make_shared<NotingExpansion>();
+    for (const bool owned : {true, false}) {
+        SCOPED_TRACE(owned ? "the owner's" : "none");
+        list = SwipeList::make();
+        for (const char* title : {"A", "B", "C"}) // A nearest the far edge
+            add(title);
+        list->options.expansionStyle = SwipeExpansionStyle::bounceAtHalf();
+        list->options.transitionStyle = SwipeTransitionStyle::Drag;
+        if (owned)
+            list->options.expansionDelegate = expansion;
+        auto& view = show();
+        const auto& last = *view.subviews().back();
+        const double duration = owned ? 0.4 : 0.6;
+        view.setExpanded(true, false);
+        ui::View guide;
+        guide.setAnimations(&list->animations);
+        guide.setCenterX(148 - view.bounds().x);
+        const auto animator =
+            ui::PropertyAnimator::make(list->animations, ui::DampedOver{Seconds(duration), 1});
+        animator->addAnimations([&] { guide.setCenterX(0); });
+        animator->startAnimation(Seconds(owned ? 0.2 : 0));
+        for (int frame = 0; frame < 20; ++frame) {
+            ASSERT_NEAR(last.drawnFrame().x - view.bounds().x,
+                        guide.drawnValue(ui::AnimatableProperty::CenterX), 1e-9)
+                << frame;
+            list->line.advance(Seconds(1 / 30.0));
+        }
+        view.setExpanded(true, false);
+        view.setExpanded(false, false);
+        EXPECT_EQ(expansion->heard.size(), 4U) << "nothing for what it is already, and none without it";
+    }
+    EXPECT_THAT(expansion->heard, ElementsAre("asked out: A B C", "told of A out: B C", "asked in: A B C",
+                                              "told of A in: B C"));
+}
+
+TEST_F(SwipeActionsViewTest, AChangeOfMindTurnsTheExpansionAroundWhereItIsDrawn) {
+    add("A");
+    add("B");
+    list->options.expansionStyle = SwipeExpansionStyle::bounceAtHalf();
+    list->options.transitionStyle = SwipeTransitionStyle::Drag;
+    auto& view = show();
+    const auto& last = *view.subviews().back();
+    view.setExpanded(true, false);
+    list->line.advance(Seconds(0.1));
+    const double drawn = last.drawnFrame().x;
+    ASSERT_LT(drawn, 73);
+    ASSERT_GT(drawn, 1);
+    view.setExpanded(false, false);
+    EXPECT_EQ(last.frame().x, 74);
+    EXPECT_DOUBLE_EQ(last.drawnFrame().x, drawn);
+    list->line.advance(Seconds(0.65));
+    EXPECT_DOUBLE_EQ(last.drawnFrame().x, 74);
+    EXPECT_FALSE(list->line.framesAreAskedFor());
 }
 
 } // namespace

@@ -111,6 +111,65 @@ TEST(SwipeExpansionStyleTest, OverscrollIsThatOfTheCellItself) {
                                             list->cell(1).contentView.frame()));
 }
 
+TEST(SwipeExpansionStyleTest, AThresholdIsACrossingOfTheListWhereTheCellItselfMoves) {
+    const auto owner = SwipeTable::make();
+    owner->options.expansionStyle = SwipeExpansionStyle::deleteAtFill();
+    openRow(*owner, Side::Right, 1, 74);
+    owner->change(1, -150, -100);
+    EXPECT_FALSE(owner->cell(1).actionsView()->expanded()) << "asked before the move";
+    owner->change(1, -155, -100);
+    EXPECT_TRUE(owner->cell(1).actionsView()->expanded());
+}
+
+TEST(SwipeExpansionStyleTest, AtItsTargetARowExpandsWithoutAJump) {
+    for (const double way : {-289.0, -290.0}) {
+        const auto list = SwipeList::make();
+        list->options.expansionStyle = SwipeExpansionStyle::deleteAtFill();
+        openRow(*list, Side::Right, 1, 74);
+        list->change(1, -120, -100);
+        list->change(1, way, -100);
+        EXPECT_TRUE(list->cell(1).actionsView()->expanded());
+        EXPECT_EQ(list->cell(1).swipeController().isSettling(), way > -290);
+        EXPECT_EQ(list->centerX(1), 160 - 290);
+    }
+}
+
+TEST(SwipeExpansionStyleTest, ReadyMadeStylesAreWhatTheirNamesSay) {
+    using With = HandlerInvocationTiming;
+    const struct {
+        Style style;
+        bool half, elastic, bounces, deletes;
+        With timing;
+        std::optional<double> threshold, overscroll;
+    } rows[] = {{Style::bounceAtHalf(), true, true, true, false, {}, {}, {}},
+                {Style::deleteAtFill(), false, false, false, true, With::With, 0.8, {}},
+                {Style::deleteAfterFill(), false, false, false, true, With::After, 0.8, {}},
+                {Style::deleteAtFill(false, With::With), false, false, false, false, With::With, 0.8, {}},
+                {Style::deleteAtFill(true, With::After), false, false, false, true, With::After, 0.8, {}},
+                {Style::plainFill(), false, false, false, false, With::After, {}, 30}};
+    for (const auto& [style, half, elastic, bounces, deletes, timing, threshold, overscroll] : rows) {
+        SCOPED_TRACE(&style - &rows[0].style);
+        const auto* percentage = std::get_if<Style::Percentage>(&style.target);
+        ASSERT_EQ(percentage != nullptr, half);
+        EXPECT_EQ(percentage ? percentage->ratio : std::get<Style::EdgeInset>(style.target).distance,
+                  half ? 0.5 : 30);
+        EXPECT_EQ(style.elasticOverscroll, elastic);
+        const auto* fill = std::get_if<Style::FillOptions>(&style.completionAnimation);
+        ASSERT_EQ(fill == nullptr, bounces);
+        if (fill) {
+            EXPECT_EQ(fill->autoFulFillmentStyle == ExpansionFulfillmentStyle::Delete, deletes);
+            EXPECT_EQ(fill->timing, timing);
+        }
+        ASSERT_EQ(style.additionalTriggers.size(), threshold || overscroll ? 1U : 0U);
+        if (threshold) {
+            EXPECT_EQ(std::get<Style::TouchThreshold>(style.additionalTriggers[0]).ratio, *threshold);
+        }
+        if (overscroll) {
+            EXPECT_EQ(std::get<Style::Overscroll>(style.additionalTriggers[0]).distance, *overscroll);
+        }
+    }
+}
+
 TEST(SwipeExpansionStyleTest, WithoutARowOrAViewNothingExpands) {
     const auto list = SwipeList::make();
     const Style style = styleOf(Style::Percentage{0});
@@ -128,8 +187,7 @@ TEST(SwipeExpansionStyleTest, TheRowFeelsEachChangeOfADragOnce) {
     openRow(*list, Side::Right, 1, 74);
     for (const double way : {-170.0, -180.0, -20.0, -10.0, -200.0, -210.0})
         list->change(1, way, -100);
-    EXPECT_EQ(list->impacts.count, 3);
-    EXPECT_EQ(list->impacts.prepared, 4) << "once as the row was made, and after each";
+    EXPECT_EQ(list->impacts.acts, "pipipip") << "made ready with the row, and after each";
 }
 
 } // namespace

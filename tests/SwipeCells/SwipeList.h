@@ -12,14 +12,17 @@
 
 namespace tessivo::swipe {
 
-/// Counts what the user feels, and how often the machine was made ready for it.
+/// Notes what the user feels, and when the machine is made ready for it.
 class CountingImpacts final : public ImpactGenerator {
 public:
-    void prepare() override { ++prepared; }
-    void impactOccurred() override { ++count; }
+    void prepare() override { acts += "p"; }
+    void impactOccurred() override {
+        acts += "i";
+        ++count;
+    }
 
     int count = 0;
-    int prepared = 0;
+    std::string acts; ///< p: made ready, i: felt
 };
 
 /// A collection of cells that swipe, with an owner that notes what it hears.

@@ -10,7 +10,7 @@
 namespace tessivo::swipe {
 namespace {
 
-enum class Act { Touch, Move, LetGo, Lose, Wait, Hide, Scroll, Reload };
+enum class Act { Touch, Move, LetGo, Lose, Wait, Hide, Show, Scroll, Reload };
 
 struct Step {
     Act act;
@@ -20,7 +20,7 @@ struct Step {
 };
 
 std::ostream& operator<<(std::ostream& out, const Step& step) {
-    constexpr std::array names{"touch", "move", "letGo", "lose", "wait", "hide", "scroll", "reload"};
+    constexpr std::array names{"touch", "move", "letGo", "lose", "wait", "hide", "show", "scroll", "reload"};
     return out << names[static_cast<std::size_t>(step.act)] << " " << step.item << " way " << step.way
                << " velocity " << step.velocity;
 }
@@ -33,6 +33,7 @@ rc::Gen<Step> anyStep() {
                                                                                         {1, Act::Lose},
                                                                                         {3, Act::Wait},
                                                                                         {1, Act::Hide},
+                                                                                        {1, Act::Show},
                                                                                         {1, Act::Scroll},
                                                                                         {1, Act::Reload}})),
                                 rc::gen::set(&Step::item, rc::gen::inRange(0, 5)),
@@ -88,6 +89,15 @@ void perform(Owner& owner, const Step& step) {
     case Act::Hide:
         owner.cell(step.item).hideSwipe(step.way < 0);
         return;
+    case Act::Show: { // the side and the manner by chance
+        for (int item = 0; item < 5; ++item) {
+            if (owner.cell(item).state() == SwipeState::Dragging)
+                return; // what a finger holds nothing closes
+        }
+        const auto side = step.velocity > 0 ? SwipeActionsOrientation::Left : SwipeActionsOrientation::Right;
+        owner.cell(step.item).showSwipe(side, step.way < 0);
+        return;
+    }
     case Act::Scroll:
         owner.list().panGestureRecognizer()->begin({0, 0}, {0, 9}, {0, 90});
         owner.list().panGestureRecognizer()->end({0, 0});
@@ -129,23 +139,30 @@ void expectSettled(Owner& owner) {
 }
 
 template <class Owner>
+void checkTrace() {
+    const auto owner = Owner::make();
+    if (*rc::gen::arbitrary<bool>())
+        owner->left = SwipeActions{owner->action("Pin")};
+    if (*rc::gen::arbitrary<bool>())
+        owner->right = SwipeActions{owner->action("Delete"), owner->action("Edit")};
+    owner->options = anyOptions();
+    for (const Step& step : *rc::gen::container<std::vector<Step>>(anyStep())) {
+        perform(*owner, step);
+        expectSound(*owner);
+    }
+    for (int item = 0; item < 5; ++item)
+        owner->pan(item).end({0, 0});
+    owner->line.advance(Seconds(20));
+    expectSound(*owner);
+    expectSettled(*owner);
+}
+
+/// Some faults show in one trace out of several hundred, so each case is made of many.
+template <class Owner>
 void checkAnyTrace() {
     EXPECT_TRUE(rc::check([] {
-        const auto owner = Owner::make();
-        if (*rc::gen::arbitrary<bool>())
-            owner->left = SwipeActions{owner->action("Pin")};
-        if (*rc::gen::arbitrary<bool>())
-            owner->right = SwipeActions{owner->action("Delete"), owner->action("Edit")};
-        owner->options = anyOptions();
-        for (const Step& step : *rc::gen::container<std::vector<Step>>(anyStep())) {
-            perform(*owner, step);
-            expectSound(*owner);
-        }
-        for (int item = 0; item < 5; ++item)
-            owner->pan(item).end({0, 0});
-        owner->line.advance(Seconds(20));
-        expectSound(*owner);
-        expectSettled(*owner);
+        for (int trace = 0; trace < 20; ++trace)
+            checkTrace<Owner>();
     }));
 }
 
