@@ -91,7 +91,9 @@ void Tour::browsePhotos() {
 
 void Tour::choosePhoto() {
     openPhotos();
-    finger_.tapAt({window_.width() * 0.3, window_.height() / 2.0});
+    const auto cell = photoScreen().collectionView.cellForItem(1);
+    finger_.tap(
+        QString::fromStdString(static_cast<unsplash::PhotoCell&>(*cell).photoView.accessibilityName()));
     waitFor<UnsplahImageView>();
     const QPointF middle(window_.width() / 2.0, window_.height() / 2.0);
     finger_.drag(middle + QPointF(80, 0), middle - QPointF(80, 0));
@@ -115,10 +117,12 @@ void Tour::chooseFromLibrary() {
 }
 
 void Tour::showPictureCards() {
-    const int last = cards().numberOfItems() - 1;
-    cards().scrollToItem(last);
-    finger_.settle();
+    const QPointF center(window_.width() / 2.0, window_.height() / 2.0);
+    const QPointF reach(0, window_.height() / 4.0);
+    for (int pull = 0; pull < 3; ++pull)
+        finger_.drag(center + reach, center - reach);
     picture("picture-cards");
+    const int last = cards().numberOfItems() - 1;
     swipeCard(last);
     picture("picture-card-open");
     const QPointF middle = middleOfCard(last);
