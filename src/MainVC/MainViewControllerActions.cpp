@@ -6,6 +6,7 @@
 #include "Interface/AlertController.h"
 #include "Interface/ViewSnapshots.h"
 #include "MainVC/CardSize.h"
+#include "MainVC/EventCell.h"
 #include "Ports/Console.h"
 #include "Ports/MainQueue.h"
 #include "Support/LocalizationVariables.h"
@@ -78,6 +79,9 @@ std::shared_ptr<EventCoreData> MainViewController::freshRowAt(int item) {
 }
 
 void MainViewController::edit(EditScreen kind, int item) {
+    // The menu of an open card leaves its row open.
+    if (const auto cell = std::static_pointer_cast<EventCell>(collection.cellForItem(item)))
+        cell->hideSwipe(true);
     slideIn(services().screens().makeEdit(kind, freshRowAt(item)));
 }
 

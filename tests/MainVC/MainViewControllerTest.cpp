@@ -234,6 +234,7 @@ TEST_F(ListTest, TheEditSheetOffersFourScreensAndCancel) {
     store(event("edited", "25 June 2030"));
     list(ListType::Future).showEditSheet(0);
     auto& sheet = program.top<ui::AlertController>();
+    EXPECT_EQ(sheet.style(), ui::AlertStyle::ActionSheet);
     EXPECT_EQ(sheet.title(), "Edit");
     EXPECT_EQ(sheet.message(), "What do you want to edit?");
     std::vector<std::string> titles;
@@ -253,6 +254,10 @@ TEST_F(ListTest, DeletingAsksFirstAndTheRedAnswerKeepsTheEvent) {
     ASSERT_EQ(question.actions().size(), 2U);
     EXPECT_EQ(question.actions()[0].style, ui::AlertActionStyle::Destructive);
     EXPECT_EQ(question.actions()[0].title, program.services().localizationVariables().alertNo);
+    EXPECT_EQ(question.actions()[1].style, ui::AlertActionStyle::Default);
+    EXPECT_EQ(question.actions()[1].title, program.services().localizationVariables().alertYes);
+    EXPECT_EQ(question.style(), ui::AlertStyle::ActionSheet);
+    EXPECT_EQ(question.message(), "");
     question.choose(0);
     program.timeline.runPosted();
     EXPECT_EQ(future.collection.numberOfItems(), 1);
@@ -261,7 +266,8 @@ TEST_F(ListTest, DeletingAsksFirstAndTheRedAnswerKeepsTheEvent) {
 TEST_F(ListTest, DeletingTakesTheRowItsNotificationAndItsCard) {
     const auto doomed = event("doomed", "25 June 2030");
     store(doomed);
-    store(event("stays", "26 June 2030"));
+    const auto lone = event("stays", "26 June 2030");
+    store(lone);
     program.notifications.setStatus(AuthorizationStatus::Authorized);
     const std::string identifier = doomed.id->uuidString();
     program.notifications.add({identifier, {}, {}}, [](Outcome) {});
@@ -270,6 +276,8 @@ TEST_F(ListTest, DeletingTakesTheRowItsNotificationAndItsCard) {
     future.confirmDeletion(0);
     program.top<ui::AlertController>().choose(1);
     EXPECT_EQ(program.services().coreDataStack().fetchEvents().size(), 1U) << "the row does not wait";
+    EXPECT_EQ(future.numberOfObjectsInSection, 1);
+    EXPECT_EQ(future.collection.numberOfItems(), 2) << "the cards follow in a later turn";
     program.notifications.run();
     EXPECT_TRUE(program.notifications.pending().empty());
     EXPECT_TRUE(program.console.printed("Уведомление с идентификатором " + identifier + " удалено"));
@@ -277,8 +285,14 @@ TEST_F(ListTest, DeletingTakesTheRowItsNotificationAndItsCard) {
     EXPECT_EQ(card(future, 0).eventInformationLabel.text(), "stays\n26 June 2030");
 
     future.deleteAction(0);
+    program.notifications.run();
     program.timeline.runPosted();
     EXPECT_FALSE(future.mainlabel.isHidden());
+    EXPECT_TRUE(
+        program.console.printed("Уведомление с идентификатором " + lone.id->uuidString() + " не найдено"));
+    EXPECT_THROW(future.deleteAction(0), fakes::ProgramStopped);
+    EXPECT_THROW(future.deleteAction(-1), fakes::ProgramStopped);
+    future.records.reset();
     EXPECT_THROW(future.deleteAction(0), fakes::ProgramStopped);
 }
 
@@ -292,6 +306,51 @@ TEST_F(ListTest, SharingACardTakesItsPictureAndOpensTheSheet) {
     program.top<ui::ActivityViewController>().copyButton.tap();
     ASSERT_EQ(program.pictureSharing.shared.size(), 1U);
     EXPECT_EQ(program.pictureSharing.shared.front().picture, program.snapshots.picture);
+}
+
+TEST_F(ListTest, ACardThatIsNotOnTheScreenHasNoPictureToShare) {
+    for (int number = 0; number < 20; ++number)
+        store(event("event", "25 June 2030"));
+    auto& future = list(ListType::Future);
+    future.shareCard(19);
+    future.shareCard(20);
+    EXPECT_TRUE(program.snapshots.asked.empty());
+    future.contextMenuForItem(future.collection, 0, {})->elements[1].handler();
+    EXPECT_EQ(program.snapshots.asked.size(), 1U);
+}
+
+TEST_F(ListTest, TheSwipeOffersDeleteShareAndEditInTheChosenSize) {
+    store(event("swiped", "25 June 2030"));
+    const struct {
+        long size;
+        std::optional<double> width;
+        std::vector<std::string> images;
+    } rows[] = {{0, 52, {"DeleteSmall", "shareSmall", "editSmall"}},
+                {1, 60, {"DeleteLarge", "shareLarge", "editLarge"}},
+                {2, 68, {"DeleteBig", "shareBig", "editBig"}},
+                {3, {}, {"", "", ""}}};
+    auto& future = list(ListType::Future);
+    using Side = swipe::SwipeActionsOrientation;
+    EXPECT_EQ(future.editActions(future.collection, 0, Side::Left), std::nullopt);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.size);
+        program.services().platform().settings.setInteger(settingKeys::eventSize, row.size);
+        const auto options = future.editActionsOptions(future.collection, 0, Side::Right);
+        EXPECT_EQ(options.maximumButtonWidth, row.width);
+        EXPECT_EQ(options.minimumButtonWidth, std::nullopt);
+        EXPECT_FALSE(options.expansionStyle);
+        EXPECT_EQ(options.transitionStyle, swipe::SwipeTransitionStyle::Border);
+        const auto actions = *future.editActions(future.collection, 0, Side::Right);
+        std::vector<std::string> images;
+        for (const auto& action : actions) {
+            images.push_back(action->image ? action->image->image.name : "");
+            EXPECT_EQ(action->backgroundColor, ui::ColorRef::named("mainBack"));
+            EXPECT_EQ(action->title, std::nullopt);
+            EXPECT_EQ(action->style, swipe::SwipeActionStyle::Default);
+            EXPECT_EQ(action->hidesWhenSelected, action != actions.front());
+        }
+        EXPECT_EQ(images, row.images);
+    }
 }
 
 /// A list whose first card is swiped open.

@@ -1,0 +1,133 @@
+#include "Event/CoreDataStack.h"
+#include "Event/EventItem.h"
+#include "Interface/AlertController.h"
+#include "MainVC/EventCell.h"
+#include "MainVC/MainViewController.h"
+#include "Ports/SavedSettings.h"
+#include "Support/SettingKeys.h"
+#include "support/Program.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace tessivo {
+namespace {
+
+class NextScreen final : public ui::ViewController {
+public:
+    using ViewController::ViewController;
+    [[nodiscard]] std::string screenName() const override { return "NextScreen"; }
+};
+
+/// Notes which screens the list asks for, and with which event.
+class NotingScreens final : public Screens {
+public:
+    explicit NotingScreens(ui::WindowContext& window) : window_(window) {}
+
+    std::shared_ptr<ui::ViewController> makeFullEvent(std::shared_ptr<EventCoreData> record) override {
+        return note("full", std::move(record));
+    }
+    std::shared_ptr<ui::ViewController> makeEdit(EditScreen kind,
+                                                 std::shared_ptr<EventCoreData> eventData) override {
+        constexpr std::array names{"title", "date and time", "reminder", "background"};
+        return note(names[static_cast<std::size_t>(kind)], std::move(eventData));
+    }
+    std::shared_ptr<ui::ViewController> makeSettings(std::function<void()> changed) override {
+        sizeChanged = std::move(changed);
+        return note("settings", nullptr);
+    }
+
+    std::string asked;
+    std::shared_ptr<EventCoreData> event;
+    std::function<void()> sizeChanged;
+
+private:
+    std::shared_ptr<ui::ViewController> note(std::string what, std::shared_ptr<EventCoreData> record) {
+        asked = std::move(what);
+        event = std::move(record);
+        return std::make_shared<NextScreen>(window_);
+    }
+
+    ui::WindowContext& window_;
+};
+
+class ListScreensTest : public testing::Test {
+protected:
+    ListScreensTest() {
+        EventItem item;
+        item.title = "event";
+        item.dateEvent = "25 June 2030";
+        item.repEvent = 0;
+        item.timeFormat = 0;
+        item.alertReminder = item.repReminder = item.gradient = NO_VALUE;
+        item.color = 0;
+        item.eventType = true;
+        item.id = program.services().platform().uuids.random();
+        services.coreDataStack().addEvent(item);
+        program.stack().top()->present(list, false);
+        list->collection.reloadData();
+    }
+
+    ~ListScreensTest() override { list->dismiss(false); } // it draws on services that go before the program
+
+    EventCell& card() { return dynamic_cast<EventCell&>(*list->collection.cellForItem(0)); }
+
+    Program program;
+    NotingScreens screens{program.services().window()};
+    SharedServices services{program.services().platform(), program.services().window(), screens};
+    std::shared_ptr<MainViewController> list =
+        std::make_shared<MainViewController>(services, ListType::Future);
+};
+
+TEST_F(ListScreensTest, EveryWayToAScreenTakesACopyOfTheEventThatNothingElseSees) {
+    const auto sheet = [this](std::size_t choice) {
+        list->showEditSheet(0);
+        program.top<ui::AlertController>().choose(choice);
+    };
+    const auto menu = [this](std::size_t choice) {
+        list->contextMenuForItem(list->collection, 0, {})->elements[0].children[choice].handler();
+    };
+    const struct {
+        std::function<void()> act;
+        const char* screen;
+    } rows[] = {{[&] { list->collection.tapItem(0); }, "full"},
+                {[&] { sheet(0); }, "title"},
+                {[&] { sheet(1); }, "date and time"},
+                {[&] { sheet(2); }, "reminder"},
+                {[&] { sheet(3); }, "background"},
+                {[&] { menu(0); }, "title"},
+                {[&] { menu(1); }, "date and time"},
+                {[&] { menu(2); }, "reminder"},
+                {[&] { menu(3); }, "background"}};
+    for (const auto& [act, screen] : rows) {
+        SCOPED_TRACE(screen);
+        card().showSwipe(swipe::SwipeActionsOrientation::Right, false);
+        act();
+        EXPECT_EQ(screens.asked, screen);
+        EXPECT_EQ(isOpen(card().state()), screens.asked == "full") << "editing closes the row";
+        ASSERT_EQ(program.stack().top()->screenName(), "NextScreen");
+        EXPECT_EQ(program.stack().top()->modalPresentationStyle, ui::PresentationStyle::Custom);
+        EXPECT_EQ(program.stack().top()->transitioningDelegate.lock().get(), list.get());
+        ASSERT_TRUE(screens.event);
+        screens.event->setTitle("abandoned");
+        services.coreDataStack().updateBackground(*screens.event->id(), 3, NO_VALUE, {}, {});
+        list->collection.reloadData();
+        EXPECT_EQ(card().eventInformationLabel.text(), "event\n25 June 2030");
+        EXPECT_EQ(services.makeCoreDataStack()->fetchEvents().front()->title(), "event");
+        program.settle();
+        list->dismiss(false);
+        ASSERT_EQ(program.stack().top(), list.get());
+    }
+}
+
+TEST_F(ListScreensTest, AnotherCardSizeShowsAtOnce) {
+    list->settingButton.tap();
+    EXPECT_EQ(screens.asked, "settings");
+    services.platform().settings.setInteger(settingKeys::eventSize, 2);
+    screens.sizeChanged();
+    EXPECT_NEAR(card().frame().height, 844 / 3.5, 1e-9);
+}
+
+} // namespace
+} // namespace tessivo
