@@ -93,15 +93,12 @@ void SwipeController::removeCell(int indexPath, double newCenter, HandlerInvocat
     deletionMask_ = actionsView->makeDeletionMask();
     deletionMask_->setAnimations(&environment_.animations);
     actionsContainerView_->setMask(deletionMask_.get());
-    const auto finish = [weak = weak_from_this(), row = actionsView->weak_from_this()] {
+    const auto finish = [weak = weak_from_this()] {
         const auto controller = weak.lock();
         if (!controller || !controller->swipeable_)
             return;
         controller->actionsContainerView_->setMask(nullptr);
         controller->deletionMask_.reset();
-        // The list may have given the cell to another item meanwhile.
-        if (row.expired())
-            return;
         controller->resetPosition();
         controller->reset();
     };

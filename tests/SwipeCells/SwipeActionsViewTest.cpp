@@ -349,8 +349,17 @@ TEST_F(SwipeActionsViewTest, AChangeOfMindTurnsTheExpansionAroundWhereItIsDrawn)
     ASSERT_GT(drawn, 1);
     view.setExpanded(false, false);
     EXPECT_EQ(last.frame().x, 74);
-    EXPECT_DOUBLE_EQ(last.drawnFrame().x, drawn);
-    list->line.advance(Seconds(0.65));
+    ui::View guide;
+    guide.setAnimations(&list->animations);
+    guide.setCenterX(drawn);
+    const auto animator = ui::PropertyAnimator::make(list->animations, ui::DampedOver{Seconds(0.6), 1});
+    animator->addAnimations([&] { guide.setCenterX(74); });
+    animator->startAnimation();
+    for (int frame = 0; frame < 10; ++frame) {
+        ASSERT_NEAR(last.drawnFrame().x, guide.drawnValue(ui::AnimatableProperty::CenterX), 1e-9) << frame;
+        list->line.advance(Seconds(1 / 30.0));
+    }
+    list->line.advance(Seconds(0.4));
     EXPECT_DOUBLE_EQ(last.drawnFrame().x, 74);
     EXPECT_FALSE(list->line.framesAreAskedFor());
 }

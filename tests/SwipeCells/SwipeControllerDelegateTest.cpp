@@ -164,6 +164,17 @@ TEST(SwipeControllerDelegateTest, ARowThatIsCaughtOnItsWayBackIsMadeAnew) {
     EXPECT_FALSE(cell.line.framesAreAskedFor());
 }
 
+TEST(SwipeControllerDelegateTest, TheRowStandsBesideAContainerOfAnySizeAndPlaceAndIsAsHighAsTheCell) {
+    NotingCell cell;
+    cell.content.setFrame({10, 20, 300, 60});
+    cell.begin(-100);
+    EXPECT_EQ(cell.row->frame(), (ui::Rect{300, -20, 640, 100}));
+    cell.end(100);
+    cell.line.advance(Seconds(3));
+    cell.begin(100);
+    EXPECT_EQ(cell.row->frame(), (ui::Rect{-640, -20, 640, 100}));
+}
+
 TEST(SwipeControllerDelegateTest, NoActionsAreNoRow) {
     NotingCell cell;
     for (const auto& none : {std::optional<SwipeActions>(), std::optional<SwipeActions>(std::in_place)}) {

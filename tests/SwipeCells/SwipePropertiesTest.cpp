@@ -84,7 +84,7 @@ void perform(Owner& owner, const Step& step) {
         owner.pan(step.item).cancel();
         return;
     case Act::Wait:
-        owner.line.advance(Seconds(std::abs(step.way) / 1000.0));
+        owner.line.advance(Seconds(std::abs(step.way) / 200.0));
         return;
     case Act::Hide:
         owner.cell(step.item).hideSwipe(step.way < 0);

@@ -38,6 +38,8 @@ public:
     }
     void didEndEditing(ui::TableView&, std::optional<int> item, SwipeActionsOrientation) override {
         heard.push_back("end " + (item ? std::to_string(*item) : "none"));
+        if (ended)
+            ended();
     }
 
     std::shared_ptr<SwipeAction> action(const std::string& title,
@@ -68,6 +70,7 @@ public:
     std::optional<SwipeActions> right;
     SwipeOptions options;
     std::vector<std::string> heard;
+    std::function<void()> ended; ///< what the owner does as it hears of the end
     ui::TableView table;
 };
 

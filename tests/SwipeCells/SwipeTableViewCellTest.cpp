@@ -106,8 +106,28 @@ TEST_F(SwipeTableViewCellTest, AFillTakesTheRowOutAtOnce) {
     EXPECT_EQ(owner->table.itemFor(*gone), std::nullopt);
     EXPECT_EQ(owner->cell(1).frame(), (ui::Rect{0, 100, 320, 100}));
     EXPECT_EQ(gone->mask(), nullptr);
+    EXPECT_EQ(gone->frame(), (ui::Rect{0, 100, 320, 100}));
     EXPECT_EQ(static_cast<SwipeTableViewCell&>(*gone).state(), SwipeState::Center);
     EXPECT_THAT(owner->heard, ElementsAre("begin 1", "Delete 1", "end 1"));
+}
+
+TEST_F(SwipeTableViewCellTest, TheOwnerMayTakeTheCellAwayAsItHearsOfTheEnd) {
+    using Timing = HandlerInvocationTiming;
+    for (const auto how : {ExpansionFulfillmentStyle::Delete, ExpansionFulfillmentStyle::Reset}) {
+        owner = SwipeTable::make();
+        const auto action = owner->action("Delete");
+        owner->right = SwipeActions{action};
+        owner->options.expansionStyle = SwipeExpansionStyle::deleteAtFill(false, Timing::With);
+        swipe(1, -60, -100);
+        const std::weak_ptr<ui::TableViewCell> gone = owner->table.rows()[1];
+        owner->cell(1).actionsView()->buttons().front()->tap();
+        owner->line.advance(Seconds(2));
+        owner->ended = [this] { owner->table.setRows({}, 100); };
+        action->fulfill(how);
+        EXPECT_TRUE(gone.expired());
+        owner->line.advance(Seconds(2));
+        EXPECT_EQ(owner->heard, std::vector<std::string>({"begin 1", "Delete 1", "end 1"}));
+    }
 }
 
 TEST_F(SwipeTableViewCellTest, WithoutATableNothingHappens) {

@@ -1,6 +1,8 @@
 #include "Interface/Label.h"
 #include "SwipeCells/SwipeCollectionViewCell.h"
+#include "bridge/BitmapImage.h"
 #include "fakes/FixedWidthTexts.h"
+#include "qtimage/QtImageCoding.h"
 #include "shell/ControlWindow.h"
 
 #include <QAccessible>
@@ -111,7 +113,9 @@ protected:
         settle();
         ASSERT_EQ(cell(item).state(), SwipeState::Right);
     }
-    [[nodiscard]] QColor colorAt(QPointF point) { return window.grabWindow().pixelColor(point.toPoint()); }
+    [[nodiscard]] QColor colorAt(QPointF point) {
+        return window.grabWindow().pixelColor((point * window.effectiveDevicePixelRatio()).toPoint());
+    }
 
     fakes::FixedWidthTexts texts;
     std::shared_ptr<CardOwner> owner = std::make_shared<CardOwner>();
@@ -195,6 +199,83 @@ TEST_F(SwipedCardTest, ADeletedCardIsCutByItsMaskAndGoesWhileTheNextMovesUp) {
     EXPECT_TRUE(runUntil([&] { return card(1) == nullptr; }));
     EXPECT_EQ(card(2)->y(), cardHeight);
     EXPECT_EQ(colorAt(inCard(1, 200)), QColor(Qt::blue));
+}
+
+TEST_F(SwipedCardTest, TheMaskOfADeletedCardClosesUpwards) {
+    owner->count = 2; // no card moves up over its place
+    collection.reloadData();
+    owner->options.expansionStyle = swipe::SwipeExpansionStyle::deleteAtFill();
+    const QColor ground = colorAt(inCard(4, 200));
+    hand.drag(inCard(1, 380), inCard(1, 5));
+    for (const double moment : {0.1, 0.06, 0.06}) {
+        timeline.advance(Seconds(moment));
+        ASSERT_FALSE(collection.leavingCells().empty());
+        const auto* mask = collection.leavingCells().front()->contentView.mask();
+        ASSERT_NE(mask, nullptr);
+        const double edge = cardHeight + mask->drawnFrame().height;
+        ASSERT_GT(edge, cardHeight + 5);
+        ASSERT_LT(edge, 2 * cardHeight - 5);
+        EXPECT_TRUE(runUntil([&] {
+            const QImage drawn = window.grabWindow();
+            const double scale = window.effectiveDevicePixelRatio();
+            const auto at = [&](double y) { return drawn.pixelColor((QPointF(200, y) * scale).toPoint()); };
+            return at(cardHeight + 2) != ground && at(edge - 3) != ground && at(edge + 3) == ground &&
+                   at(2 * cardHeight - 2) == ground;
+        })) << edge;
+    }
+    settle();
+    EXPECT_TRUE(runUntil([&] { return colorAt(inCard(1, 200)) == ground; }));
+}
+
+TEST_F(SwipedCardTest, TheShadowOfAnOpenCardFallsOnItsButtons) {
+    open(1);
+    const double edge = 390 - 120;
+    const QColor ground = colorAt(inCard(1, edge + 16));
+    EXPECT_TRUE(runUntil([&] { return colorAt(inCard(1, edge + 1)).lightness() < ground.lightness(); }))
+        << colorAt(inCard(1, edge + 1)).name().toStdString() << ground.name().toStdString();
+}
+
+TEST_F(SwipedCardTest, ThePictureOfACardHoldsItsPhotoAndItsTextAtTheScreensScale) {
+    QImage photo(390, 120, QImage::Format_RGBA8888);
+    photo.fill(QColor("#101060"));
+    for (int y = 0; y < photo.height(); ++y) {
+        for (int x = 0; x < 195; ++x)
+            photo.setPixelColor(x, y, QColor("#600000"));
+    }
+    auto& shared = cell(1);
+    shared.setCornerRadius(24);
+    shared.photoImage.setCornerRadius(24);
+    shared.photoImage.setContentMode(ui::ContentMode::AspectFill);
+    shared.photoImage.setImage({{}, shell::toBitmap(photo)});
+    shared.timeLabel.setTextColor(ui::ColorRef::white());
+    shared.timeLabel.setText("In 365 days");
+    for (const bool opened : {false, true}) {
+        if (opened)
+            open(1);
+        EXPECT_TRUE(runUntil([&] { return colorAt(inCard(1, 100)) != QColor(Qt::blue); }));
+        std::optional<std::shared_ptr<const Bitmap>> taken;
+        snapshots.snapshot(shared, [&](auto picture) { taken = picture; });
+        ASSERT_TRUE(runUntil([&] { return taken.has_value(); }));
+        ASSERT_TRUE(*taken);
+        const std::string png = QtImageCoding().png(**taken).value();
+        const QImage saved = QImage::fromData(QByteArray::fromStdString(png), "PNG");
+        const double scale = window.effectiveDevicePixelRatio();
+        ASSERT_EQ(saved.size(), (QSizeF(390, cardHeight) * scale).toSize());
+        const auto at = [&](double x, double y) {
+            return saved.pixelColor((QPointF(x, y) * scale).toPoint());
+        };
+        EXPECT_EQ(at(60, 20), QColor("#600000"));
+        EXPECT_EQ(at(380, 100), QColor("#101060")) << "and not the buttons beside it";
+        EXPECT_EQ(at(0, 0).alpha(), 0);
+        EXPECT_EQ(at(389, 119).alpha(), 0) << "round corners, no shadow";
+        int white = 0; // in the upper half, where the time stands
+        for (int y = 0; y < saved.height() / 2; ++y) {
+            for (int x = 0; x < saved.width(); ++x)
+                white += saved.pixelColor(x, y).lightness() > 240 ? 1 : 0;
+        }
+        EXPECT_GT(white, 30 * scale * scale);
+        EXPECT_LT(white, 800 * scale * scale);
+    }
 }
 
 TEST_F(SwipedCardTest, TheKeyboardWalksOpensTheMenuDeletesAndCloses) {

@@ -89,6 +89,7 @@ CellScope {
             ButtonRow {
                 required property LooseViewItem modelData
                 view: modelData
+                z: -2 // the card's shadow falls on it
             }
         }
     }
