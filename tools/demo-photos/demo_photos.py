@@ -10,6 +10,7 @@ import argparse
 import colorsys
 import http.server
 import json
+import math
 import random
 import struct
 import sys
@@ -79,9 +80,14 @@ def draw(index, width):
         row = bytearray(bytes(rgb(sky + 0.12 * at, 0.5 - 0.4 * min(1, at * 1.6), 0.98)) * width)
 
         def paint(left, right, colour):
-            left, right = max(0, int(left)), min(width, int(right))
-            if left < right:
-                row[3 * left:3 * right] = colour * (right - left)
+            left, right = max(0, left), min(width, right)
+            first, last = math.ceil(left), math.floor(right)
+            if first < last:
+                row[3 * first:3 * last] = colour * (last - first)
+            for x, share in ((first - 1, first - left), (last, right - last)):  # smooth edges
+                if first <= last and 0 < share < 1:
+                    for channel in range(3 * x, 3 * x + 3):
+                        row[channel] += int((colour[channel - 3 * x] - row[channel]) * share)
 
         if abs(y - sun_y) < sun_radius:
             half = (sun_radius ** 2 - (y - sun_y) ** 2) ** 0.5
