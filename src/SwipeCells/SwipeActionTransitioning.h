@@ -11,7 +11,8 @@ class View;
 
 namespace tessivo::swipe {
 
-/// A change of how much of a button is seen, as shares of its full width.
+/// A change of how much of a button is seen, as shares of its full width. What it refers to lasts for the
+/// call; `animations` for the program's life.
 struct SwipeActionTransitioningContext {
     std::optional<std::string> actionIdentifier;
     ui::Button& button;
@@ -21,7 +22,8 @@ struct SwipeActionTransitioningContext {
     ui::Animations& animations;
 };
 
-/// Hears of each such change, in a later turn of the main queue than the layout that caused it.
+/// Hears of each such change, in a later turn of the main queue than the layout that caused it; of none once
+/// the row has gone. Main thread.
 class SwipeActionTransitioning {
 public:
     virtual ~SwipeActionTransitioning() = default;

@@ -108,7 +108,7 @@ ui::Size SwipeActionsView::contentSize() const {
     const bool elastic = options_.expansionStyle && options_.expansionStyle->elasticOverscroll;
     if (!elastic || visibleWidth_ < natural)
         return {visibleWidth_, bounds().height};
-    return {natural + std::max(0.0, visibleWidth_ - natural) * elasticShare, bounds().height};
+    return {natural + (visibleWidth_ - natural) * elasticShare, bounds().height};
 }
 
 std::shared_ptr<SwipeAction> SwipeActionsView::expansionCarrier() const {

@@ -62,7 +62,9 @@ public:
     [[nodiscard]] const ActionsViewLayoutContext& layoutContext() const { return layoutContext_; }
     /// The width that every button finally has.
     [[nodiscard]] double minimumButtonWidth() const { return minimumButtonWidth_; }
+    /// How far the cell opens: all buttons and the list's safe margin.
     [[nodiscard]] double naturalRowWidth() const;
+    /// The room that the buttons share: what is seen, less what an elastic row holds back.
     [[nodiscard]] ui::Size contentSize() const;
     /// The action that fires by expansion; null where the row does not expand.
     [[nodiscard]] std::shared_ptr<SwipeAction> expansionCarrier() const;
@@ -71,9 +73,12 @@ public:
     /// Takes the safe margin off, never below 0, and places the buttons at once.
     void setVisibleWidth(double width);
     [[nodiscard]] bool expanded() const { return expanded_; }
+    /// Lets the last button run over the whole row, or back, as the expansion delegate times it; with
+    /// `feedback` the user feels it. Nothing where it is so already.
     void setExpanded(bool expanded, bool feedback);
 
-    /// What stays visible of the row's cell while it is taken away.
+    /// What stays visible of the row's cell while it is taken away, in the space of the view that the row
+    /// hangs on. The caller's own.
     [[nodiscard]] std::unique_ptr<ui::View> makeDeletionMask() const;
 
 protected:

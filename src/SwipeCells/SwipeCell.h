@@ -27,6 +27,7 @@ public:
     }
     [[nodiscard]] SwipeController& swipeController() { return *controller_; }
 
+    // As of the controller.
     void hideSwipe(bool animated) override { controller_->hideSwipe(animated); }
     void hideSwipe(bool animated, SwipeController::Completion completion) {
         controller_->hideSwipe(animated, std::move(completion));
@@ -37,6 +38,7 @@ public:
     void setSwipeOffset(double offset, bool animated, SwipeController::Completion completion = {}) {
         controller_->setSwipeOffset(offset, animated, std::move(completion));
     }
+    /// To be called when the screen has turned or its margins have changed.
     void traitsDidChange() { controller_->traitsDidChange(); }
 
     /// While the cell is moved its margins stay those of before.

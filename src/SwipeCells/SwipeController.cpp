@@ -23,7 +23,7 @@ ui::Spring settleSpring(double velocity) {
 std::shared_ptr<SwipeController> SwipeController::make(SwipeEnvironment environment, Swipeable& swipeable,
                                                        ui::View& container,
                                                        SwipeControllerDelegate& delegate) {
-    const std::shared_ptr<SwipeController> made(
+    std::shared_ptr<SwipeController> made(
         new SwipeController(std::move(environment), swipeable, container, delegate));
     const auto to = [&](void (SwipeController::*handle)()) {
         return [weak = std::weak_ptr(made), handle](ui::GestureRecognizer&) {
@@ -75,6 +75,7 @@ Swipeable* SwipeController::firstCell(bool (*condition)(const Swipeable&)) const
 void SwipeController::hideCells(const Swipeable* except) {
     if (!scrollView_)
         return;
+    const auto alive = shared_from_this();
     const auto views = scrollView_->subviews(); // owners may change the list as they hear of it
     for (ui::View* view : views) {
         if (!scrollView_ || std::ranges::find(scrollView_->subviews(), view) == scrollView_->subviews().end())
@@ -144,7 +145,7 @@ void SwipeController::animateTo(double centerX, Seconds duration, double velocit
         controller->cell().layoutIfNeeded();
     });
     if (completion) {
-        animator_->addCompletion([completion](ui::AnimatingPosition position) {
+        animator_->addCompletion([completion = std::move(completion)](ui::AnimatingPosition position) {
             completion(position == ui::AnimatingPosition::End);
         });
     }
@@ -197,10 +198,7 @@ void SwipeController::layoutActionsView() {
     const bool left = actionsView.orientation() == SwipeActionsOrientation::Left;
     const double x = left ? -2 * size.width : actionsContainerView_->bounds().width;
     const double y = actionsContainerView_ == &cell() ? 0 : -actionsContainerView_->frame().minY();
-    const ui::Rect frame{x, y, 2 * size.width, size.height};
-    if (actionsView.frame() == frame)
-        return;
-    actionsView.setFrame(frame);
+    actionsView.setFrame({x, y, 2 * size.width, size.height});
     actionsView.layoutIfNeeded();
 }
 
@@ -243,6 +241,8 @@ void SwipeController::setSwipeOffset(double offset, bool animated, Completion co
         if (!showActionsView(orientation))
             return;
         hideCells(swipeable_);
+        if (!swipeable_ || !swipeable_->actionsView())
+            return;
         swipeable_->setState(open);
     }
     const double distance = std::abs(offset);

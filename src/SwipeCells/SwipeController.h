@@ -17,6 +17,9 @@ using SwipeAnimator = ui::PropertyAnimator;
 //   Center, AnimatingToCenter --pan begins, actions exist--> Dragging --release--> Left | Right | Center
 //   Left, Right --hide--> AnimatingToCenter --settled--> Center
 //
+// A hide leaves a cell alone that is in Dragging: what a finger holds nothing else closes. Lengths are in
+// points, velocities in points a second. Main thread.
+//
 // A release into Center passes through the settling with the state Center already; the row goes at its end.
 
 class SwipeController final : public ui::GestureRecognizerDelegate,
@@ -25,7 +28,8 @@ class SwipeController final : public ui::GestureRecognizerDelegate,
 public:
     using Completion = std::function<void(bool finished)>;
 
-    /// Puts its recognizers on the cell. `container` is the view that is moved, maybe the cell itself.
+    /// Puts its recognizers on the cell. `container` is the view that is moved, maybe the cell itself. Cell,
+    /// container and delegate outlive the call of `letGo`; the cell owns its controller.
     [[nodiscard]] static std::shared_ptr<SwipeController> make(SwipeEnvironment environment,
                                                                Swipeable& swipeable, ui::View& container,
                                                                SwipeControllerDelegate& delegate);
@@ -49,12 +53,16 @@ public:
     [[nodiscard]] bool gestureRecognizerShouldBegin(ui::GestureRecognizer& recognizer) override;
     void didSelect(SwipeActionsView& view, const std::shared_ptr<SwipeAction>& action) override;
 
+    /// The pan's next step, by the state of its recognizer.
     void handlePan();
+    /// A tap on an open cell closes it.
     void handleTap();
-    /// Closes an open cell; the owner hears that editing has ended.
+    /// Closes an open cell; the owner hears that editing has ended. `completion` is called when an animated
+    /// hide has ended, with the row gone, and never for one that is not animated or that something replaces.
     void hideSwipe(bool animated, Completion completion = {});
     /// Opens the cell by `offset`: to the right above 0, to the left below; 0 closes it. The largest length
-    /// there is opens it as far as the row is wide.
+    /// there is opens it as far as the row is wide. All other cells are closed. Nothing happens where the
+    /// owner has no actions. `completion` as for `hideSwipe`.
     void setSwipeOffset(double offset, bool animated, Completion completion = {});
     /// Closes, animated, all cells of the list but `except`, which may be null.
     void hideCells(const Swipeable* except);

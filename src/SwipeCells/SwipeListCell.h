@@ -4,20 +4,22 @@
 
 namespace tessivo::swipe {
 
-/// The owner of a list whose cells swipe. Held weakly by the cells.
+/// The owner of a list whose cells swipe. Held weakly by the cells. Main thread.
 template <class List>
 class SwipeListDelegate {
 public:
     virtual ~SwipeListDelegate() = default;
 
-    /// Nothing, or no actions: the item does not swipe to that side.
+    /// In order from the far edge to the cell. Nothing, or no actions: the item does not swipe to that side.
     [[nodiscard]] virtual std::optional<SwipeActions> editActions(List&, int item,
                                                                   SwipeActionsOrientation) = 0;
     [[nodiscard]] virtual SwipeOptions editActionsOptions(List&, int /*item*/, SwipeActionsOrientation) {
         return {};
     }
+    /// The item is swiped, by a finger or by the program.
     virtual void willBeginEditing(List&, int /*item*/, SwipeActionsOrientation) {}
-    /// Without an item where the list has none for the cell any more.
+    /// The item's cell goes back to its place, or has been filled. Without an item where the list has none
+    /// for the cell any more.
     virtual void didEndEditing(List&, std::optional<int> /*item*/, SwipeActionsOrientation) {}
     /// The part of the list that the user sees, in its own space; empty for no say.
     [[nodiscard]] virtual std::optional<ui::Rect> visibleRect(List&) { return std::nullopt; }

@@ -12,15 +12,18 @@ class View;
 
 namespace tessivo::swipe {
 
-/// How the buttons of a row come out while the row widens.
+/// How the buttons of a row come out while the row widens. Stateless arithmetic, in points. Main thread.
 class SwipeTransitionLayout {
 public:
     virtual ~SwipeTransitionLayout() = default;
 
+    /// Moves the bounds of `container`, the row, where the layout scrolls its buttons.
     virtual void visibleWidthChanged(ui::View& container, const ActionsViewLayoutContext& context) const = 0;
+    /// Places the ground of button `index` sideways; its height and width stay.
     virtual void layoutSubview(ui::View& subview, int index,
                                const ActionsViewLayoutContext& context) const = 0;
-    /// Fills in how much of each button is seen; `widths` has one place per action.
+    /// Fills in how much of each button is seen; `widths` has one place per action. Evenly shared widths may
+    /// be below 0.
     virtual void visibleButtonWidths(const ActionsViewLayoutContext& context,
                                      std::span<double> widths) const = 0;
 };

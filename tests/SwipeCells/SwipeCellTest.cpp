@@ -132,6 +132,9 @@ TEST_F(SwipeCellTest, ACellMovesInTheSizeThatItsListHasGivenIt) {
     EXPECT_EQ(list->cell(1).contentView.drawnFrame().width, 640) << "the width does not take part";
     EXPECT_EQ(list->centerX(1), 320);
     EXPECT_LT(list->cell(1).contentView.drawnFrame().midX(), 320);
+    list->cell(2).showSwipe(Side::Right, true);
+    for (const auto* ground : list->cell(2).actionsView()->subviews())
+        EXPECT_EQ(ground->drawnFrame().size(), (ui::Size{640, 100})) << "nor does that of the buttons";
 }
 
 TEST_F(SwipeCellTest, ChangedTraitsSettleAnOpenCellAtOnce) {
@@ -142,6 +145,41 @@ TEST_F(SwipeCellTest, ChangedTraitsSettleAnOpenCellAtOnce) {
     EXPECT_EQ(list->centerX(1), 160 - 148 - 30);
     EXPECT_EQ(list->cell(1).actionsView()->visibleWidth(), 148);
     EXPECT_EQ(list->centerX(0), 160);
+    list->cell(1).hideSwipe(false);
+    list->begin(2, -100);
+    list->change(2, -30, -100);
+    list->cell(2).traitsDidChange();
+    EXPECT_EQ(list->centerX(2), 130) << "a finger holds it";
+}
+
+TEST_F(SwipeCellTest, OfTwoCellsUnderAFingerTheFirstOfTheListIsMoved) {
+    for (const int item : {1, 3}) {
+        list->begin(item, -100);
+        list->pan(item).end({-100, 0});
+    }
+    list->line.advance(Seconds(2));
+    for (const int item : {1, 3})
+        list->cell(item).setState(SwipeState::Dragging);
+    for (const int item : {1, 3}) {
+        const double before = list->centerX(item);
+        list->begin(item, -100);
+        list->change(item, 10, 100);
+        EXPECT_EQ(list->centerX(item) - before, item == 1 ? 10 : 0);
+    }
+}
+
+TEST_F(SwipeCellTest, OnlyAnOpenCellIsHidden) {
+    list->begin(1, -100);
+    list->change(1, -30, -100);
+    for (const bool animated : {true, false})
+        list->cell(1).hideSwipe(animated);
+    EXPECT_EQ(list->cell(1).state(), SwipeState::Dragging) << "a finger holds it";
+    EXPECT_EQ(list->centerX(1), 130);
+    list->pan(1).end({-100, 0});
+    for (const bool animated : {true, false})
+        list->cell(1).hideSwipe(animated);
+    EXPECT_EQ(list->cell(1).state(), SwipeState::AnimatingToCenter) << "on its way already";
+    EXPECT_THAT(list->heard, ElementsAre("begin 1", "end 1"));
 }
 
 TEST_F(SwipeCellTest, HiddenAtOnceItStandsInItsPlaceAtOnce) {

@@ -175,6 +175,16 @@ TEST(SwipeControllerDelegateTest, TheRowStandsBesideAContainerOfAnySizeAndPlaceA
     EXPECT_EQ(cell.row->frame(), (ui::Rect{-640, -20, 640, 100}));
 }
 
+TEST(SwipeControllerDelegateTest, OnlyItsOwnPanIsHeldToGoAcross) {
+    NotingCell cell;
+    ui::PanGestureRecognizer stray;
+    (void)stray.begin({}, {1, 50}, {});
+    ui::LongPressGestureRecognizer press;
+    EXPECT_TRUE(cell.controller->gestureRecognizerShouldBegin(stray));
+    EXPECT_TRUE(cell.controller->gestureRecognizerShouldBegin(press));
+    EXPECT_FALSE(cell.controller->panGestureRecognizer()->begin({160, 50}, {1, 50}, {}));
+}
+
 TEST(SwipeControllerDelegateTest, NoActionsAreNoRow) {
     NotingCell cell;
     for (const auto& none : {std::optional<SwipeActions>(), std::optional<SwipeActions>(std::in_place)}) {
@@ -227,6 +237,25 @@ TEST(SwipeControllerDelegateTest, AFillTellsInTheOrderOfItsTiming) {
         EXPECT_EQ(cell.state(), SwipeState::Center);
         EXPECT_FALSE(cell.action->completionHandler);
     }
+}
+
+TEST(SwipeControllerDelegateTest, ACellThatIsLetGoOfInTheMiddleOfItsDeletionIsLeftAlone) {
+    NotingCell cell;
+    cell.options.emplace().expansionStyle = SwipeExpansionStyle::deleteAtFill();
+    cell.controller->setSwipeOffset(-74, false);
+    cell.row->buttons().front()->tap();
+    cell.line.advance(Seconds(0.1));
+    ASSERT_NE(cell.content.mask(), nullptr);
+    cell.heardSoFar();
+    cell.controller->letGo();
+    const double center = cell.content.center().x;
+    EXPECT_EQ(cell.content.mask(), nullptr);
+    cell.line.advance(Seconds(2));
+    cell.begin(100);
+    cell.hideSwipe(false);
+    EXPECT_EQ(cell.state(), SwipeState::Right);
+    EXPECT_EQ(cell.content.center().x, center);
+    EXPECT_THAT(cell.heardSoFar(), IsEmpty());
 }
 
 TEST(SwipeControllerDelegateTest, ACellThatHasLeftItsListPerformsNothing) {

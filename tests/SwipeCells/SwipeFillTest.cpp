@@ -79,6 +79,16 @@ TEST_F(SwipeFillTest, AnAnswerAfterTheRowWasClosedStillTakesTheItem) {
     EXPECT_EQ(cell->contentView.mask(), nullptr);
 }
 
+TEST_F(SwipeFillTest, ARowThatWasPulledOutMeanwhileLeavesAllTheSame) {
+    fill(Side::Right, SwipeExpansionStyle::deleteAtFill(false, Timing::With));
+    list->line.advance(Seconds(1));
+    list->cell(1).setSwipeOffset(-100, false);
+    list->items = 4;
+    action->fulfill(ExpansionFulfillmentStyle::Delete);
+    EXPECT_EQ(cell->contentView.center().x, 160 - 320 - 74);
+    EXPECT_EQ(cell->contentView.drawnFrame().midX(), 60);
+}
+
 TEST_F(SwipeFillTest, ABounceCallsTheActionAndCloses) {
     fill(Side::Right, SwipeExpansionStyle::bounceAtHalf());
     EXPECT_THAT(list->heard, ElementsAre("begin 1", "end 1", "Delete 1"));
@@ -126,7 +136,10 @@ TEST_F(SwipeFillTest, TheCellLeavesUnderAMaskThatCloses) {
             EXPECT_EQ(cell->contentView.center().x, 160 - offsetSign(side) * (320 + 74));
             EXPECT_FALSE(list->cell(1).pointInside({-1, 10}));
             EXPECT_NE(list->collection.hitTest({160, 150}), nullptr);
+            EXPECT_FALSE(list->cell(2).swipeController().tapGestureRecognizer()->recognize({10, 10}));
+            list->cell(2).showSwipe(side, false);
             EXPECT_NE(state(), SwipeState::AnimatingToCenter) << "a touch meanwhile does not call it back";
+            list->cell(2).hideSwipe(false);
             list->line.advance(Seconds(1));
             EXPECT_EQ(cell->contentView.mask(), nullptr);
             EXPECT_EQ(state(), SwipeState::Center);

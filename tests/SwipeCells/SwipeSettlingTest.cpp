@@ -91,6 +91,7 @@ TEST_F(SwipeSettlingTest, WhatTheProgramMovesSettlesInTheStandardTime) {
     list->line.advance(Seconds(1));
     list->cell(1).hideSwipe(true);
     expectDrawn(-40, 160, standard);
+    EXPECT_EQ(list->heard, std::vector<std::string>({"begin 1", "end 1"})) << "it was open for all of it";
 }
 
 TEST_F(SwipeSettlingTest, TheJumpTakesTheStandardTimeAndTheFillLess) {

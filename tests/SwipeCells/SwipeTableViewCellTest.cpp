@@ -46,6 +46,9 @@ TEST_F(SwipeTableViewCellTest, TheTableMovesASwipedCellNoMoreThanUpAndDown) {
     swipe(1, -60, -100);
     owner->cell(1).place({0, 300, 200, 80});
     EXPECT_EQ(owner->cell(1).frame(), (ui::Rect{-148, 300, 200, 80}));
+    owner->cell(1).hideSwipe(true);
+    owner->cell(1).place({7, 100, 320, 100});
+    EXPECT_EQ(owner->cell(1).frame(), (ui::Rect{0, 100, 320, 100})) << "on its way back, too";
     owner->cell(2).place({5, 300, 200, 80});
     EXPECT_EQ(owner->cell(2).frame(), (ui::Rect{5, 300, 200, 80}));
 }
@@ -128,6 +131,16 @@ TEST_F(SwipeTableViewCellTest, TheOwnerMayTakeTheCellAwayAsItHearsOfTheEnd) {
         owner->line.advance(Seconds(2));
         EXPECT_EQ(owner->heard, std::vector<std::string>({"begin 1", "Delete 1", "end 1"}));
     }
+}
+
+TEST_F(SwipeTableViewCellTest, TheOwnerMayEmptyTheTableAsAnotherCellOpens) {
+    swipe(1, -60, -100);
+    const auto rows = owner->table.rows();
+    owner->ended = [this] { owner->table.setRows({}, 100); };
+    owner->cell(2).showSwipe(SwipeActionsOrientation::Right, false);
+    for (const auto& row : rows)
+        EXPECT_EQ(static_cast<SwipeTableViewCell&>(*row).state(), SwipeState::Center);
+    EXPECT_EQ(rows[2]->frame().x, 0);
 }
 
 TEST_F(SwipeTableViewCellTest, WithoutATableNothingHappens) {
