@@ -123,6 +123,9 @@ TEST_F(SwipeActionsViewTest, ButtonsKeepToThePartOfTheCellThatIsSeen) {
         EXPECT_EQ(frame.y, row.y);
         EXPECT_EQ(frame.height, row.height);
     }
+    list->visible.reset();
+    list->right->front()->image = picture(20, 150);
+    EXPECT_EQ(show().subviews().front()->frame().height, 100) << "where nothing covers it, the cell's height";
 }
 
 TEST_F(SwipeActionsViewTest, TheListsSafeMarginWidensTheRowAndIsNotSeen) {
@@ -153,6 +156,16 @@ TEST_F(SwipeActionsViewTest, AnElasticRowFollowsAtAQuarterPastItsWidth) {
         view.setVisibleWidth(moved);
         EXPECT_EQ(view.contentSize(), (ui::Size{content, 100})) << moved;
     }
+}
+
+TEST_F(SwipeActionsViewTest, UnlessTheOwnerChoosesTheButtonsShareWhatIsSeen) {
+    add("Far");
+    add("Near");
+    auto& view = show();
+    view.setVisibleWidth(50);
+    EXPECT_EQ(view.subviews()[0]->frame().x, 0);
+    EXPECT_EQ(view.subviews()[1]->frame().x, 25);
+    EXPECT_EQ(view.bounds().x, 0);
 }
 
 TEST_F(SwipeActionsViewTest, TheExpandedButtonCoversTheRow) {
@@ -231,7 +244,10 @@ TEST_F(SwipeActionsViewTest, AButtonLooksAsItsActionSaysAtRestAndWhilePressed) {
     own->image = picture(20, 20);
     own->highlightedImage = ActionImage{ui::Image::named("pressed"), {20, 20}};
     add("red")->textColor = red;
+    own->accessibilityLabel = "spoken";
     const auto& view = show();
+    EXPECT_EQ(view.buttons()[1]->accessibilityName(), "spoken");
+    EXPECT_EQ(view.buttons()[0]->accessibilityName(), "red");
     const struct {
         const char* what;
         std::size_t index;

@@ -74,6 +74,11 @@ TEST_F(SwipeCellTest, ForReuseACellIsClosedAndItsItemSelectedAgain) {
 TEST_F(SwipeCellTest, ACellThatLeavesTheScreenLeavesItsSwipe) {
     const auto cell = list->collection.cellForItem(1);
     list->collection.selectItem(1);
+    list->open(1);
+    cell->willLeaveWindow();
+    cell->prepareForReuse();
+    EXPECT_THAT(list->collection.selectedItems(), testing::IsEmpty()) << "what left is not selected again";
+    list->collection.selectItem(1);
     list->cell(1).showSwipe(Side::Right, true);
     list->line.advance(Seconds(0.1));
     list->items = 0;
@@ -192,6 +197,11 @@ TEST_F(SwipeCellTest, HiddenAtOnceItStandsInItsPlaceAtOnce) {
     EXPECT_FALSE(list->line.framesAreAskedFor());
     EXPECT_THAT(list->heard, ElementsAre("begin 1", "end 1"));
     EXPECT_THAT(list->collection.selectedItems(), testing::IsEmpty()) << "its row has gone by then";
+    list->cell(1).prepareForReuse();
+    EXPECT_THAT(list->collection.selectedItems(), testing::IsEmpty());
+    list->open(1);
+    list->cell(1).hideSwipe(true);
+    EXPECT_THAT(list->collection.selectedItems(), testing::IsEmpty()) << "nor was it selected this time";
 }
 
 } // namespace

@@ -141,15 +141,25 @@ TEST_F(SwipeControllerTest, OffsetsByTheProgramOpenOneCellAtATime) {
 TEST_F(SwipeControllerTest, AssistiveTechnologyIsOfferedBothSidesNearestFirst) {
     list->left = SwipeActions{list->action("Pin"), list->action("Mute")};
     list->right->back()->title.reset();
+    list->right->push_back(list->action(""));
+    list->right->back()->title.reset();
+    list->right->back()->accessibilityLabel = "Share";
+    list->right->back()->handler = {};
+    list->left->back()->accessibilityLabel = "a title comes first";
     list->right->front()->style = SwipeActionStyle::Destructive;
     std::vector<std::string> names;
     const auto offered = list->cell(1).accessibilityCustomActions();
     for (const auto& custom : offered)
         names.push_back(custom.name);
-    EXPECT_THAT(names, ElementsAre("Delete", "Pin", "SwipeAction", "Mute"));
+    EXPECT_THAT(names, ElementsAre("Delete", "Pin", "SwipeAction", "Share", "Mute"));
+    EXPECT_EQ(list->cell(1).accessibilityActionNames(), names);
+    EXPECT_TRUE(list->cell(1).performAccessibilityAction("Mute"));
+    EXPECT_TRUE(list->cell(1).performAccessibilityAction("Share"));
+    EXPECT_FALSE(list->cell(1).performAccessibilityAction("Fly"));
+    EXPECT_EQ(list->collection.numberOfItems(), 5);
     list->items = 4;
     EXPECT_TRUE(list->cell(1).performAccessibilityCustomAction(offered.front()));
-    EXPECT_THAT(list->heard, ElementsAre("Delete 1"));
+    EXPECT_THAT(list->heard, ElementsAre("Mute 1", "Delete 1"));
     EXPECT_EQ(list->collection.numberOfItems(), 4);
 }
 

@@ -136,6 +136,7 @@ TEST_F(SwipeFillTest, TheCellLeavesUnderAMaskThatCloses) {
             EXPECT_EQ(cell->contentView.center().x, 160 - offsetSign(side) * (320 + 74));
             EXPECT_FALSE(list->cell(1).pointInside({-1, 10}));
             EXPECT_NE(list->collection.hitTest({160, 150}), nullptr);
+            EXPECT_TRUE(list->cell(3).pointInside({10, 50}));
             EXPECT_FALSE(list->cell(2).swipeController().tapGestureRecognizer()->recognize({10, 10}));
             list->cell(2).showSwipe(side, false);
             EXPECT_NE(state(), SwipeState::AnimatingToCenter) << "a touch meanwhile does not call it back";
