@@ -344,6 +344,9 @@ TEST_F(ListTest, TheSwipeOffersDeleteShareAndEditInTheChosenSize) {
         std::vector<std::string> images;
         for (const auto& action : actions) {
             images.push_back(action->image ? action->image->image.name : "");
+            if (action->image) {
+                EXPECT_EQ(action->image->size.width, *row.width - 16) << "eight points beside it";
+            }
             EXPECT_EQ(action->backgroundColor, ui::ColorRef::named("mainBack"));
             EXPECT_EQ(action->title, std::nullopt);
             EXPECT_EQ(action->style, swipe::SwipeActionStyle::Default);

@@ -83,6 +83,7 @@ public:
         return static_cast<SwipeCollectionViewCell&>(*collection.cellForItem(item));
     }
     ui::ScrollView& list() { return collection; }
+    [[nodiscard]] int count() const { return collection.numberOfItems(); }
     void reload() { collection.reloadData(); }
     ui::View& container(int item) { return cell(item).contentView; }
     ui::PanGestureRecognizer& pan(int item) { return *cell(item).swipeController().panGestureRecognizer(); }

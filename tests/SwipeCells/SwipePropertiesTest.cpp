@@ -10,7 +10,7 @@
 namespace tessivo::swipe {
 namespace {
 
-enum class Act { Touch, Move, LetGo, Lose, Wait, Hide, Show, Scroll, Reload };
+enum class Act { Touch, Move, LetGo, Lose, Pull, Wait, Hide, Show, Scroll, Reload };
 
 struct Step {
     Act act;
@@ -20,7 +20,8 @@ struct Step {
 };
 
 std::ostream& operator<<(std::ostream& out, const Step& step) {
-    constexpr std::array names{"touch", "move", "letGo", "lose", "wait", "hide", "show", "scroll", "reload"};
+    constexpr std::array names{"touch", "move", "letGo", "lose",   "pull",
+                               "wait",  "hide", "show",  "scroll", "reload"};
     return out << names[static_cast<std::size_t>(step.act)] << " " << step.item << " way " << step.way
                << " velocity " << step.velocity;
 }
@@ -31,6 +32,7 @@ rc::Gen<Step> anyStep() {
                                                                                         {8, Act::Move},
                                                                                         {4, Act::LetGo},
                                                                                         {1, Act::Lose},
+                                                                                        {2, Act::Pull},
                                                                                         {3, Act::Wait},
                                                                                         {1, Act::Hide},
                                                                                         {1, Act::Show},
@@ -45,7 +47,7 @@ SwipeOptions anyOptions() {
     SwipeOptions options;
     options.transitionStyle = *rc::gen::element(SwipeTransitionStyle::Border, SwipeTransitionStyle::Drag,
                                                 SwipeTransitionStyle::Reveal);
-    switch (*rc::gen::inRange(0, 4)) {
+    switch (*rc::gen::inRange(0, 5)) {
     case 1:
         options.expansionStyle = SwipeExpansionStyle::bounceAtHalf();
         break;
@@ -58,6 +60,10 @@ SwipeOptions anyOptions() {
             SwipeExpansionStyle::FillOptions{ExpansionFulfillmentStyle::Reset,
                                              HandlerInvocationTiming::After});
         break;
+    case 4: // a filled row goes
+        options.expansionStyle = SwipeExpansionStyle::deleteAtFill(
+            true, *rc::gen::element(HandlerInvocationTiming::With, HandlerInvocationTiming::After));
+        break;
     default:
         break;
     }
@@ -66,6 +72,8 @@ SwipeOptions anyOptions() {
 
 template <class Owner>
 void perform(Owner& owner, const Step& step) {
+    if (step.item >= owner.count())
+        return;
     switch (step.act) {
     case Act::Touch:
         if (owner.pan(step.item).state() != ui::GestureState::Possible)
@@ -83,6 +91,16 @@ void perform(Owner& owner, const Step& step) {
     case Act::Lose:
         owner.pan(step.item).cancel();
         return;
+    case Act::Pull: // by the only finger, all the way across
+        for (int item = 0; item < owner.count(); ++item)
+            owner.pan(item).end({0, 0});
+        if (step.item >= owner.count())
+            return;
+        perform(owner, {Act::Touch, step.item, 0, step.velocity});
+        for (const int way : {295, 300})
+            perform(owner, {Act::Move, step.item, step.velocity > 0 ? way : -way, step.velocity});
+        perform(owner, {Act::LetGo, step.item, 0, step.velocity});
+        return;
     case Act::Wait:
         owner.line.advance(Seconds(std::abs(step.way) / 200.0));
         return;
@@ -90,7 +108,7 @@ void perform(Owner& owner, const Step& step) {
         owner.cell(step.item).hideSwipe(step.way < 0);
         return;
     case Act::Show: { // the side and the manner by chance
-        for (int item = 0; item < 5; ++item) {
+        for (int item = 0; item < owner.count(); ++item) {
             if (owner.cell(item).state() == SwipeState::Dragging)
                 return; // what a finger holds nothing closes
         }
@@ -110,7 +128,7 @@ void perform(Owner& owner, const Step& step) {
 template <class Owner>
 void expectSound(Owner& owner) {
     int open = 0;
-    for (int item = 0; item < 5; ++item) {
+    for (int item = 0; item < owner.count(); ++item) {
         const auto& cell = owner.cell(item);
         open += isOpen(cell.state()) ? 1 : 0;
         const bool hasRow = cell.actionsView() != nullptr;
@@ -123,7 +141,7 @@ void expectSound(Owner& owner) {
 template <class Owner>
 void expectSettled(Owner& owner) {
     RC_ASSERT(!owner.line.framesAreAskedFor());
-    for (int item = 0; item < 5; ++item) {
+    for (int item = 0; item < owner.count(); ++item) {
         const auto& cell = owner.cell(item);
         const double moved = owner.container(item).center().x - 160;
         if (cell.state() == SwipeState::Center) {
@@ -150,7 +168,7 @@ void checkTrace() {
         perform(*owner, step);
         expectSound(*owner);
     }
-    for (int item = 0; item < 5; ++item)
+    for (int item = 0; item < owner->count(); ++item)
         owner->pan(item).end({0, 0});
     owner->line.advance(Seconds(20));
     expectSound(*owner);

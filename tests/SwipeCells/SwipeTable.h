@@ -49,6 +49,7 @@ public:
         });
     }
     ui::ScrollView& list() { return table; }
+    [[nodiscard]] int count() const { return static_cast<int>(table.rows().size()); }
     void reload() { table.setRows(table.rows(), 100); }
     SwipeTableViewCell& cell(int item) {
         return static_cast<SwipeTableViewCell&>(*table.rows()[static_cast<std::size_t>(item)]);
