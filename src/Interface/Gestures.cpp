@@ -30,6 +30,7 @@ bool GestureRecognizer::mayBegin() {
 }
 
 void GestureRecognizer::enter(GestureState state) {
+    const auto alive = weak_from_this().lock();
     state_ = state;
     // A target may remove itself or others, so each call stands on an index that is checked anew.
     for (std::size_t index = 0; index < targets_.size(); ++index) {

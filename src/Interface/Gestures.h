@@ -23,9 +23,10 @@ public:
 };
 
 /// Watches the touches on its view. The window feeds it; targets are called with each change of its state, in
-/// the order in which they were added. A gesture that is over is possible again once its targets have heard
-/// of it; one that may not begin stays possible and calls no target. Main thread.
-class GestureRecognizer {
+/// the order in which they were added; one may take the view away, and the recognizer with it. A gesture that
+/// is over is possible again once its targets have heard of it; one that may not begin stays possible and
+/// calls no target. Main thread.
+class GestureRecognizer : public std::enable_shared_from_this<GestureRecognizer> {
 public:
     virtual ~GestureRecognizer() = default;
     GestureRecognizer(const GestureRecognizer&) = delete;
