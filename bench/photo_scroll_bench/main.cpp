@@ -7,10 +7,11 @@
 #include "UnsplashPicker/PickerServices.h"
 #include "UnsplashPicker/UnsplashPicker.h"
 #include "app/Composition.h"
+#include "bench/ProcessCost.h"
+#include "bench/ScrollingList.h"
 #include "standard/StandardConsole.h"
 #include "standard/SystemClock.h"
 
-#include <QFile>
 #include <QFont>
 #include <QGuiApplication>
 #include <QProcess>
@@ -55,29 +56,10 @@ double threadMilliseconds() {
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) * 1e-6;
 }
 
-double residentMegabytes() {
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    const QByteArray text = status.readAll();
-    const auto line = text.mid(text.indexOf("VmRSS:") + 6);
-    return line.left(line.indexOf("kB")).trimmed().toDouble() / 1024;
-}
-
 double percentile(std::vector<double> values, double share) {
     const auto rank = static_cast<std::ptrdiff_t>(static_cast<double>(values.size() - 1) * share);
     std::ranges::nth_element(values, values.begin() + rank);
     return values[static_cast<std::size_t>(rank)];
-}
-
-QQuickItem* firstList(QQuickItem& item) {
-    if (item.inherits("QQuickFlickable"))
-        return &item;
-    for (QQuickItem* child : item.childItems()) {
-        if (auto* list = firstList(*child))
-            return list;
-    }
-    return nullptr;
 }
 
 /// Scrolls down and up at the pace of a screen, and notes what each frame costs, with all that comes in
@@ -99,7 +81,7 @@ private:
     void nextFrame() {
         const double now = threadMilliseconds();
         times_.push_back(now - std::exchange(before_, now));
-        const double end = list_.property("contentHeight").toDouble() - list_.height();
+        const double end = wayOf(list_);
         const double y = list_.property("contentY").toDouble() + direction_ * step;
         if (y >= end || y <= 0)
             direction_ = y <= 0 ? 1 : -1;
@@ -147,7 +129,7 @@ int measure(QGuiApplication& application, int photos) {
     // The first page and its pictures have come by then.
     QTimer::singleShot(2'000, &application, [&] {
         memory.push_back(residentMegabytes());
-        scroll.emplace(*firstList(*program.shell().window()->contentItem())).start(passed);
+        scroll.emplace(scrollingList(*program.shell().window())).start(passed);
     });
     const int result = QGuiApplication::exec();
     if (result != EXIT_SUCCESS)

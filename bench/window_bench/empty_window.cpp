@@ -1,6 +1,6 @@
 // The floor of every start: a program that opens an empty Qt Quick window.
 
-#include "bench/window_bench/ProcessCost.h"
+#include "bench/ProcessCost.h"
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>

@@ -6,7 +6,7 @@
 #include "app/Composition.h"
 #include "bench/EventFolder.h"
 #include "bench/ScrollingList.h"
-#include "bench/window_bench/ProcessCost.h"
+#include "bench/ProcessCost.h"
 #include "standard/StandardConsole.h"
 #include "standard/SystemClock.h"
 
