@@ -1,7 +1,6 @@
 #include "qtdesktop/QtPhotoLibrary.h"
 
-#include "adapters/qtdesktop/StandInPortal.h"
-#include "session/PrivateSession.h"
+#include "adapters/qtdesktop/OnPortal.h"
 #include "support/TemporaryFolder.h"
 
 #include <QCoreApplication>
@@ -18,8 +17,6 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 using testing::Not;
-
-constexpr auto busName = "photos";
 
 /// Runs the main loop until `done`, or for as long as only a fault takes.
 void runUntil(const std::function<bool()>& done) {
@@ -98,27 +95,7 @@ TEST_F(PhotoChooser, TurningAwayIsNoErrorAndAFailingOrMissingProgramIs) {
 }
 
 /// The same with a portal on a bus of the test's own.
-class PhotoPortal : public PhotoChooser {
-protected:
-    PhotoPortal()
-        : PhotoChooser(QDBusConnection::connectToBus(address(), QString::fromLatin1(busName))),
-          portal(address()) {}
-    ~PhotoPortal() override { QDBusConnection::disconnectFromBus(QString::fromLatin1(busName)); }
-
-    static void SetUpTestSuite() {
-        if (!PrivateSession::isPossible())
-            GTEST_SKIP() << "This machine has no programs for a session of the test's own.";
-        session = std::make_unique<PrivateSession>();
-    }
-    static void TearDownTestSuite() { session.reset(); }
-
-    static QString address() { return qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"); }
-
-    static std::unique_ptr<PrivateSession> session;
-    StandInPortal portal;
-};
-
-std::unique_ptr<PrivateSession> PhotoPortal::session;
+using PhotoPortal = OnPortal<PhotoChooser>;
 
 TEST_F(PhotoPortal, ThePortalOffersPicturesAndItsAddressIsHandedOnAsItComes) {
     portal.uris = {QStringLiteral("file:///run/user/1000/doc/a%20b.jpg")};

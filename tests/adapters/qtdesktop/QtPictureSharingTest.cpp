@@ -1,8 +1,7 @@
 #include "qtdesktop/QtPictureSharing.h"
-#include "adapters/qtdesktop/StandInPortal.h"
+#include "adapters/qtdesktop/OnPortal.h"
 #include "qt/QtMainQueue.h"
 #include "qtimage/QtImageCoding.h"
-#include "session/PrivateSession.h"
 #include "standard/ThreadWorkQueue.h"
 #include "support/TemporaryFolder.h"
 
@@ -25,8 +24,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
-
-constexpr auto busName = "sharing";
 
 std::string read(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
@@ -166,27 +163,7 @@ TEST_F(Sharing, AProgramThatFailsOrIsMissingIsAnError) {
 }
 
 /// The same with a portal on a bus of the test's own.
-class SharingByPortal : public Sharing {
-protected:
-    SharingByPortal()
-        : Sharing(QDBusConnection::connectToBus(address(), QString::fromLatin1(busName))),
-          portal(address()) {}
-    ~SharingByPortal() override { QDBusConnection::disconnectFromBus(QString::fromLatin1(busName)); }
-
-    static void SetUpTestSuite() {
-        if (!PrivateSession::isPossible())
-            GTEST_SKIP() << "This machine has no programs for a session of the test's own.";
-        session = std::make_unique<PrivateSession>();
-    }
-    static void TearDownTestSuite() { session.reset(); }
-
-    static QString address() { return qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"); }
-
-    static std::unique_ptr<PrivateSession> session;
-    StandInPortal portal;
-};
-
-std::unique_ptr<PrivateSession> SharingByPortal::session;
+using SharingByPortal = OnPortal<Sharing>;
 
 TEST_F(SharingByPortal, ThePortalGetsThePictureAndAsksTheUserWhoOpensIt) {
     EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
