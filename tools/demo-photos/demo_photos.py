@@ -164,7 +164,7 @@ class Service(http.server.BaseHTTPRequestHandler):
 
     def tell(self, *words):
         if self.tells:
-            print(*words, flush=True)
+            print(" ".join(words) + "\n", end="", flush=True)  # in one piece: threads tell at the same time
 
     def base(self):
         return "http://127.0.0.1:%d" % self.server.server_port
