@@ -16,6 +16,14 @@ using testing::ElementsAre;
 
 constexpr auto photo = "file:///home/ada/sea%20side.jpg";
 
+/// A small file that says it is a photo of a hundred million pixels.
+std::string hugePhoto(const ImageCoding& images) {
+    std::string data = *images.jpeg(stripes(8, 8), 1);
+    const auto frame = data.find("\xFF\xC0"); // its length, depth, height and width follow
+    data.replace(frame + 5, 4, std::string("\x27\x10\x27\x10", 4));
+    return data;
+}
+
 /// The background step with the photo library open on it. The network answers for files, too.
 class ImagePickerTest : public testing::Test {
 protected:
@@ -146,6 +154,7 @@ TEST_F(ImagePickerTest, WhatCannotBeShownIsSaidAndAnotherCanBeChosen) {
     auto& picker = openLibrary();
     for (const auto& [answer, lines] :
          {std::pair(Result<HttpResponse>(HttpResponse{std::nullopt, {}, "no picture"}), 1),
+          std::pair(Result<HttpResponse>(HttpResponse{std::nullopt, {}, hugePhoto(program.images)}), 1),
           std::pair(Result<HttpResponse>(Error{std::string(urlErrorDomain), UrlErrorTooLarge, "large"}),
                     2)}) {
         choose(answer);
