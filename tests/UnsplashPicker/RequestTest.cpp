@@ -123,6 +123,24 @@ TEST_F(RequestTest, ReadsSearchAnswers) {
     EXPECT_EQ(completions, std::ssize(cases));
 }
 
+TEST_F(RequestTest, ReadsCollectionAnswers) {
+    const std::tuple<std::string, std::size_t, std::string> cases[] = {
+        {photosJson(2), 2, ""},        {"[]", 0, ""},           {R"({"results": []})", 0, "Decoding"},
+        {"[{}]", 0, "Decoding"},       {"null", 0, "Decoding"}, {"[{", 0, "RequestError"},
+        {"<html>", 0, "RequestError"},
+    };
+    for (const auto& [body, items, domain] : cases) {
+        const auto request = make<GetCollectionPhotosRequest>({{"id", "317099"}});
+        queue.addOperation(request);
+        timeline.runPosted();
+        http.answer(200, body);
+        EXPECT_EQ(request->items().size(), items) << body;
+        EXPECT_EQ(request->error() ? request->error()->domain : "", domain) << body;
+        EXPECT_TRUE(request->isFinished());
+    }
+    EXPECT_EQ(completions, std::ssize(cases));
+}
+
 TEST_F(RequestTest, HandsOnWhatTheNetworkSays) {
     const Error lost{std::string(urlErrorDomain), UrlErrorNetworkConnectionLost, "lost"};
     const auto request = started();
