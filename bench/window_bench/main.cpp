@@ -5,8 +5,8 @@
 
 #include "app/Composition.h"
 #include "bench/EventFolder.h"
-#include "bench/ScrollingList.h"
 #include "bench/ProcessCost.h"
+#include "bench/ScrollingList.h"
 #include "standard/StandardConsole.h"
 #include "standard/SystemClock.h"
 

@@ -57,6 +57,7 @@ protected:
 };
 
 TEST_F(ImagePickerTest, TheFramedPartIsPreviewedAndTheFileBecomesTheBackground) {
+    chooser->eventData->unsplashPath = "https://i.test/former";
     auto& picker = openLibrary();
     EXPECT_TRUE(picker.chooseButton.isHidden()) << "there is nothing to choose yet";
     choose(stripes(20, 5));

@@ -115,7 +115,18 @@ TEST_F(PictureTest, WhatIsInViewBecomesTheBackground) {
     const auto rows = program.services().coreDataStack().fetchEvents();
     const auto cell = std::make_shared<EventCell>(program.services());
     cell->configure(*rows.front());
-    EXPECT_EQ(cell->photoImage.image().bitmap->height, 10);
+    ASSERT_EQ(cell->photoImage.image().bitmap->height, 10);
+    EXPECT_NEAR(redAt(*cell->photoImage.image().bitmap, 4), 190, 4) << "as good as a file can be";
+}
+
+TEST_F(PictureTest, WhatMakesNoJpegIsKeptAsPng) {
+    auto& chooser = openChooser();
+    choose(chooser, photo("tower"), stripes(1, 70'000));
+    program.top<UnsplahImageView>().saveButton.tap();
+    program.settle();
+    chooser.nextButton.tap();
+    program.settle();
+    EXPECT_THAT(*program.documents.read("tower"), StartsWith("\x89PNG"));
 }
 
 TEST_F(PictureTest, ANarrowPictureIsKeptWhole) {

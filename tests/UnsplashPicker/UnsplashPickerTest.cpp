@@ -110,10 +110,12 @@ TEST_F(UnsplashPickerTest, FetchesTheNextPageNearTheEnd) {
         });
     };
     EXPECT_EQ(pages(), 1);
-    screen.collectionView.setContentOffset({0, 400}); // brings item 11 of 30 up
-    timeline.runPosted();
-    ASSERT_NE(cell(11), nullptr);
-    EXPECT_EQ(pages(), 2);
+    for (double offset = 0; pages() == 1 && offset < 1000; ++offset) {
+        screen.collectionView.setContentOffset({0, offset});
+        timeline.runPosted();
+    }
+    EXPECT_NE(cell(11), nullptr) << "item 11 of 30 asks";
+    EXPECT_EQ(cell(12), nullptr);
     answerPage(5, 31);
     EXPECT_EQ(screen.collectionView.numberOfItems(), 35);
     EXPECT_FALSE(screen.dataSource().canFetchMore());
@@ -245,6 +247,19 @@ TEST_F(UnsplashPickerTest, CancellingClosesItAndEndsItsFetch) {
     EXPECT_EQ(http.running(), 0u);
 }
 
+TEST_F(UnsplashPickerTest, AFetchGoesOnUnderAnotherScreenAndEndsWithASearch) {
+    open();
+    const auto over = std::make_shared<Blank>(window);
+    picker->present(over, false);
+    over->dismiss(false);
+    timeline.runPosted();
+    EXPECT_EQ(http.exchanges().size(), 1u);
+    EXPECT_EQ(http.running(), 1u);
+    search("sea");
+    EXPECT_EQ(http.running(), 1u);
+    EXPECT_EQ(http.exchanges().size(), 2u);
+}
+
 TEST_F(UnsplashPickerTest, AConfiguredQueryTakesThePlaceOfTheSearchBar) {
     configuration.query = "mountains";
     auto& screen = open();
@@ -258,6 +273,7 @@ TEST_F(UnsplashPickerTest, ThumbnailsAreAskedForAtTheirWidthAndComeOutOfTheCache
     auto& screen = openWith(3);
     const auto thumbnail = newest("i.test/p1");
     EXPECT_EQ(http.exchanges()[thumbnail]->request.url, "https://i.test/p1?w=1080&w=187.0&dpr=2");
+    EXPECT_EQ(http.exchanges()[thumbnail]->request.timeout, Seconds(60));
     EXPECT_EQ(cell(0)->photoView.imageView.backgroundColor().value, (Color{0.2, 0.4, 0.6, 1}));
     answer(thumbnail, 200, "4x3");
     EXPECT_EQ(cell(0)->photoView.imageView.image().bitmap->width, 4);
