@@ -66,14 +66,16 @@ void ImagePickerController::openLibrary() {
 
 void ImagePickerController::load(const std::string& url) {
     const ui::Size drawn{cropView.frame().width * maximumZoom, cropView.frame().height * maximumZoom};
-    services().eventImages().readPhoto(url, drawn, [this, url, alive = weak_from_this()](ui::Image photo) {
-        if (alive.expired())
+    const int choice = ++choices_;
+    const auto read = [this, url, choice, alive = weak_from_this()](ui::Image photo) {
+        if (alive.expired() || choice != choices_)
             return;
         if (photo.isSet())
             return showPhoto(std::move(photo), url);
         platform().console.print("Не удалось загрузить изображение.");
         tell("This photo cannot be shown.");
-    });
+    };
+    services().eventImages().readPhoto(url, drawn, read);
 }
 
 void ImagePickerController::showPhoto(ui::Image photo, const std::string& url) {

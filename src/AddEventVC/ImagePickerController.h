@@ -69,6 +69,7 @@ private:
 
     std::optional<std::string> imageURL_;
     bool opened_ = false;
+    int choices_ = 0; ///< a photo that comes after a later choice is dropped
 };
 
 } // namespace tessivo

@@ -174,6 +174,23 @@ TEST_F(ImagePickerTest, WhatCannotBeShownIsSaidAndAnotherCanBeChosen) {
     EXPECT_FALSE(picker.chooseButton.isHidden());
 }
 
+TEST_F(ImagePickerTest, APhotoThatComesAfterALaterChoiceIsDropped) {
+    for (const auto& late : {*program.images.png(stripes(20, 5)), std::string("no picture")}) {
+        auto& picker = openLibrary();
+        const auto first = program.http.exchanges().size();
+        program.photoLibrary.choose(std::optional<std::string>("file:///slow.jpg"));
+        picker.libraryButton.tap();
+        choose(stripes(12, 5));
+        program.http.answer(first, HttpResponse{std::nullopt, {}, late});
+        program.settle();
+        EXPECT_EQ(picker.imageView.image().bitmap->width, 12);
+        EXPECT_EQ(picker.messageLabel.text(), "");
+        picker.chooseButton.tap();
+        program.settle();
+        EXPECT_EQ(chooser->eventData->photoPath, photo);
+    }
+}
+
 TEST_F(ImagePickerTest, AnAnswerAfterTheScreenHasGoneIsDropped) {
     openLibrary().cancelButton.tap();
     program.settle();
