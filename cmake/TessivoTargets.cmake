@@ -29,3 +29,12 @@ function(tessivo_test target)
   target_link_libraries(${target} PRIVATE ${ARG_DEPENDS} GTest::gmock GTest::gtest_main)
   gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 300 ${ARG_PROPERTIES})
 endfunction()
+
+# tessivo_find_qttest()
+# Qt's touches and key presses, as Qt6::Test. Qt puts the folders of the calling target into every command line of it,
+# for QFINDTESTDATA, which nothing here uses; an absolute path there keeps a compiler cache from serving a second
+# checkout.
+macro(tessivo_find_qttest)
+  find_package(Qt6 REQUIRED COMPONENTS Test)
+  set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
+endmacro()

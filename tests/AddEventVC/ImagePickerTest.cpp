@@ -3,6 +3,7 @@
 #include "AddEventVC/ReminderViewController.h"
 #include "Event/CoreDataStack.h"
 #include "MainVC/EventCell.h"
+#include "Ports/ImageCoding.h"
 #include "support/Pictures.h"
 #include "support/Program.h"
 #include "support/Wizard.h"

@@ -2,15 +2,13 @@
 
 #include "Interface/GradientLayer.h"
 #include "fakes/RecordingConsole.h"
+#include "support/Resources.h"
 #include "json/JsonNamedColors.h"
 
 #include <gmock/gmock.h>
 
 #include <cmath>
-#include <fstream>
-#include <iterator>
 #include <set>
-#include <stdexcept>
 
 namespace tessivo {
 
@@ -23,12 +21,7 @@ constexpr Color white{1, 1, 1, 1};
 
 /// The catalogue that the program ships.
 JsonNamedColors shippedColors() {
-    std::ifstream file(TESSIVO_RESOURCES "/colors.json");
-    const std::string json{std::istreambuf_iterator<char>(file), {}};
-    auto colors = JsonNamedColors::fromJson(json);
-    if (!colors)
-        throw std::runtime_error(colors.error().description);
-    return std::move(colors.value());
+    return JsonNamedColors::fromJson(resource("colors.json")).value();
 }
 
 /// Relative luminance and contrast ratio as the Web Content Accessibility Guidelines define them.

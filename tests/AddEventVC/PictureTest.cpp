@@ -4,6 +4,8 @@
 #include "AddEventVC/ReminderViewController.h"
 #include "Event/CoreDataStack.h"
 #include "MainVC/EventCell.h"
+#include "Ports/DocumentFiles.h"
+#include "Ports/ImageCoding.h"
 #include "Support/EventImages.h"
 #include "UnsplashPicker/PickerServices.h"
 #include "support/Pictures.h"

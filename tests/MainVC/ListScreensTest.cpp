@@ -5,6 +5,7 @@
 #include "MainVC/MainViewController.h"
 #include "Ports/SavedSettings.h"
 #include "Support/SettingKeys.h"
+#include "Support/StartUp/Screens.h"
 #include "support/Program.h"
 
 #include <gtest/gtest.h>

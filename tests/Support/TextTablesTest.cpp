@@ -1,4 +1,5 @@
 #include "Support/LocalizationVariables.h"
+#include "support/Resources.h"
 #include "json/JsonLocalizedTexts.h"
 #include "json/TextTable.h"
 
@@ -6,8 +7,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <vector>
 
@@ -18,9 +17,7 @@ using testing::UnorderedElementsAre;
 using testing::UnorderedElementsAreArray;
 
 std::string contentsOf(const char* language) {
-    std::ifstream stream(std::filesystem::path(TESSIVO_RESOURCES "/texts") /
-                         (std::string(language) + ".json"));
-    return {std::istreambuf_iterator<char>(stream), {}};
+    return resource("texts/" + std::string(language) + ".json");
 }
 
 /// Notes the keys that are asked for, and answers with the key in brackets.
@@ -80,7 +77,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, EveryLanguage, testing::Values("en", "de", "fr",
 
 TEST(EveryLanguageFile, IsOneOfTheTestedOnes) {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(TESSIVO_RESOURCES "/texts"))
+    for (const auto& entry : std::filesystem::directory_iterator(resourcesFolder() / "texts"))
         names.push_back(entry.path().filename().string());
     EXPECT_THAT(names, UnorderedElementsAre("en.json", "de.json", "fr.json", "es.json", "ru.json", "ja.json",
                                             "ar.json"));

@@ -7,14 +7,13 @@
 #include "fakes/RecordingConsole.h"
 #include "fakes/ScriptedHttpClient.h"
 #include "fakes/Timeline.h"
+#include "support/Resources.h"
 #include "json/JsonLocalizedTexts.h"
 #include "json/NlohmannJson.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 
 namespace tessivo::unsplash {
 
@@ -34,8 +33,7 @@ public:
 
 /// The module's own texts in a language.
 inline JsonLocalizedTexts pickerTexts(const std::string& language) {
-    std::ifstream file(std::string(TESSIVO_UNSPLASH_TEXTS) + "/" + language + ".json", std::ios::binary);
-    return JsonLocalizedTexts::fromJson(std::string(std::istreambuf_iterator<char>(file), {})).value();
+    return JsonLocalizedTexts::fromJson(resource("unsplash-texts/" + language + ".json")).value();
 }
 
 /// The picker's machine on virtual time: a scripted network, real JSON.

@@ -12,6 +12,7 @@
 #include "qtnetwork/QtHttpClient.h"
 #include "qtnetwork/QtResponseCaches.h"
 #include "standard/ThreadWorkQueue.h"
+#include "support/Resources.h"
 #include "support/TemporaryFolder.h"
 #include "json/JsonLocalizedTexts.h"
 #include "json/NlohmannJson.h"
@@ -20,8 +21,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <fstream>
-#include <iterator>
 #include <thread>
 
 namespace tessivo::unsplash {
@@ -63,8 +62,7 @@ private:
 };
 
 JsonLocalizedTexts englishTexts() {
-    std::ifstream file(TESSIVO_RESOURCES "/unsplash-texts/en.json", std::ios::binary);
-    return JsonLocalizedTexts::fromJson(std::string(std::istreambuf_iterator<char>(file), {})).value();
+    return JsonLocalizedTexts::fromJson(resource("unsplash-texts/en.json")).value();
 }
 
 /// The photo browser with its real parts, without a window, against the demo service.
