@@ -11,6 +11,7 @@
 #include "Ports/MainQueue.h"
 #include "Support/LocalizationVariables.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tessivo {
@@ -71,6 +72,16 @@ swipe::SwipeOptions MainViewController::editActionsOptions(ui::CollectionView&, 
     return options;
 }
 
+std::function<void()> MainViewController::laterOnEvent(int item, std::function<void(int)> act) {
+    return [this, id = rowAt(item).id(), act = std::move(act)] {
+        if (!records)
+            return;
+        const auto found = std::ranges::find_if(*records, [&](const auto& row) { return row->id() == id; });
+        if (found != records->end())
+            act(static_cast<int>(found - records->begin()));
+    };
+}
+
 std::shared_ptr<EventCoreData> MainViewController::freshRowAt(int item) {
     const auto id = rowAt(item).id();
     if (!id)
@@ -90,7 +101,7 @@ void MainViewController::showEditSheet(int item) {
                                                              "What do you want to edit?");
     for (const auto& choice : editChoices)
         sheet->addAction({choice.title, ui::AlertActionStyle::Default,
-                          [this, kind = choice.screen, item] { edit(kind, item); }});
+                          laterOnEvent(item, [this, kind = choice.screen](int at) { edit(kind, at); })});
     sheet->addAction({"Cancel", ui::AlertActionStyle::Cancel, {}});
     present(sheet);
 }
@@ -99,10 +110,14 @@ std::optional<ui::Menu> MainViewController::contextMenuForItem(ui::CollectionVie
     ui::MenuElement edits{"Edit", "pencil", {}, {}};
     for (const auto& choice : editChoices)
         edits.children.push_back(
-            {choice.title, choice.symbol, [this, kind = choice.screen, item] { edit(kind, item); }, {}});
-    return ui::Menu{{std::move(edits),
-                     {"Share", "square.and.arrow.up", [this, item] { shareCard(item); }, {}},
-                     {"Delete", "trash", [this, item] { confirmDeletion(item); }, {}}}};
+            {choice.title,
+             choice.symbol,
+             laterOnEvent(item, [this, kind = choice.screen](int at) { edit(kind, at); }),
+             {}});
+    const auto share = laterOnEvent(item, [this](int at) { shareCard(at); });
+    const auto remove = laterOnEvent(item, [this](int at) { confirmDeletion(at); });
+    return ui::Menu{
+        {std::move(edits), {"Share", "square.and.arrow.up", share, {}}, {"Delete", "trash", remove, {}}}};
 }
 
 void MainViewController::shareCard(int item) {
@@ -122,7 +137,8 @@ void MainViewController::confirmDeletion(int item) {
         std::make_shared<ui::AlertController>(window(), ui::AlertStyle::ActionSheet, deletionTitle, "");
     // The look of danger stands on the answer that keeps the event.
     sheet->addAction({texts().alertNo, ui::AlertActionStyle::Destructive, {}});
-    sheet->addAction({texts().alertYes, ui::AlertActionStyle::Default, [this, item] { deleteAction(item); }});
+    sheet->addAction({texts().alertYes, ui::AlertActionStyle::Default,
+                      laterOnEvent(item, [this](int at) { deleteAction(at); })});
     present(sheet);
 }
 

@@ -56,9 +56,19 @@ private:
 class ListScreensTest : public testing::Test {
 protected:
     ListScreensTest() {
+        store("event", {});
+        program.stack().top()->present(list, false);
+        list->collection.reloadData();
+    }
+
+    ~ListScreensTest() override { list->dismiss(false); } // it draws on services that go before the program
+
+    void store(const std::string& title, std::optional<std::string> time,
+               const std::string& day = "25 June 2030") {
         EventItem item;
-        item.title = "event";
-        item.dateEvent = "25 June 2030";
+        item.title = title;
+        item.dateEvent = day;
+        item.timeEvent = std::move(time);
         item.repEvent = 0;
         item.timeFormat = 0;
         item.alertReminder = item.repReminder = item.gradient = NO_VALUE;
@@ -66,11 +76,7 @@ protected:
         item.eventType = true;
         item.id = program.services().platform().uuids.random();
         services.coreDataStack().addEvent(item);
-        program.stack().top()->present(list, false);
-        list->collection.reloadData();
     }
-
-    ~ListScreensTest() override { list->dismiss(false); } // it draws on services that go before the program
 
     EventCell& card() { return dynamic_cast<EventCell&>(*list->collection.cellForItem(0)); }
 
@@ -119,6 +125,73 @@ TEST_F(ListScreensTest, EveryWayToAScreenTakesACopyOfTheEventThatNothingElseSees
         program.settle();
         list->dismiss(false);
         ASSERT_EQ(program.stack().top(), list.get());
+    }
+}
+
+TEST_F(ListScreensTest, ATickUnderAQuestionMovesNoActToAnotherEvent) {
+    const auto sheet = [this](int item) {
+        list->showEditSheet(item);
+        return [this] { program.top<ui::AlertController>().choose(2); };
+    };
+    const auto question = [this](int item) {
+        list->confirmDeletion(item);
+        return [this] { program.top<ui::AlertController>().choose(1); };
+    };
+    const auto menu = [this](std::size_t element) {
+        return [this, element](int item) {
+            auto chosen = list->contextMenuForItem(list->collection, item, {})->elements[element];
+            return chosen.children.empty() ? chosen.handler : chosen.children[2].handler;
+        };
+    };
+    const auto titles = [this] {
+        std::string all;
+        for (const auto& row : services.makeCoreDataStack()->fetchEvents())
+            all += *row->title() + " ";
+        return all;
+    };
+    const struct {
+        const char* what;
+        std::function<std::function<void()>(int)> ask;
+        std::function<std::string()> done; ///< which event the answer took, empty for none
+    } rows[] = {
+        {"edit sheet", sheet, [&] { return screens.event ? *screens.event->title() : ""; }},
+        {"menu, edit", menu(0), [&] { return screens.event ? *screens.event->title() : ""; }},
+        {"menu, share", menu(1),
+         [&] {
+             const auto& asked = program.snapshots.asked;
+             return asked.empty() ? "" : asked.back()->accessibilityName().substr(0, 5);
+         }},
+        {"menu, delete", menu(2),
+         [&] {
+             auto* alert = dynamic_cast<ui::AlertController*>(program.stack().top());
+             if (alert)
+                 alert->choose(1);
+             return std::string(titles().find("later") == std::string::npos ? "later" : "");
+         }},
+        {"delete", question,
+         [&] { return std::string(titles().find("later") == std::string::npos ? "later" : ""); }},
+    };
+    services.coreDataStack().deleteEvent(*(*list->records)[0]->id());
+    for (const auto& [what, ask, done] : rows) {
+        for (const int item : {0, 1}) { // the event that the tick takes away, and the one behind it
+            SCOPED_TRACE(std::string(what) + ", card " + std::to_string(item));
+            store("sooner", "10:30 AM", "21 June 2030");
+            store("later", {});
+            list->collection.reloadData();
+            const auto answer = ask(item);
+            program.timeline.advance(Seconds(60));
+            ASSERT_EQ(list->collection.numberOfItems(), 1) << "the tick has come";
+            screens.event = nullptr;
+            program.snapshots.asked.clear();
+            answer();
+            EXPECT_EQ(done(), item == 0 ? "" : "later");
+            EXPECT_NE(titles().find("sooner"), std::string::npos) << "nothing else was deleted";
+            program.settle();
+            if (program.stack().top() != list.get())
+                list->dismiss(false);
+            for (const auto& row : services.coreDataStack().fetchEvents())
+                services.coreDataStack().deleteEvent(*row->id());
+        }
     }
 }
 
