@@ -43,7 +43,7 @@ Composition::Composition(Settings settings, Clock& clock, Console& console)
       eventStore_(settings_.data / "events.sqlite"),
       notificationQueue_(settings_.data / "reminders.sqlite", console),
       notificationCenter_(
-          notificationQueue_, calendar_, queueCalendar_, mainQueue_,
+          {notificationQueue_, calendar_, queueCalendar_, mainQueue_}, std::make_unique<ThreadWorkQueue>(),
           [this](std::function<void(bool)> answer) { permission_.ask(std::move(answer)); },
           settings_.tellReminderHelper),
       photoTexts_(table<JsonLocalizedTexts>("unsplash-texts/" + settings_.language + ".json", console)),

@@ -2,11 +2,11 @@
 
 #include "Interface/Animation.h"
 #include "Interface/PresentationStack.h"
+#include "Reminders/QueuedNotificationCenter.h"
 #include "Support/SharedServices.h"
 #include "Support/StartUp/NotificationPermission.h"
 #include "Support/StartUp/Screens.h"
 #include "freedesktop/DataFolder.h"
-#include "freedesktop/FreedesktopNotificationCenter.h"
 #include "icu/IcuCalendar.h"
 #include "icu/IcuDateFormatters.h"
 #include "icu/IcuTextCounting.h"
@@ -88,7 +88,7 @@ private:
     sqlite::SqliteEventStore eventStore_;
     sqlite::SqliteNotificationQueue notificationQueue_;
     RandomUuids uuids_;
-    freedesktop::FreedesktopNotificationCenter notificationCenter_;
+    QueuedNotificationCenter notificationCenter_;
     JsonLocalizedTexts photoTexts_;
     NlohmannJson json_;
     QtImageCoding images_;

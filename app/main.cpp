@@ -1,8 +1,8 @@
 #include "app/Composition.h"
-#include "app/DesktopActivation.h"
 #include "freedesktop/DataFolder.h"
 #include "freedesktop/ReminderService.h"
 #include "icu/DeviceLocale.h"
+#include "qtdesktop/DesktopActivation.h"
 #include "standard/StandardConsole.h"
 #include "standard/SystemClock.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Reminders/WallAlarm.h"
 #include "fakes/Timeline.h"
-#include "reminders/engine/WallAlarm.h"
 
 #include <map>
 #include <memory>

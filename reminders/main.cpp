@@ -1,3 +1,4 @@
+#include "Reminders/ReminderEngine.h"
 #include "freedesktop/BusAppActivation.h"
 #include "freedesktop/DataFolder.h"
 #include "freedesktop/DesktopNotificationDisplay.h"
@@ -7,7 +8,6 @@
 #include "freedesktop/SessionBus.h"
 #include "freedesktop/TimerfdAlarm.h"
 #include "icu/IcuCalendar.h"
-#include "reminders/engine/ReminderEngine.h"
 #include "sqlite/SqliteNotificationQueue.h"
 #include "standard/StandardConsole.h"
 #include "standard/SystemClock.h"
@@ -42,9 +42,9 @@ Ending run(const std::filesystem::path& program, Console& console) {
     ReminderEngine engine({queue, display, alarm, app, clock, calendar, console});
 
     bool hasBegun = false;
-    const auto look = [&] {
+    const auto processDue = [&] {
         if (hasBegun)
-            engine.look();
+            engine.processDue();
     };
     Ending ending = Ending::Done;
     const auto finishWith = [&](Ending how) {
@@ -52,7 +52,7 @@ Ending run(const std::filesystem::path& program, Console& console) {
         engine.finish([&] { loop.value().quit(0); });
     };
 
-    const auto zoneWatch = freedesktop::watchFile(loop.value(), "/etc/localtime", look);
+    const auto zoneWatch = freedesktop::watchFile(loop.value(), "/etc/localtime", processDue);
     const auto programWatch =
         freedesktop::watchFile(loop.value(), program, [&] { finishWith(Ending::Replaced); });
     if (const auto error = loop.value().onTermination([&] { finishWith(Ending::Done); }))
@@ -61,9 +61,9 @@ Ending run(const std::filesystem::path& program, Console& console) {
     freedesktop::ReminderService service(bus.value(), TESSIVO_VERSION,
                                          {[&] {
                                               hasBegun = true;
-                                              look();
+                                              processDue();
                                           },
-                                          look, [&] { finishWith(Ending::Done); }});
+                                          processDue, [&] { finishWith(Ending::Done); }});
     const auto claimed = service.claim();
     if (!claimed) {
         console.print(claimed.error().description);

@@ -37,9 +37,9 @@ def main(root):
         return name.split("/")[0]
 
     check("src", lambda system, name, file: name in STANDARD if system else first(name) in program)
-    check("fakes", lambda system, name, file: name in STANDARD if system else first(name) in program | {"fakes", "reminders"})
+    check("fakes", lambda system, name, file: name in STANDARD if system else first(name) in program | {"fakes"})
     check("adapters", lambda system, name, file: system or first(name) in program
-          or first(name) in (file.relative_to(root / "adapters").parts[0], "reminders"))
+          or first(name) == file.relative_to(root / "adapters").parts[0])
     check("shell", lambda system, name, file: system or first(name) not in adapters | {"fakes"})
     for fault in faults:
         print(fault)

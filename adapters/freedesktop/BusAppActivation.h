@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reminders/engine/AppActivation.h"
+#include "Reminders/AppActivation.h"
 
 namespace tessivo {
 class Console;

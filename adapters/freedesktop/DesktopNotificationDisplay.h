@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Reminders/NotificationDisplay.h"
 #include "freedesktop/Handles.h"
-#include "reminders/engine/NotificationDisplay.h"
 
 #include <list>
 #include <string>

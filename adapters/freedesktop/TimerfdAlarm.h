@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reminders/engine/WallAlarm.h"
+#include "Reminders/WallAlarm.h"
 
 namespace tessivo::freedesktop {
 

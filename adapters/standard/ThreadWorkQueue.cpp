@@ -7,9 +7,19 @@ namespace tessivo {
 ThreadWorkQueue::ThreadWorkQueue() : thread_([this] { run(); }) {}
 
 ThreadWorkQueue::~ThreadWorkQueue() {
+    end(State::Dropping);
+}
+
+void ThreadWorkQueue::finish() {
+    end(State::Finishing);
+}
+
+void ThreadWorkQueue::end(State how) {
+    if (!thread_.joinable())
+        return;
     {
         const std::lock_guard lock(mutex_);
-        ending_ = true;
+        state_ = how;
     }
     changed_.notify_one();
     thread_.join();
@@ -26,8 +36,8 @@ void ThreadWorkQueue::post(std::function<void()> work) {
 void ThreadWorkQueue::run() {
     std::unique_lock lock(mutex_);
     while (true) {
-        changed_.wait(lock, [this] { return ending_ || !waiting_.empty(); });
-        if (ending_)
+        changed_.wait(lock, [this] { return state_ != State::Running || !waiting_.empty(); });
+        if (waiting_.empty() || state_ == State::Dropping)
             return;
         auto work = std::move(waiting_.front());
         waiting_.pop_front();

@@ -19,14 +19,18 @@ public:
     ThreadWorkQueue& operator=(const ThreadWorkQueue&) = delete;
 
     void post(std::function<void()> work) override;
+    void finish() override;
 
 private:
+    enum class State { Running, Finishing, Dropping };
+
+    void end(State how);
     void run();
 
     std::mutex mutex_;
     std::condition_variable changed_;
     std::deque<std::function<void()>> waiting_;
-    bool ending_ = false;
+    State state_ = State::Running;
     std::thread thread_; ///< last: it runs on what stands above
 };
 

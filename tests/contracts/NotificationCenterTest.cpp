@@ -1,10 +1,11 @@
 #include "Ports/NotificationCenter.h"
 
+#include "Reminders/QueuedNotificationCenter.h"
 #include "fakes/FakeNotificationCenter.h"
 #include "fakes/FakeNotificationQueue.h"
 #include "fakes/OffsetCalendar.h"
 #include "fakes/Timeline.h"
-#include "freedesktop/FreedesktopNotificationCenter.h"
+#include "standard/ThreadWorkQueue.h"
 
 #include <gmock/gmock.h>
 
@@ -68,8 +69,10 @@ private:
     fakes::QueueDisk disk_;
     fakes::FakeNotificationQueue queue_{disk_};
     std::function<void(bool)> answer_;
-    freedesktop::FreedesktopNotificationCenter center_{
-        queue_, calendar_, calendar_, line_, [this](auto answer) { answer_ = std::move(answer); }, [] {}};
+    QueuedNotificationCenter center_{{queue_, calendar_, calendar_, line_},
+                                     std::make_unique<ThreadWorkQueue>(),
+                                     [this](auto answer) { answer_ = std::move(answer); },
+                                     [] {}};
 };
 
 struct Implementation {
@@ -181,7 +184,7 @@ TEST_P(NotificationCenterContract, AddsNothingWhileTheUserDenies) {
 
 INSTANTIATE_TEST_SUITE_P(Implementations, NotificationCenterContract,
                          testing::Values(Implementation{"Fake", [] { return std::make_unique<FakeDesk>(); }},
-                                         Implementation{"Freedesktop",
+                                         Implementation{"Queued",
                                                         [] { return std::make_unique<RealDesk>(); }}),
                          [](const auto& test) { return test.param.name; });
 

@@ -1,19 +1,20 @@
 #include "AddEventVC/EventBackgroundViewController.h"
 #include "AddEventVC/EventDateAndTimeViewController.h"
 #include "AddEventVC/ReminderViewController.h"
+#include "Reminders/QueuedNotificationCenter.h"
 #include "SelectValueVC/TableViewController.h"
 #include "fakes/RecordingConsole.h"
 #include "fakes/Timeline.h"
 #include "freedesktop/BusNames.h"
 #include "freedesktop/DataFolder.h"
 #include "freedesktop/EventLoop.h"
-#include "freedesktop/FreedesktopNotificationCenter.h"
 #include "freedesktop/ReminderService.h"
 #include "freedesktop/SessionBus.h"
 #include "icu/IcuCalendar.h"
 #include "session/PrivateSession.h"
 #include "sqlite/SqliteNotificationQueue.h"
 #include "standard/SystemClock.h"
+#include "standard/ThreadWorkQueue.h"
 #include "support/Wizard.h"
 
 #include <gmock/gmock.h>
@@ -33,8 +34,10 @@ protected:
             GTEST_SKIP() << "This machine has no dbus-daemon, Xvfb or dunst";
         session = std::make_unique<PrivateSession>();
         queue = std::make_unique<sqlite::SqliteNotificationQueue>(reminderQueueFile(), console);
-        center = std::make_unique<FreedesktopNotificationCenter>(
-            *queue, calendar, calendar, line, [](const auto& answer) { answer(true); }, tellReminderHelper);
+        center = std::make_unique<QueuedNotificationCenter>(
+            QueuedNotificationCenter::Machine{*queue, calendar, calendar, line},
+            std::make_unique<ThreadWorkQueue>(), [](const auto& answer) { answer(true); },
+            tellReminderHelper);
     }
 
     void startHelper() {
@@ -60,7 +63,7 @@ protected:
     SystemClock clock;
     IcuCalendar calendar;
     std::unique_ptr<sqlite::SqliteNotificationQueue> queue;
-    std::unique_ptr<FreedesktopNotificationCenter> center;
+    std::unique_ptr<QueuedNotificationCenter> center;
     Process helper;
 };
 

@@ -21,5 +21,19 @@ TEST(ThreadWorkQueue, RunsWorkInOrderOnAThreadOfItsOwn) {
     EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
 }
 
+TEST(ThreadWorkQueue, FinishRunsAlsoWhatTheWorkPostsAndThenNothingMore) {
+    int ran = 0;
+    ThreadWorkQueue queue;
+    queue.post([&] {
+        ++ran;
+        queue.post([&] { ++ran; });
+    });
+    queue.finish();
+    EXPECT_EQ(ran, 2);
+    queue.post([&] { ++ran; });
+    queue.finish();
+    EXPECT_EQ(ran, 2);
+}
+
 } // namespace
 } // namespace tessivo

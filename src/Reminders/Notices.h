@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Ports/NotificationQueue.h"
-#include "reminders/engine/NotificationDisplay.h"
+#include "Reminders/NotificationDisplay.h"
 
 namespace tessivo {
 

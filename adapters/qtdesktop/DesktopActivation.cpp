@@ -1,4 +1,4 @@
-#include "app/DesktopActivation.h"
+#include "qtdesktop/DesktopActivation.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,4 +1,4 @@
-#include "reminders/engine/ReminderEngine.h"
+#include "Reminders/ReminderEngine.h"
 
 #include "FakeDesktop.h"
 #include "fakes/FakeNotificationQueue.h"
@@ -29,7 +29,7 @@ protected:
               display(test.line, test.desktop),
               alarm(test.line),
               engine({queue, display, alarm, test.app, test.line, test.calendar, test.console}) {
-            engine.look();
+            engine.processDue();
         }
 
         fakes::FakeNotificationQueue queue;
@@ -52,7 +52,7 @@ protected:
             fakes::FakeNotificationQueue(disk).add({identifier, {identifier, body, true}, {when, false}}),
             std::nullopt);
         if (process)
-            process->engine.look();
+            process->engine.processDue();
     }
 
     void jump(Seconds distance) {
@@ -125,7 +125,7 @@ TEST_F(ReminderEngineTest, FollowsTheDeviceIntoAnotherTimeZone) {
     start();
     add("breakfast", 5 * hour);
     calendar.setOffset(3 * hour);
-    process->engine.look();
+    process->engine.processDue();
     line.advance(2 * hour + Seconds(1));
     EXPECT_THAT(titles(), ElementsAre("breakfast"));
 }
@@ -136,7 +136,7 @@ TEST_F(ReminderEngineTest, AChangedRequestCountsFromThenOn) {
     add("removed", hour);
     add("moved", 2 * hour);
     ASSERT_EQ(process->queue.remove({"removed"}), std::nullopt);
-    process->engine.look();
+    process->engine.processDue();
     line.advance(hour + minute);
     EXPECT_THAT(titles(), IsEmpty());
     line.advance(hour);

@@ -1,4 +1,4 @@
-#include "reminders/engine/Notices.h"
+#include "Reminders/Notices.h"
 
 #include <algorithm>
 

@@ -4,9 +4,9 @@
 #include "Ports/Clock.h"
 #include "Ports/Console.h"
 #include "Ports/NotificationQueue.h"
-#include "reminders/engine/AppActivation.h"
-#include "reminders/engine/NotificationDisplay.h"
-#include "reminders/engine/WallAlarm.h"
+#include "Reminders/AppActivation.h"
+#include "Reminders/NotificationDisplay.h"
+#include "Reminders/WallAlarm.h"
 
 #include <optional>
 #include <set>
@@ -42,7 +42,7 @@ public:
 
     /// Shows what is due and sets the alarm anew. To be called at the start, when the queue has changed and
     /// when the time zone has changed; superfluous calls do no harm.
-    void look();
+    void processDue();
 
     /// Begins nothing more. Calls `done` once nothing is under way and the ledger is written, inline where
     /// that is so already: then another engine may take over.

@@ -1,4 +1,4 @@
-#include "reminders/engine/ReminderEngine.h"
+#include "Reminders/ReminderEngine.h"
 
 #include "FakeDesktop.h"
 #include "fakes/FakeNotificationQueue.h"
@@ -137,7 +137,7 @@ private:
         process_ = std::make_unique<Process>(*this);
         process_->display.onCall = [this](int call, const Notice& notice) { called(call, notice); };
         process_->display.onFailure = [this](int call) { process_->calls.erase(call); };
-        process_->engine.look();
+        process_->engine.processDue();
     }
 
     void kill() {
@@ -181,7 +181,7 @@ private:
         calendar_.setOffset(Seconds(900.0 * between(-48, 56)));
         healthySince_ = line_.now();
         if (process_)
-            process_->engine.look();
+            process_->engine.processDue();
     }
 
     void comeUp() {
@@ -219,7 +219,7 @@ private:
         fakes::FakeNotificationQueue queue(disk_);
         ASSERT_EQ(queue.add({identifier, {title, "", true}, {fields, false}}), std::nullopt);
         if (process_)
-            process_->engine.look();
+            process_->engine.processDue();
     }
 
     void withdraw() {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "Reminders/AppActivation.h"
+#include "Reminders/NotificationDisplay.h"
 #include "fakes/Timeline.h"
-#include "reminders/engine/AppActivation.h"
-#include "reminders/engine/NotificationDisplay.h"
 
 #include <memory>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "reminders/engine/ReminderEngine.h"
+#include "Reminders/ReminderEngine.h"
 
-#include "reminders/engine/Notices.h"
+#include "Reminders/Notices.h"
 
 #include <algorithm>
 #include <iterator>
@@ -34,14 +34,14 @@ ReminderEngine::ReminderEngine(Machine machine)
       displayEvents_(
           machine_.display.listen({[this] {
                                        retryDelay_ = firstRetryDelay;
-                                       look();
+                                       processDue();
                                    },
                                    [this](const std::string& token, const std::string& activation) {
                                        if (machine_.queue.wasShown(token))
                                            machine_.app.activate(activation);
                                    }})) {}
 
-void ReminderEngine::look() {
+void ReminderEngine::processDue() {
     if (finished_)
         return;
     retryAt_.reset();
@@ -156,7 +156,7 @@ void ReminderEngine::setAlarm() {
     if (finished_ || (!next_ && !retryAt_))
         return;
     const auto due = std::min(next_.value_or(Instant::max()), retryAt_.value_or(Instant::max()));
-    alarm_ = machine_.alarm.wakeAt(due, [this] { look(); });
+    alarm_ = machine_.alarm.wakeAt(due, [this] { processDue(); });
 }
 
 void ReminderEngine::finishIfIdle() {

@@ -1,4 +1,4 @@
-#include "freedesktop/FreedesktopNotificationCenter.h"
+#include "Reminders/QueuedNotificationCenter.h"
 
 #include "Event/CoreDataStack.h"
 #include "Event/EventItem.h"
@@ -10,6 +10,7 @@
 #include "fakes/Timeline.h"
 #include "icu/IcuCalendar.h"
 #include "icu/IcuDateFormatters.h"
+#include "standard/ThreadWorkQueue.h"
 
 #include <gmock/gmock.h>
 
@@ -18,13 +19,22 @@
 #include <optional>
 #include <set>
 
-namespace tessivo::freedesktop {
+namespace tessivo {
 namespace {
 
 using testing::ElementsAre;
 
-class FreedesktopNotificationCenterTest : public testing::Test {
+class QueuedNotificationCenterTest : public testing::Test {
 protected:
+    QueuedNotificationCenterTest() { start(calendar, queueCalendar); }
+
+    void start(const Calendar& device, const Calendar& inQueue) {
+        center.emplace(
+            QueuedNotificationCenter::Machine{queue, device, inQueue, line},
+            std::make_unique<ThreadWorkQueue>(),
+            [this](auto answer) { questions.push_back(std::move(answer)); }, [this] { ++timesTold; });
+    }
+
     static NotificationRequest request(const std::string& identifier,
                                        const DateComponents& components = {2027, 1, 31, 9, 0, {}}) {
         return {identifier, {"Title", "words", true}, {components, false}};
@@ -50,10 +60,7 @@ protected:
     fakes::FakeNotificationQueue queue{disk};
     std::vector<std::function<void(bool)>> questions;
     int timesTold = 0;
-    std::optional<FreedesktopNotificationCenter> center{
-        std::in_place,          queue, calendar,
-        queueCalendar,          line,  [this](auto answer) { questions.push_back(std::move(answer)); },
-        [this] { ++timesTold; }};
+    std::optional<QueuedNotificationCenter> center;
 };
 
 struct ComponentsCase {
@@ -62,7 +69,7 @@ struct ComponentsCase {
     bool isMoment;
 };
 
-class ComponentsTest : public FreedesktopNotificationCenterTest,
+class ComponentsTest : public QueuedNotificationCenterTest,
                        public testing::WithParamInterface<ComponentsCase> {};
 
 TEST_P(ComponentsTest, AreRefusedWhereTheyNameNoMoment) {
@@ -89,11 +96,10 @@ INSTANTIATE_TEST_SUITE_P(Cases, ComponentsTest,
                                          ComponentsCase{"Nothing", {}, false}),
                          [](const auto& test) { return test.param.name; });
 
-TEST_F(FreedesktopNotificationCenterTest, AnotherCalendarsDaysGoIntoTheQueueInItsOwn) {
+TEST_F(QueuedNotificationCenterTest, AnotherCalendarsDaysGoIntoTheQueueInItsOwn) {
     const IcuCalendar persian("fa_IR", "Asia/Tehran");
     const IcuCalendar gregorian("en_US", "Asia/Tehran");
-    center.emplace(
-        queue, persian, gregorian, line, [](const auto&) {}, [] {});
+    start(persian, gregorian);
     const DateComponents newYear{1406, 1, 1, 0, 30, {}};
     ASSERT_EQ(add(request("a", newYear)), std::nullopt);
     std::promise<DateComponents> pending;
@@ -104,21 +110,20 @@ TEST_F(FreedesktopNotificationCenterTest, AnotherCalendarsDaysGoIntoTheQueueInIt
     EXPECT_EQ(disk.pending->front().request.trigger.dateComponents, (DateComponents{2027, 3, 21, 0, 30, {}}));
 }
 
-TEST_F(FreedesktopNotificationCenterTest, CompletionsStayOffTheMainThread) {
+TEST_F(QueuedNotificationCenterTest, CompletionsStayOffTheMainThread) {
     std::promise<std::thread::id> thread;
     center->getNotificationSettings(
         [&](AuthorizationStatus) { thread.set_value(std::this_thread::get_id()); });
     EXPECT_NE(thread.get_future().get(), std::this_thread::get_id());
 }
 
-TEST_F(FreedesktopNotificationCenterTest, TellsTheHelperOnceWhenTheWorkIsDoneAndNotForMereLooks) {
+TEST_F(QueuedNotificationCenterTest, TellsTheHelperOnceWhenTheWorkIsDoneAndNotForMereLooks) {
     center->getPendingNotificationRequests([](const auto&) {});
     center->getNotificationSettings([](AuthorizationStatus) {});
     center->finish();
     EXPECT_EQ(timesTold, 0);
 
-    center.emplace(
-        queue, calendar, queueCalendar, line, [](const auto&) {}, [this] { ++timesTold; });
+    start(calendar, queueCalendar);
     std::promise<void> go;
     center->getNotificationSettings([ready = go.get_future().share()](AuthorizationStatus) { ready.wait(); });
     for (const auto* identifier : {"a", "b", "c"})
@@ -130,7 +135,7 @@ TEST_F(FreedesktopNotificationCenterTest, TellsTheHelperOnceWhenTheWorkIsDoneAnd
     EXPECT_THAT(identifiers(), ElementsAre("b", "c"));
 }
 
-TEST_F(FreedesktopNotificationCenterTest, FinishDoesAlsoWhatCompletionsAskFor) {
+TEST_F(QueuedNotificationCenterTest, FinishDoesAlsoWhatCompletionsAskFor) {
     center->getPendingNotificationRequests([&](const auto&) {
         center->add(request("a"), [&](const Outcome&) {
             center->removePendingNotificationRequests({"a"});
@@ -141,7 +146,7 @@ TEST_F(FreedesktopNotificationCenterTest, FinishDoesAlsoWhatCompletionsAskFor) {
     EXPECT_THAT(identifiers(), ElementsAre("b"));
 }
 
-TEST_F(FreedesktopNotificationCenterTest, DestroyingItAtWorkCallsNothingAfterwards) {
+TEST_F(QueuedNotificationCenterTest, DestroyingItAtWorkCallsNothingAfterwards) {
     auto stillThere = std::make_shared<bool>(true);
     for (int number = 0; number < 1000; ++number)
         center->getNotificationSettings([stillThere](AuthorizationStatus) { EXPECT_TRUE(*stillThere); });
@@ -150,7 +155,7 @@ TEST_F(FreedesktopNotificationCenterTest, DestroyingItAtWorkCallsNothingAfterwar
     EXPECT_EQ(stillThere.use_count(), 1);
 }
 
-TEST_F(FreedesktopNotificationCenterTest, TheSettingsPageAnswersAnOpenQuestionAndMayChangeTheAnswer) {
+TEST_F(QueuedNotificationCenterTest, TheSettingsPageAnswersAnOpenQuestionAndMayChangeTheAnswer) {
     std::promise<bool> answer;
     center->requestAuthorization(7, [&](bool granted, const Outcome&) { answer.set_value(granted); });
     center->setAuthorization(true);
@@ -160,7 +165,7 @@ TEST_F(FreedesktopNotificationCenterTest, TheSettingsPageAnswersAnOpenQuestionAn
     EXPECT_EQ(disk.authorization, AuthorizationStatus::Denied);
 }
 
-TEST_F(FreedesktopNotificationCenterTest, AnAnswerThatComesAfterTheEndIsIgnored) {
+TEST_F(QueuedNotificationCenterTest, AnAnswerThatComesAfterTheEndIsIgnored) {
     center->requestAuthorization(7, [](bool, const Outcome&) { FAIL(); });
     center->finish();
     line.runPosted();
@@ -170,13 +175,12 @@ TEST_F(FreedesktopNotificationCenterTest, AnAnswerThatComesAfterTheEndIsIgnored)
     EXPECT_EQ(disk.authorization, AuthorizationStatus::NotDetermined);
 }
 
-TEST_F(FreedesktopNotificationCenterTest, AQueueThatFailsIsToldOrGivesNothing) {
+TEST_F(QueuedNotificationCenterTest, AQueueThatFailsIsToldOrGivesNothing) {
     EXPECT_EQ(add(request("a")), std::nullopt);
     center->finish();
     disk.writeFailure = Error{"SQLite", 13, "database or disk is full"};
     disk.readFailure = Error{"SQLite", 10, "disk I/O error"};
-    center.emplace(
-        queue, calendar, queueCalendar, line, [](const auto&) {}, [] {});
+    start(calendar, queueCalendar);
     EXPECT_EQ(add(request("b")), disk.readFailure);
     std::promise<std::size_t> size;
     center->getPendingNotificationRequests([&](const auto& all) { size.set_value(all.size()); });
@@ -190,7 +194,7 @@ TEST_F(FreedesktopNotificationCenterTest, AQueueThatFailsIsToldOrGivesNothing) {
 }
 
 // The pass goes on on the main thread while the answers to its questions come on the center's.
-TEST_F(FreedesktopNotificationCenterTest, ThePassAndItsAnswersRunBesideEachOther) {
+TEST_F(QueuedNotificationCenterTest, ThePassAndItsAnswersRunBesideEachOther) {
     const IcuDateFormatters formatters("en_US", "America/New_York");
     fakes::RecordingConsole console;
     fakes::MemoryEventStore store;
@@ -231,4 +235,4 @@ TEST_F(FreedesktopNotificationCenterTest, ThePassAndItsAnswersRunBesideEachOther
 }
 
 } // namespace
-} // namespace tessivo::freedesktop
+} // namespace tessivo
