@@ -13,7 +13,7 @@ namespace tessivo::desktop {
 class DesktopPortal final : public QObject {
 public:
     enum class Answer {
-        Done,  ///< handed over, or turned away by the user in the portal's own dialog
+        Done,  ///< handed over, or rejected by the user in the portal's own dialog
         Absent ///< no portal answers, or it cannot do this: there may be another way
     };
     using Answered = std::function<void(Answer)>;
