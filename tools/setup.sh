@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs what the project needs on Debian 12, where it is missing. Usage: tools/setup.sh build|run|test
+# Installs what the project needs on Debian 12, where it is missing. Usage: tools/setup.sh build|run|test|package
 set -euo pipefail
 
 build=(g++ cmake ninja-build pkg-config ccache mold
@@ -11,13 +11,15 @@ run=(libqt6svg6 qt6-image-formats-plugins qt6-wayland dbus xdg-utils zenity ca-c
      qml6-module-qtquick-layouts qml6-module-qtquick-shapes
      fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji)
 test=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev qml6-module-qttest
-      xvfb xauth libgl1-mesa-dri dunst desktop-file-utils clang libclang-rt-dev clang-format tzdata locales)
+      xvfb xauth libgl1-mesa-dri dunst desktop-file-utils appstream clang libclang-rt-dev clang-format tzdata locales)
+package=(debhelper dpkg-dev lintian git)
 
 case "${1:-}" in
     build) wanted=("${build[@]}") ;;
     run) wanted=("${build[@]}" "${run[@]}") ;;
     test) wanted=("${build[@]}" "${run[@]}" "${test[@]}") ;;
-    *) echo "usage: tools/setup.sh build|run|test" >&2; exit 2 ;;
+    package) wanted=("${build[@]}" "${package[@]}") ;;
+    *) echo "usage: tools/setup.sh build|run|test|package" >&2; exit 2 ;;
 esac
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
