@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 
 #include <array>
+#include <future>
 
 namespace tessivo {
 namespace {
@@ -79,6 +80,18 @@ void Composition::start() {
     AppDelegate(services_).didFinishLaunching(stack_);
     shell_.open();
     frameClock_.setWindow(shell_.window());
+}
+
+void Composition::waitForThreads() {
+    do {
+        http_.waitUntilIdle();
+        std::promise<void> worked;
+        background_.post([&worked] { worked.set_value(); });
+        worked.get_future().wait();
+        std::promise<void> notified;
+        notificationCenter_.getNotificationSettings([&notified](auto) { notified.set_value(); });
+        notified.get_future().wait();
+    } while (!http_.isIdle());
 }
 
 std::vector<std::string_view> Composition::languages() {

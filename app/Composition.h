@@ -63,6 +63,10 @@ public:
     /// Launches the program and opens its window.
     void start();
 
+    /// Waits until no thread has anything left to do for the program, so that all of their answers wait on
+    /// the main queue: where time is virtual, nothing else would wait for a thread.
+    void waitForThreads();
+
     [[nodiscard]] shell::Shell& shell() { return shell_; }
     [[nodiscard]] SharedServices& services() { return services_; }
     [[nodiscard]] ui::PresentationStack& stack() { return stack_; }

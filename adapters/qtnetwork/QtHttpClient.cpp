@@ -55,14 +55,24 @@ QtHttpClient::~QtHttpClient() {
 
 std::shared_ptr<HttpTask> QtHttpClient::start(HttpRequest request, Completion completion) {
     const auto exchange = std::make_shared<QPointer<Exchange>>();
+    ++underWay_;
     auto starting = [this, exchange, request = std::move(request), completion = std::move(completion)] {
         if (!manager_)
             return; // the client is going
-        *exchange = new Exchange(*manager_, request, completion);
+        *exchange = new Exchange(*manager_, request, [this, completion](Result<HttpResponse> result) {
+            completion(std::move(result));
+            --underWay_;
+            underWay_.notify_all();
+        });
         (*exchange)->start();
     };
     QMetaObject::invokeMethod(context_.get(), std::move(starting), Qt::QueuedConnection);
     return std::make_shared<Task>(context_, exchange);
+}
+
+void QtHttpClient::waitUntilIdle() const {
+    for (int count = underWay_; count != 0; count = underWay_)
+        underWay_.wait(count);
 }
 
 } // namespace tessivo

@@ -2,6 +2,8 @@
 
 #include "Ports/HttpClient.h"
 
+#include <atomic>
+
 class QNetworkAccessManager;
 class QObject;
 class QThread;
@@ -20,7 +22,13 @@ public:
 
     std::shared_ptr<HttpTask> start(HttpRequest request, Completion completion) override;
 
+    /// Whether the completions of all exchanges that were started have been called; safe from any thread.
+    [[nodiscard]] bool isIdle() const { return underWay_ == 0; }
+    /// Waits until then. Not for the client's own thread.
+    void waitUntilIdle() const;
+
 private:
+    std::atomic<int> underWay_ = 0;
     std::unique_ptr<QThread> thread_;
     std::shared_ptr<QObject> context_;         ///< stands on the thread; what is posted to it runs there
     QNetworkAccessManager* manager_ = nullptr; ///< made, used and deleted on the thread

@@ -19,6 +19,7 @@ ControlWindow::ControlWindow() {
     window.resize(390, 700);
     window.show();
     window.requestActivate();
+    EXPECT_TRUE(runUntil([this] { return window.isExposed() && window.isActive(); }));
     stack.setRoot(screen);
 }
 

@@ -12,7 +12,7 @@
 #include "bridge/ScreenItem.h"
 #include "fakes/RecordingConsole.h"
 #include "fakes/Timeline.h"
-#include "shell/Hand.h"
+#include "hand/Hand.h"
 #include "json/JsonNamedColors.h"
 
 #include <gtest/gtest.h>
@@ -39,8 +39,8 @@ public:
     ui::TextView box{controls, "box"};
 };
 
-/// A window with drawings of the program's controls on it, without the program. Its time is virtual; only
-/// what QML moves by itself takes real time.
+/// A window with drawings of the program's controls on it, without the program. Its time is virtual: the
+/// program's own moves by `timeline`, that of Qt by the hand's acts and `runUntil`.
 class ControlWindow : public testing::Test {
 protected:
     ControlWindow();

@@ -1,3 +1,5 @@
+#include "hand/VirtualTime.h"
+
 #include <QAccessible>
 #include <QFont>
 #include <QGuiApplication>
@@ -17,6 +19,7 @@ void complain(QtMsgType type, const QMessageLogContext&, const QString& message)
 } // namespace
 
 int main(int argc, char** argv) {
+    tessivo::virtualtime::start();
     testing::InitGoogleTest(&argc, argv);
     qputenv("LC_ALL", "en_US.UTF-8");
     qputenv("TZ", "Europe/Berlin");

@@ -9,15 +9,11 @@
 #include "app/Composition.h"
 
 #include <QQuickWindow>
-#include <QTest>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace tessivo::tour {
 namespace {
-
-constexpr int patience = 20'000; // ms
 
 /// Whether what was asked for is there: photos with their pictures, or the word that there are none.
 bool isComplete(unsplash::UnsplashPickerViewController& screen) {
@@ -31,13 +27,9 @@ bool isComplete(unsplash::UnsplashPickerViewController& screen) {
 } // namespace
 
 template <class Screen>
-Screen& Tour::waitFor() {
+Screen& Tour::waitForScreen() {
     const auto shown = [this] { return dynamic_cast<Screen*>(program_.stack().top()); };
-    if (!QTest::qWaitFor([&] { return shown() != nullptr; }, patience)) {
-        qCritical("The screen does not come");
-        std::exit(EXIT_FAILURE);
-    }
-    finger_.settle();
+    waitFor("a screen", [&] { return shown() != nullptr; });
     return *shown();
 }
 
@@ -46,25 +38,21 @@ unsplash::UnsplashPickerViewController& Tour::photoScreen() const {
 }
 
 void Tour::waitForPhotos() {
-    if (!QTest::qWaitFor([this] { return isComplete(photoScreen()); }, patience)) {
-        qCritical("The photos do not come");
-        std::exit(EXIT_FAILURE);
-    }
-    finger_.settle();
+    waitFor("photos", [this] { return isComplete(photoScreen()); });
 }
 
 void Tour::openPhotos() {
-    finger_.tap(nameOf("imagesButton"));
+    hand_.tap(nameOf("imagesButton"));
     waitForPhotos();
 }
 
 void Tour::searchPhotos(const QString& text) {
     const QString field = QString::fromStdString(photoScreen().searchController.searchBar.placeholder());
-    finger_.tap(field);
+    hand_.tap(field);
     if (!photoScreen().searchController.searchBar.text().empty())
-        finger_.tap(QString::fromStdString(photoScreen().searchController.clearButton.accessibilityName()));
-    finger_.type(text);
-    finger_.press(Qt::Key_Return);
+        hand_.tap(QString::fromStdString(photoScreen().searchController.clearButton.accessibilityName()));
+    hand_.commit(text);
+    hand_.press(Qt::Key_Return);
     waitForPhotos();
 }
 
@@ -72,12 +60,12 @@ void Tour::browsePhotos() {
     openPhotos();
     picture("photos");
     const QPointF photo(window_.width() / 2.0 - 80, window_.height() / 2.0); // beside the gap of two columns
-    finger_.drag(photo, photo - QPointF(0, window_.height() / 3.0));
+    hand_.drag(photo, photo - QPointF(0, window_.height() / 3.0));
     waitForPhotos();
     picture("photos-scrolled");
-    finger_.hold(photo);
+    holdAt(photo);
     picture("photo-preview");
-    finger_.tapAt(photo);
+    hand_.tapAt(photo);
     searchPhotos(QStringLiteral("sea"));
     picture("photos-search");
     searchPhotos(QStringLiteral("none"));
@@ -86,33 +74,29 @@ void Tour::browsePhotos() {
     picture("photos-server-error");
     searchPhotos(QStringLiteral("lost"));
     picture("photos-offline");
-    finger_.press(Qt::Key_Escape);
+    hand_.press(Qt::Key_Escape);
 }
 
 void Tour::choosePhoto() {
     openPhotos();
     const auto cell = photoScreen().collectionView.cellForItem(1);
-    finger_.tap(
-        QString::fromStdString(static_cast<unsplash::PhotoCell&>(*cell).photoView.accessibilityName()));
-    waitFor<UnsplahImageView>();
+    hand_.tap(QString::fromStdString(static_cast<unsplash::PhotoCell&>(*cell).photoView.accessibilityName()));
+    waitForScreen<UnsplahImageView>();
     const QPointF middle(window_.width() / 2.0, window_.height() / 2.0);
-    finger_.drag(middle + QPointF(80, 0), middle - QPointF(80, 0));
+    hand_.drag(middle + QPointF(80, 0), middle - QPointF(80, 0));
     picture("photo-crop");
-    finger_.tap(nameOf("saveButton"));
+    hand_.tap(nameOf("saveButton"));
     picture("background-photo");
 }
 
 void Tour::chooseFromLibrary() {
-    finger_.tap(nameOf("photosButton"));
-    const auto& picker = waitFor<ImagePickerController>();
-    if (!QTest::qWaitFor([&] { return picker.imageView.image().isSet(); }, patience)) {
-        qCritical("The photo does not come: %s", picker.messageLabel.text().c_str());
-        std::exit(EXIT_FAILURE);
-    }
+    hand_.tap(nameOf("photosButton"));
+    const auto& picker = waitForScreen<ImagePickerController>();
+    waitFor("the photo", [&] { return picker.imageView.image().isSet(); });
     const QPointF middle(window_.width() / 2.0, window_.height() / 2.0);
-    finger_.drag(middle, middle - QPointF(0, 20));
+    hand_.drag(middle, middle - QPointF(0, 20));
     picture("photo-library");
-    finger_.tap(nameOf("chooseButton"));
+    hand_.tap(nameOf("chooseButton"));
     picture("background-library");
 }
 
@@ -120,13 +104,13 @@ void Tour::showPictureCards() {
     const QPointF center(window_.width() / 2.0, window_.height() / 2.0);
     const QPointF reach(0, window_.height() / 4.0);
     for (int pull = 0; pull < 3; ++pull)
-        finger_.drag(center + reach, center - reach);
+        hand_.drag(center + reach, center - reach);
     picture("picture-cards");
     const int last = cards().numberOfItems() - 1;
     swipeCard(last);
     picture("picture-card-open");
     const QPointF middle = middleOfCard(last);
-    finger_.drag(middle - QPointF(80, 0), middle + QPointF(100, 0));
+    hand_.drag(middle - QPointF(80, 0), middle + QPointF(100, 0));
 }
 
 } // namespace tessivo::tour

@@ -9,13 +9,18 @@
 #include "Support/LocalizationVariables.h"
 #include "app/Composition.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QImage>
 #include <QQuickWindow>
 
+#include <stdexcept>
+#include <string>
+
 namespace tessivo::tour {
 namespace {
 
+constexpr std::chrono::milliseconds settlingTime{900}; ///< the longest motion, and the frames around it
 constexpr double rowHeight = 36;
 constexpr double dragThreshold = 12; ///< what a drag uses up before anything moves
 constexpr double wheelsMiddle = 98;  ///< below the row that they belong to
@@ -28,11 +33,15 @@ Tour::Tour(Composition& program, const Stage& stage, const QDir& pictures)
       stage_(stage),
       pictures_(pictures),
       window_(*program.shell().window()),
-      finger_(window_) {}
+      hand_(window_, [this] { settle(); }) {
+    QAccessible::setActive(true);
+}
 
 void Tour::run() {
     window_.resize(stage_.size);
-    finger_.settle();
+    window_.requestActivate();
+    waitFor("window", [this] { return window_.isExposed() && window_.isActive(); });
+    settle();
     picture("empty");
     addEvent({"Summer Holiday 🏖️", 2, 1, 0, 1, -1, 1, true});
     addEvent({"Anna & Max: Wedding", 1, 2, 0, 2, 4, -1, false});
@@ -40,14 +49,35 @@ void Tour::run() {
     addEvent({"Driving Test", 1, 0, 0, 0, 16, -1, false});
     addEvent({"Walk in the Hills", 1, 1, 0, 1, -1, -1, false, Picture::Service});
     addEvent({"Up Before the Sun", -1, 1, 1, 2, -1, -1, false, Picture::Library});
-    finger_.tap(QStringLiteral("Future"));
+    hand_.tap(QStringLiteral("Future"));
     picture("future");
     useCards();
     showPictureCards();
     addEvent({"First Day at Work", 0, -1, -2, 4, -1, 13, false});
     addEvent({"Moved House", -2, -1, 0, 1, 22, -1, false});
-    finger_.tap(QStringLiteral("Past"));
+    hand_.tap(QStringLiteral("Past"));
     picture("past");
+}
+
+void Tour::settle() {
+    for (auto passed = std::chrono::milliseconds(0); passed < settlingTime;
+         passed += virtualtime::stepLength) {
+        virtualtime::step();
+        program_.waitForThreads();
+    }
+}
+
+void Tour::holdAt(QPointF point) {
+    hand_.hold(point, [this] {
+        settle();
+        return true;
+    });
+}
+
+void Tour::waitFor(const char* what, const std::function<bool()>& done) {
+    if (!runUntil(done))
+        throw std::runtime_error(std::string("In vain the tour waits for: ") + what);
+    settle();
 }
 
 ui::CollectionView& Tour::cards() const {
@@ -56,53 +86,53 @@ ui::CollectionView& Tour::cards() const {
 }
 
 QPointF Tour::middleOfCard(int item) {
-    return finger_.placeOf(QString::fromStdString(cards().cellForItem(item)->accessibilityName())).center();
+    return hand_.placeOf(QString::fromStdString(cards().cellForItem(item)->accessibilityName())).center();
 }
 
 void Tour::swipeCard(int item, const char* halfWay) {
     const QPointF middle = middleOfCard(item);
-    finger_.drag(middle + QPointF(100, 0), middle - QPointF(80, 0),
-                 [&] { pictureIf(halfWay != nullptr, halfWay); });
+    hand_.drag(middle + QPointF(100, 0), middle - QPointF(80, 0),
+               [&] { pictureIf(halfWay != nullptr, halfWay); });
 }
 
 void Tour::useCards() {
     swipeCard(0, "swipe");
     picture("open-row");
-    finger_.tap(QStringLiteral("Edit"));
+    hand_.tap(QStringLiteral("Edit"));
     picture("edit-sheet");
-    finger_.tap(QStringLiteral("Cancel"));
+    hand_.tap(QStringLiteral("Cancel"));
     swipeCard(1, "swipe-solid");
     picture("open-row-solid");
-    finger_.tap(QStringLiteral("Delete"));
+    hand_.tap(QStringLiteral("Delete"));
     picture("delete-sheet");
-    finger_.tap(QString::fromStdString(program_.services().localizationVariables().alertNo));
-    finger_.tap(QStringLiteral("Share"));
+    hand_.tap(QString::fromStdString(program_.services().localizationVariables().alertNo));
+    hand_.tap(QStringLiteral("Share"));
     picture("share-sheet");
-    finger_.tap(QStringLiteral("Cancel"));
-    finger_.hold(middleOfCard(0));
+    hand_.tap(QStringLiteral("Cancel"));
+    holdAt(middleOfCard(0));
     picture("menu");
-    finger_.press(Qt::Key_Escape);
+    hand_.press(Qt::Key_Escape);
 }
 
 void Tour::addEvent(const Wish& wish) {
-    finger_.tap(QStringLiteral("Add Event"));
+    hand_.tap(QStringLiteral("Add Event"));
     pictureIf(wish.inPictures, "title-empty");
-    finger_.tap(nameOf("textField"));
-    finger_.type(QString::fromUtf8(wish.title));
+    hand_.tap(nameOf("textField"));
+    hand_.commit(QString::fromUtf8(wish.title));
     pictureIf(wish.inPictures, "title");
-    finger_.tap(nameOf("nextButton"));
+    hand_.tap(nameOf("nextButton"));
     pictureIf(wish.inPictures, "date-empty");
     chooseDay(wish);
     if (wish.inPictures)
         chooseTimeAndRepeat(wish);
-    finger_.tap(nameOf("nextButton"));
+    hand_.tap(nameOf("nextButton"));
     pictureIf(wish.inPictures, "permission");
     if (wish.inPictures)
-        finger_.tap(QStringLiteral("Allow"));
+        hand_.tap(QStringLiteral("Allow"));
     pictureIf(wish.inPictures, "reminder-off");
     if (wish.inPictures)
         chooseReminder(wish);
-    finger_.tap(nameOf("nextButton"));
+    hand_.tap(nameOf("nextButton"));
     pictureIf(wish.inPictures, "background");
     if (wish.inPictures)
         browsePhotos();
@@ -117,42 +147,42 @@ void Tour::addEvent(const Wish& wish) {
         chooseFromLibrary();
         break;
     }
-    finger_.tap(nameOf("nextButton"));
+    hand_.tap(nameOf("nextButton"));
 }
 
 void Tour::chooseDay(const Wish& wish) {
-    finger_.tap(nameOf("dayField"));
-    const QRectF row = finger_.placeOf(nameOf("dayField"));
+    hand_.tap(nameOf("dayField"));
+    const QRectF row = hand_.placeOf(nameOf("dayField"));
     turnWheel(row, 2, wish.years);
     turnWheel(row, 1, wish.months);
     turnWheel(row, 0, wish.days);
     pictureIf(wish.inPictures, "date-wheels");
     tapBeside();
-    finger_.tap(QString::fromUtf8(
+    hand_.tap(QString::fromUtf8(
         std::initializer_list<const char*>{"Hours", "Days", "Weeks", "Months", "Years"}.begin()[wish.unit]));
 }
 
 void Tour::chooseTimeAndRepeat(const Wish& wish) {
-    finger_.tap(QStringLiteral("All Day"));
-    finger_.tap(nameOf("timeField"));
+    hand_.tap(QStringLiteral("All Day"));
+    hand_.tap(nameOf("timeField"));
     pictureIf(wish.inPictures, "time-wheels");
     tapBeside();
-    finger_.tap(nameOf("repeatLapel"));
+    hand_.tap(nameOf("repeatLapel"));
     pictureIf(wish.inPictures, "repeat-sheet");
-    finger_.tap(QStringLiteral("Every year"));
-    const QRectF chosen = finger_.placeOf(QStringLiteral("Every year"));
-    finger_.drag({chosen.center().x(), chosen.top() - 5 * 52 - 40},
-                 {chosen.center().x(), stage_.size.height() - 10.0});
+    hand_.tap(QStringLiteral("Every year"));
+    const QRectF chosen = hand_.placeOf(QStringLiteral("Every year"));
+    hand_.drag({chosen.center().x(), chosen.top() - 5 * 52 - 40},
+               {chosen.center().x(), stage_.size.height() - 10.0});
     pictureIf(wish.inPictures, "date");
 }
 
 void Tour::chooseReminder(const Wish& wish) {
-    finger_.tap(QStringLiteral("Reminder"));
-    finger_.tap(nameOf("alertlabel"));
+    hand_.tap(QStringLiteral("Reminder"));
+    hand_.tap(nameOf("alertlabel"));
     pictureIf(wish.inPictures, "alert-sheet");
-    finger_.tapAt({window_.width() / 2.0, 40});
-    finger_.tap(nameOf("reminderMess"));
-    finger_.type(QStringLiteral("Pack sunscreen, tickets and a good book"));
+    hand_.tapAt({window_.width() / 2.0, 40});
+    hand_.tap(nameOf("reminderMess"));
+    hand_.commit(QStringLiteral("Pack sunscreen, tickets and a good book"));
     tapBeside();
     pictureIf(wish.inPictures, "reminder");
 }
@@ -162,9 +192,9 @@ void Tour::chooseBackground(const Wish& wish) {
     const int item = wish.color >= 0 ? wish.color : wish.gradient;
     auto& collection = dynamic_cast<ui::CollectionView&>(*program_.stack().top()->controls.find(strip));
     collection.scrollToItem(item);
-    finger_.settle();
+    settle();
     if (const auto cell = collection.cellForItem(item))
-        finger_.tap(QString::fromStdString(cell->accessibilityName()));
+        hand_.tap(QString::fromStdString(cell->accessibilityName()));
     pictureIf(wish.inPictures, "background-chosen");
 }
 
@@ -175,11 +205,11 @@ void Tour::turnWheel(QRectF rowAbove, int wheel, int rows) {
     const double share = reversed ? 1 - dayShares[wheel] : dayShares[wheel];
     const QPointF start(rowAbove.left() + rowAbove.width() * share, rowAbove.bottom() + wheelsMiddle);
     const double slack = rows > 0 ? dragThreshold : -dragThreshold;
-    finger_.drag(start, start - QPointF(0, rows * rowHeight + slack));
+    hand_.drag(start, start - QPointF(0, rows * rowHeight + slack));
 }
 
 void Tour::tapBeside() {
-    finger_.tapAt(finger_.placeOf(nameOf("titleLabel")).center());
+    hand_.tapAt(hand_.placeOf(nameOf("titleLabel")).center());
 }
 
 QString Tour::nameOf(const char* control) const {

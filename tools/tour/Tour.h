@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Finger.h"
 #include "Stage.h"
+#include "hand/Hand.h"
 
 #include <QDir>
 
@@ -63,9 +63,15 @@ private:
     void waitForPhotos();
     /// The screen on top, once it is of that kind.
     template <class Screen>
-    Screen& waitFor();
+    Screen& waitForScreen();
     void searchPhotos(const QString& text);
     [[nodiscard]] unsplash::UnsplashPickerViewController& photoScreen() const;
+    /// Rests on a point until whatever comes of that has come.
+    void holdAt(QPointF point);
+    /// Until nothing moves any more, and no thread has anything left to do.
+    void settle();
+    /// Until `done`; ends the tour where that does not come about.
+    void waitFor(const char* what, const std::function<bool()>& done);
     void turnWheel(QRectF rowAbove, int wheel, int rows);
     void tapBeside();
     void picture(const char* name);
@@ -78,7 +84,7 @@ private:
     const Stage& stage_;
     QDir pictures_;
     QQuickWindow& window_;
-    Finger finger_;
+    Hand hand_;
     int count_ = 0;
 };
 

@@ -8,6 +8,7 @@
 #include "StandInPhotoLibrary.h"
 #include "Tour.h"
 #include "app/Composition.h"
+#include "hand/VirtualTime.h"
 #include "standard/StandardConsole.h"
 
 #include <QDir>
@@ -20,7 +21,7 @@
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <exception>
 
 namespace {
 
@@ -52,7 +53,12 @@ int playStage(QGuiApplication& application, const Stage& stage, const QDir& pict
     const std::string folder = data.path().toStdString();
     Composition program({folder, folder + "/cache", stage.language, [] {}, photos.address()}, clock, console);
     program.start();
-    Tour(program, stage, pictures).run();
+    try {
+        Tour(program, stage, pictures).run();
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return EXIT_FAILURE;
+    }
     application.processEvents();
     return complaints == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
@@ -80,6 +86,11 @@ int playAll(const QString& self, const QString& folder) {
 } // namespace
 
 int main(int argc, char** argv) {
+    virtualtime::start();
+    // The same pictures from every run, to the byte: with the main thread drawing, and no chance in any
+    // order.
+    qputenv("QSG_RENDER_LOOP", "basic");
+    qputenv("QT_HASH_SEED", "0");
     QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
     if (arguments.size() < 2) {
