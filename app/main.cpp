@@ -23,7 +23,7 @@ int main(int argc, char** argv) {
 
     StandardConsole console;
     SystemClock clock;
-    const std::string language = languageFor(deviceLocale(LocalePurpose::Texts), Composition::languages());
+    const std::string language = languageFor(deviceLocale(LocalePurpose::Texts), Machine::languages());
     QGuiApplication::setLayoutDirection(QLocale(QString::fromStdString(language)).textDirection());
 
     Composition* running = nullptr;

@@ -1,8 +1,6 @@
 #include "support/Program.h"
 
-#include "Interface/Animation.h"
-#include "Support/StartUp/AppDelegate.h"
-#include "Support/StartUp/Screens.h"
+#include "Support/StartUp/RunningProgram.h"
 #include "fakes/FixedWidthTexts.h"
 #include "icu/IcuCalendar.h"
 #include "icu/IcuDateFormatters.h"
@@ -35,48 +33,44 @@ struct Program::RealParts {
 
 struct Program::Run {
     explicit Run(Program& program)
-        : animations(program.timeline, program.timeline),
-          window{program.screen, animations},
-          eventStore(program.folder / "events.sqlite"),
+        : eventStore(program.folder / "events.sqlite"),
           settings(program.folder / "settings.sqlite", program.console),
-          services({.console = program.console,
-                    .clock = program.timeline,
-                    .timers = program.timeline,
-                    .mainQueue = program.timeline,
-                    .calendar = program.realParts_->calendar,
-                    .dateFormatters = program.realParts_->dateFormatters,
-                    .textCounting = program.realParts_->textCounting,
-                    .textMeasuring = program.realParts_->textMeasuring,
-                    .colors = program.realParts_->colors,
-                    .texts = program.realParts_->texts,
-                    .settings = settings,
-                    .uuids = program.uuids_,
-                    .eventStore = eventStore,
-                    .notificationCenter = program.center_,
-                    .http = program.http,
-                    .background = program.background_,
-                    .json = program.realParts_->json,
-                    .images = program.realParts_->images,
-                    .responseCaches = program.responseCaches,
-                    .documentFiles = program.realParts_->documents,
-                    .links = program.links,
-                    .snapshots = program.snapshots,
-                    .pictureSharing = program.pictureSharing,
-                    .photoLibrary = program.photoLibrary,
-                    .photoTexts = &program.realParts_->photoTexts},
-                   window, screens),
-          stack(window) {
-        screens.use(services);
-        AppDelegate(services).didFinishLaunching(stack);
+          running(platform(program), program.timeline, program.screen) {
+        running.launch();
     }
 
-    ui::Animations animations;
-    ui::WindowContext window;
-    Screens screens;
+    [[nodiscard]] Platform platform(Program& program) {
+        RealParts& real = *program.realParts_;
+        return {.console = program.console,
+                .clock = program.timeline,
+                .timers = program.timeline,
+                .mainQueue = program.timeline,
+                .calendar = real.calendar,
+                .dateFormatters = real.dateFormatters,
+                .textCounting = real.textCounting,
+                .textMeasuring = real.textMeasuring,
+                .colors = real.colors,
+                .texts = real.texts,
+                .settings = settings,
+                .uuids = program.uuids_,
+                .eventStore = eventStore,
+                .notificationCenter = program.center_,
+                .http = program.http,
+                .background = program.background_,
+                .json = real.json,
+                .images = real.images,
+                .responseCaches = program.responseCaches,
+                .documentFiles = real.documents,
+                .links = program.links,
+                .snapshots = program.snapshots,
+                .pictureSharing = program.pictureSharing,
+                .photoLibrary = program.photoLibrary,
+                .photoTexts = &real.photoTexts};
+    }
+
     sqlite::SqliteEventStore eventStore;
     sqlite::SqliteSavedSettings settings;
-    SharedServices services;
-    ui::PresentationStack stack;
+    RunningProgram running;
 };
 
 Program::Program() : Program(notifications) {}
@@ -98,11 +92,11 @@ void Program::restart() {
 }
 
 ui::PresentationStack& Program::stack() {
-    return run_->stack;
+    return run_->running.stack();
 }
 
 SharedServices& Program::services() {
-    return run_->services;
+    return run_->running.services();
 }
 
 } // namespace tessivo

@@ -63,7 +63,7 @@ void Tour::settle() {
     for (auto passed = std::chrono::milliseconds(0); passed < settlingTime;
          passed += virtualtime::stepLength) {
         virtualtime::step();
-        program_.waitForThreads();
+        program_.machine().waitForThreads();
     }
 }
 

@@ -1,0 +1,18 @@
+#include "Support/StartUp/RunningProgram.h"
+
+#include "Support/StartUp/AppDelegate.h"
+
+namespace tessivo {
+
+RunningProgram::RunningProgram(const Platform& platform, FrameClock& frameClock, ui::MainScreen& screen)
+    : animations_(frameClock, platform.timers),
+      window_{screen, animations_},
+      services_(platform, window_, screens_) {
+    screens_.use(services_);
+}
+
+void RunningProgram::launch() {
+    AppDelegate(services_).didFinishLaunching(stack_);
+}
+
+} // namespace tessivo
