@@ -8,7 +8,8 @@
 
 namespace tessivo {
 
-/// What the steps of the wizard have in common: a heading with a picture of the progress, Back and Next.
+/// What the steps of the wizard and the edit screens have in common: a heading with a picture of the
+/// progress, Back, and a button that goes on or saves.
 class WizardScreen : public Screen, public SlideTransitions {
 public:
     explicit WizardScreen(SharedServices& services);

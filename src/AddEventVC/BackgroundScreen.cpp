@@ -1,0 +1,198 @@
+#include "AddEventVC/BackgroundScreen.h"
+
+#include "AddEventVC/BackgrounCell.h"
+#include "AddEventVC/Palette.h"
+#include "AddEventVC/UnsplashKeys.h"
+#include "Event/EventItem.h"
+#include "Ports/Clock.h"
+#include "Ports/Console.h"
+#include "Ports/HttpClient.h"
+#include "Ports/ImageCoding.h"
+#include "Ports/MainQueue.h"
+#include "UnsplashPicker/PickerServices.h"
+
+namespace tessivo {
+namespace {
+
+constexpr auto reuseIdentifier = "BackgrounCell";
+constexpr double swatchSpacing = 16;
+
+std::unique_ptr<ui::LineLayout> stripLayout() {
+    return std::make_unique<ui::LineLayout>(ui::LineLayout::Axis::Horizontal, swatchSpacing, swatchSpacing);
+}
+
+} // namespace
+
+BackgroundScreen::BackgroundScreen(SharedServices& services, std::string colorHeading)
+    : WizardScreen(services),
+      currentDate(services.platform().clock.now()),
+      colorsLabel(controls, "colorsLabel", std::move(colorHeading)),
+      colorCollection(controls, "colorCollection", stripLayout()),
+      gradientCollection(controls, "gradientCollection", stripLayout()) {}
+
+void BackgroundScreen::buildRows() {
+    nextButton.addTarget(ui::PressEvent::UpInside, [this] { doneButtonTapped(); });
+    buildRow(photosButton, "Photo Library");
+    photosButton.addTarget(ui::PressEvent::UpInside, [this] { photosButtonTapped(); });
+    buildRow(imagesButton, "Image by Unsplash");
+    imagesButton.addTarget(ui::PressEvent::UpInside, [this] { imagesButtonTapped(); });
+    for (ui::View* row : std::initializer_list<ui::View*>{
+             &previewLabel, &card(), &photosLabel, &photosButton, &imagesLabel, &imagesButton, &colorsLabel,
+             &colorCollection, &gradientsLabel, &gradientCollection})
+        view().addSubview(*row);
+    buildStrip(colorCollection);
+    buildStrip(gradientCollection);
+}
+
+void BackgroundScreen::buildRow(ui::Button& row, std::string title) {
+    row.setTitle(std::move(title));
+    row.setFont({17, ui::FontWeight::Regular});
+    row.setImageName("chevronNext");
+    row.setTint(ui::ColorRef::black());
+}
+
+void BackgroundScreen::buildStrip(ui::CollectionView& strip) {
+    strip.registerCell(reuseIdentifier, [] { return std::make_shared<BackgrounCell>(); });
+    strip.dataSource = weakSelf<ui::CollectionViewDataSource>(this);
+    strip.delegate = weakSelf<ui::CollectionViewDelegate>(this);
+    strip.setFrame({0, 0, screen().width(), BackgrounCell::side});
+    strip.reloadData();
+}
+
+int BackgroundScreen::numberOfItems(ui::CollectionView& collection) {
+    return static_cast<int>(&collection == &colorCollection ? sectionsColor.size() : sectionsGradient.size());
+}
+
+std::shared_ptr<ui::CollectionViewCell> BackgroundScreen::cellForItem(ui::CollectionView& collection,
+                                                                      int item) {
+    const auto cell =
+        std::static_pointer_cast<BackgrounCell>(collection.dequeueReusableCell(reuseIdentifier));
+    const char* kind = &collection == &colorCollection ? "Color " : "Gradient ";
+    cell->setAccessibilityName(kind + std::to_string(item + 1));
+    if (&collection == &colorCollection) {
+        cell->showColor(colorItemAt(item, platform().console));
+        cell->setMarked(selectedColorIndexPath == item);
+    } else {
+        cell->showGradient(gradientItemAt(item, platform().console), platform().colors, platform().console);
+        cell->setMarked(selectedGradientIndexPath == item);
+    }
+    return cell;
+}
+
+ui::Size BackgroundScreen::sizeForItem(ui::CollectionView&, int) {
+    return {BackgrounCell::side, BackgrounCell::side};
+}
+
+void BackgroundScreen::didSelectItem(ui::CollectionView& collection, int item) {
+    if (&collection == &colorCollection)
+        chooseColor(item);
+    else
+        chooseGradient(item);
+}
+
+ui::GradientLayer* BackgroundScreen::previewGradient() {
+    return card().sublayers().empty() ? nullptr : card().sublayers().front().get();
+}
+
+void BackgroundScreen::chooseColor(int row) {
+    card().photoView.setImage({});
+    if (auto* gradient = previewGradient())
+        gradient->setHidden(true);
+    card().setBackgroundColor(ui::ColorRef::named(colorItemAt(row, platform().console).color));
+    take({static_cast<std::int16_t>(row), NO_VALUE, {}, {}});
+    mark(row, std::nullopt);
+}
+
+void BackgroundScreen::chooseGradient(int row) {
+    card().photoView.setImage({});
+    if (auto* gradient = previewGradient()) {
+        gradient->setHidden(false);
+        applyGradientItem(*gradient, gradientItemAt(row, platform().console), platform().colors,
+                          platform().console);
+        card().layerChanged();
+    }
+    take({NO_VALUE, static_cast<std::int16_t>(row), {}, {}});
+    mark(std::nullopt, row);
+}
+
+void BackgroundScreen::choosePicture(Choice choice, const ui::Image& picture) {
+    take(std::move(choice));
+    card().photoView.setImage(picture);
+    mark(std::nullopt, std::nullopt);
+}
+
+void BackgroundScreen::mark(std::optional<int> color, std::optional<int> gradient) {
+    selectedColorIndexPath = color;
+    selectedGradientIndexPath = gradient;
+    colorCollection.reloadData();
+    gradientCollection.reloadData();
+}
+
+void BackgroundScreen::photosButtonTapped() {
+    const auto picker = std::make_shared<ImagePickerController>(services());
+    picker->delegate = weakSelf<ImagePickerControllerDelegate>(this);
+    present(picker);
+}
+
+void BackgroundScreen::imagePickerControllerDidFinishPickingMedia(ImagePickerController& picker,
+                                                                  const PickedMedia& info) {
+    const auto& photo = photoOf(info);
+    if (!photo)
+        platform().console.stopProgram("The photo library gave no picture.");
+    const bool hasAddress = info.imageURL && Url::parse(*info.imageURL);
+    card().photoView.setContentMode(ui::ContentMode::AspectFill);
+    choosePicture({NO_VALUE, NO_VALUE, hasAddress ? info.imageURL : std::nullopt, {}}, *photo);
+    picker.dismiss();
+}
+
+void BackgroundScreen::imagesButtonTapped() {
+    auto configuration = services().photoPicker().configuration();
+    configuration.accessKey = unsplashAccessKey;
+    configuration.secretKey = unsplashSecretKey;
+    const auto picker = unsplash::UnsplashPicker::make(services().photoPicker(), services().window(),
+                                                       std::move(configuration));
+    picker->photoPickerDelegate = weakSelf<unsplash::UnsplashPickerDelegate>(this);
+    present(picker);
+}
+
+void BackgroundScreen::photoPickerDidSelect(unsplash::UnsplashPicker&, const unsplash::Photos& photos) {
+    if (photos.empty())
+        return;
+    const auto& photo = photos.front();
+    const auto regular = photo->urls.find(unsplash::URLKind::regular);
+    if (regular == photo->urls.end())
+        return;
+    // The network's thread must not be the one that lets go of a screen.
+    const auto received = [weak = weak_from_this(), platform = platform(), photo,
+                           url = regular->second](const Result<HttpResponse>& answer) {
+        if (!answer)
+            return;
+        const ui::Image image{{}, platform.images.decode(answer.value().body, std::nullopt)};
+        if (!image.isSet())
+            return;
+        platform.mainQueue.post([weak, photo, url, image] {
+            if (const auto self = std::static_pointer_cast<BackgroundScreen>(weak.lock()))
+                self->showPreview(*photo, url, image);
+        });
+    };
+    platform().http.start({.url = regular->second.absoluteString()}, received);
+}
+
+void BackgroundScreen::showPreview(const unsplash::UnsplashPhoto& photo, const Url& url, ui::Image image) {
+    const auto preview = std::make_shared<UnsplahImageView>(services());
+    preview->delegate = weakSelf<FullScreenImageDelegate>(this);
+    preview->unsplash = std::move(image);
+    preview->urlString = url.absoluteString();
+    preview->photographer = photo.user.name;
+    if (const auto html = photo.user.links.find(unsplash::UserLinkKind::html); html != photo.user.links.end())
+        preview->profileURL = html->second;
+    show(preview);
+}
+
+void BackgroundScreen::didCrop(const ui::Image& image, const std::optional<std::string>& urlString) {
+    unsplashPath = urlString;
+    unsplashImage = image;
+    choosePicture({NO_VALUE, NO_VALUE, {}, urlString}, image);
+}
+
+} // namespace tessivo
