@@ -78,9 +78,9 @@ private:
     void refreshAndReload();
     void edit(EditScreen kind, int item);
     [[nodiscard]] EventCoreData& rowAt(int item);
-    /// An act on the event of `item`, for later: rows move under an open question. It is called with the
-    /// place that the event has by then, and not at all once the event has left the list.
-    [[nodiscard]] std::function<void()> laterOnEvent(int item, std::function<void(int)> act);
+    /// Acts on the place that the event of `id` has in the list by now, and not at all once it has left the
+    /// list: rows move under an open question or menu.
+    void actOn(const std::optional<Uuid>& id, const std::function<void(int)>& act);
     /// The row once more, from a stack of its own: what the next screen changes and does not save must not
     /// show in the list, nor be saved with the next write.
     [[nodiscard]] std::shared_ptr<EventCoreData> freshRowAt(int item);

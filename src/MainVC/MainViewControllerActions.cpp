@@ -6,34 +6,17 @@
 #include "Interface/AlertController.h"
 #include "Interface/ViewSnapshots.h"
 #include "MainVC/CardSize.h"
+#include "MainVC/EventActions.h"
 #include "MainVC/EventCell.h"
 #include "Ports/Console.h"
 #include "Ports/MainQueue.h"
-#include "Support/LocalizationVariables.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tessivo {
 namespace {
 
-// The line separator breaks the title without ending its paragraph.
-constexpr auto deletionTitle = "Are You Sure You Want\u2028 to Delete This Event?";
-
 constexpr double swipeButtonPadding = 8; ///< on each side of a button's picture
-
-struct EditChoice {
-    EditScreen screen;
-    const char* title;
-    const char* symbol;
-};
-
-constexpr std::array editChoices{
-    EditChoice{EditScreen::Title, "Edit Title", "textformat"},
-    EditChoice{EditScreen::DateAndTime, "Edit Day & Time", "calendar"},
-    EditChoice{EditScreen::Reminder, "Edit Reminder", "bell.badge"},
-    EditChoice{EditScreen::Background, "Edit Background", "photo"},
-};
 
 std::shared_ptr<swipe::SwipeAction> makeAction(const char* image, double side, std::string label, bool hides,
                                                std::function<void(int)> act) {
@@ -72,14 +55,12 @@ swipe::SwipeOptions MainViewController::editActionsOptions(ui::CollectionView&, 
     return options;
 }
 
-std::function<void()> MainViewController::laterOnEvent(int item, std::function<void(int)> act) {
-    return [this, id = rowAt(item).id(), act = std::move(act)] {
-        if (!records)
-            return;
-        const auto found = std::ranges::find_if(*records, [&](const auto& row) { return row->id() == id; });
-        if (found != records->end())
-            act(static_cast<int>(found - records->begin()));
-    };
+void MainViewController::actOn(const std::optional<Uuid>& id, const std::function<void(int)>& act) {
+    if (!records)
+        return;
+    const auto found = std::ranges::find_if(*records, [&](const auto& row) { return row->id() == id; });
+    if (found != records->end())
+        act(static_cast<int>(found - records->begin()));
 }
 
 std::shared_ptr<EventCoreData> MainViewController::freshRowAt(int item) {
@@ -101,23 +82,18 @@ void MainViewController::showEditSheet(int item) {
                                                              "What do you want to edit?");
     for (const auto& choice : editChoices)
         sheet->addAction({choice.title, ui::AlertActionStyle::Default,
-                          laterOnEvent(item, [this, kind = choice.screen](int at) { edit(kind, at); })});
+                          [this, kind = choice.screen, id = rowAt(item).id()] {
+                              actOn(id, [&](int at) { edit(kind, at); });
+                          }});
     sheet->addAction({"Cancel", ui::AlertActionStyle::Cancel, {}});
     present(sheet);
 }
 
 std::optional<ui::Menu> MainViewController::contextMenuForItem(ui::CollectionView&, int item, ui::Point) {
-    ui::MenuElement edits{"Edit", "pencil", {}, {}};
-    for (const auto& choice : editChoices)
-        edits.children.push_back(
-            {choice.title,
-             choice.symbol,
-             laterOnEvent(item, [this, kind = choice.screen](int at) { edit(kind, at); }),
-             {}});
-    const auto share = laterOnEvent(item, [this](int at) { shareCard(at); });
-    const auto remove = laterOnEvent(item, [this](int at) { confirmDeletion(at); });
-    return ui::Menu{
-        {std::move(edits), {"Share", "square.and.arrow.up", share, {}}, {"Delete", "trash", remove, {}}}};
+    const auto id = rowAt(item).id();
+    return ui::Menu{{editMenu([this, id](EditScreen kind) { actOn(id, [&](int at) { edit(kind, at); }); }),
+                     shareElement([this, id] { actOn(id, [this](int at) { shareCard(at); }); }),
+                     deleteElement([this, id] { actOn(id, [this](int at) { confirmDeletion(at); }); })}};
 }
 
 void MainViewController::shareCard(int item) {
@@ -133,13 +109,8 @@ void MainViewController::shareCard(int item) {
 }
 
 void MainViewController::confirmDeletion(int item) {
-    const auto sheet =
-        std::make_shared<ui::AlertController>(window(), ui::AlertStyle::ActionSheet, deletionTitle, "");
-    // The look of danger stands on the answer that keeps the event.
-    sheet->addAction({texts().alertNo, ui::AlertActionStyle::Destructive, {}});
-    sheet->addAction({texts().alertYes, ui::AlertActionStyle::Default,
-                      laterOnEvent(item, [this](int at) { deleteAction(at); })});
-    present(sheet);
+    present(deletionQuestion(
+        services(), [this, id = rowAt(item).id()] { actOn(id, [this](int at) { deleteAction(at); }); }));
 }
 
 void MainViewController::deleteAction(int item) {

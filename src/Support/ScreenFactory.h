@@ -24,9 +24,10 @@ public:
     [[nodiscard]] virtual std::shared_ptr<ui::ViewController> makeTabShell() = 0;
     /// The first step of the wizard that makes an event.
     [[nodiscard]] virtual std::shared_ptr<ui::ViewController> makeAddWizard() = 0;
-    /// One event over the whole screen.
+    /// `record` over the whole screen.
     [[nodiscard]] virtual std::shared_ptr<ui::ViewController>
     makeFullEvent(std::shared_ptr<EventCoreData> record) = 0;
+    /// The screen that changes `eventData`, which both hold.
     [[nodiscard]] virtual std::shared_ptr<ui::ViewController>
     makeEdit(EditScreen kind, std::shared_ptr<EventCoreData> eventData) = 0;
     /// `sizeChanged` is called when the user has chosen another card size.

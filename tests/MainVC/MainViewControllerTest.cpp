@@ -192,14 +192,6 @@ TEST_F(ListTest, AnEmptyTimeIsNoTime) {
     EXPECT_EQ(card(list(ListType::Past), 0).timeLabel.text(), "Since 34\nHours");
 }
 
-TEST_F(ListTest, WhatIsNotThereYetDoesNothing) {
-    store(event("tapped", "25 June 2030"));
-    auto& future = list(ListType::Future);
-    future.collection.tapItem(0);
-    future.settingButton.tap();
-    EXPECT_EQ(program.stack().screens().size(), 1U);
-}
-
 TEST_F(ListTest, LargeScreensGetLargerType) {
     program.screen.resize({834, 1194}, 2);
     program.restart();

@@ -1,28 +1,4 @@
-import QtQuick
 import Tessivo
 
-// The title of a new event, beside the card that it will have.
-WizardFrame {
-    id: step
-
-    readonly property TextInputItem textField: screen.control("textField") as TextInputItem
-
-    rowSpacing: 8
-
-    EditableField {
-        input: step.textField
-        width: parent.width
-        focus: true
-    }
-    StyledLabel {
-        label: step.screen.control("CountLabel") as LabelItem
-        x: 4
-        width: parent.width - 8
-    }
-    Item { width: 1; height: 16 }
-    PreviewCard {
-        screen: step.screen
-        width: parent.width
-        height: step.height > 1000 ? step.height / 4.06 : 200
-    }
-}
+// The title of a new event.
+TitleFrame {}

@@ -1,14 +1,16 @@
 import QtQuick
 import Tessivo
 
-// The card that previews an event on the wizard's screens.
+// The card that previews an event on the screens that make or change it.
 CardPaint {
     id: card
 
     required property ScreenItem screen
+    property string parts: "eventView." // before the names of the card's parts
+    property string countName: "timeLabel"
     readonly property ViewItem view: screen.control("eventView")
-    readonly property LabelItem timeLabel: screen.control("eventView.timeLabel") as LabelItem
-    readonly property LabelItem informationLabel: screen.control("eventView.eventInformationLabel") as LabelItem
+    readonly property LabelItem timeLabel: screen.control(parts + countName) as LabelItem
+    readonly property LabelItem informationLabel: screen.control(parts + "eventInformationLabel") as LabelItem
 
     implicitHeight: 200
     fill: view.fill
@@ -18,7 +20,7 @@ CardPaint {
 
     CardPicture {
         anchors.fill: parent
-        view: card.screen.control("eventView.photoView") as ImageItem
+        view: card.screen.control(card.parts + "photoView") as ImageItem
         radius: card.radius
     }
     CardLabel {

@@ -1,0 +1,6 @@
+import Tessivo
+
+// Another background for an event.
+BackgroundFrame {
+    cardParts: ""
+}

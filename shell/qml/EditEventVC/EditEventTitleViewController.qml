@@ -1,0 +1,6 @@
+import Tessivo
+
+// Another title for an event.
+TitleFrame {
+    cardParts: ""
+}

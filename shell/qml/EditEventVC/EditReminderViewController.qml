@@ -1,0 +1,4 @@
+import Tessivo
+
+// Another reminder for an event, or none.
+ReminderFrame {}
