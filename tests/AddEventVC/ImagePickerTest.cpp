@@ -207,7 +207,7 @@ TEST_F(ImagePickerTest, AnAnswerAfterTheScreenHasGoneIsDropped) {
     EXPECT_EQ(chooser->eventData->photoPath, std::nullopt);
 }
 
-TEST_F(ImagePickerTest, ASourceThatLeavesOutTheAddressLeavesTheEventWithoutABackground) {
+TEST_F(ImagePickerTest, ASourceWithoutAnAddressLeavesTheEventWithoutABackground) {
     const ui::Image picture{{}, std::make_shared<const Bitmap>(stripes(4, 4))};
     for (const auto& address : {std::optional<std::string>(), std::optional<std::string>("no address")}) {
         chooser->imagePickerControllerDidFinishPickingMedia(openLibrary(), {picture, picture, address});

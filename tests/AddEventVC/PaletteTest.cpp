@@ -173,7 +173,7 @@ TEST_F(PaletteTest, AnUnknownDirectionKeepsThePointsAndSaysSo) {
     EXPECT_THAT(console.lines(), ElementsAre("1", "1", "1"));
 }
 
-TEST_F(PaletteTest, AColourThatTheCatalogueLacksStopsTheProgramWithTheLayerUntouched) {
+TEST_F(PaletteTest, AMissingColourStopsTheProgramWithTheLayerUntouched) {
     const auto before = layer.colors();
     EXPECT_THROW(applyGradientItem(layer, {"Gradient1", "Gradient63", 1}, colors, console),
                  fakes::ProgramStopped);

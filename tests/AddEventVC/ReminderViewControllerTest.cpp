@@ -109,7 +109,7 @@ TEST_F(ReminderStepTest, APastEventChoosesHowOftenItReminds) {
     EXPECT_EQ(draft.remMess, "") << "a reminder needs no message";
 }
 
-TEST_F(ReminderStepTest, SwitchedOffAgainTheMessageIsDroppedFromTheDraftAndKeptOnTheScreen) {
+TEST_F(ReminderStepTest, SwitchedOffTheMessageLeavesTheDraftAndStaysOnTheScreen) {
     auto& step = open(true);
     turnSwitch(step);
     step.reminderMess.beginEditing();
@@ -182,10 +182,15 @@ TEST_F(ReminderStepTest, DeniedTheSwitchEndsOffWhicheverWayItWasTurned) {
 
 TEST_F(ReminderStepTest, AnAnswerAfterTheStepHasGoneIsDropped) {
     auto& step = open(true);
+    hear();
+    program.notifications.setStatus(AuthorizationStatus::Denied);
     step.toggleSwitch.toggle();
     step.prevButton.tap();
     program.settle();
     hear();
+    program.settle();
+    EXPECT_EQ(program.stack().top()->screenName(), "EventDateAndTimeViewController")
+        << "no alert about a switch that is no more";
 }
 
 TEST_F(ReminderStepTest, NextRisesOutOfTheKeyboardsWay) {

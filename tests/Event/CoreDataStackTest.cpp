@@ -310,7 +310,7 @@ protected:
     const Error full{"Disk", 28, "no space left"};
 };
 
-TEST_F(FailingStoreTest, AStoreThatDoesNotLoadStopsTheProgramWithItsReasonAndIsTriedAgain) {
+TEST_F(FailingStoreTest, AStoreThatCannotBeLoadedStopsTheProgramAndIsTriedAgain) {
     CoreDataStack late(store, console);
     const auto stopText = [&](LoadFailure failure) -> std::string {
         store.failNextLoad(std::move(failure));

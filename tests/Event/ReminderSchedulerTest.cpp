@@ -170,13 +170,45 @@ protected:
 struct SiteCase {
     const char* name;
     std::function<void(ReminderScheduler&, const EventRecord&)> act;
-    bool onePending; ///< the site needs or may meet a pending request
-    bool futureRepeats;
-    bool makesPast;
-    bool successFollowsFailure;
-    int times; ///< how often it makes the request
-    std::vector<std::string> lines;
+    bool onePending = false; ///< the site needs or may meet a pending request
+    bool futureRepeats = true;
+    bool makesPast = true;
+    bool successFollowsFailure = false;
+    int times = 1; ///< how often it makes the request
+    std::vector<std::string> lines = {"уведомление создано"};
 };
+
+std::vector<SiteCase> allSites() {
+    const auto edit = [](ReminderScheduler& scheduler, const EventRecord& record) {
+        scheduler.editReminder(EventCoreData(record));
+    };
+    return {
+        {.name = "WizardFinish",
+         .act = [](auto& scheduler, const auto& record) { scheduler.finishWizard(itemOf(record)); },
+         .futureRepeats = false,
+         .lines = {"СОЗДАНИЕ УВЕДОМЛЕНИЯ ПРОШЛО УСПЕШНО", "уведомление создано"}},
+        {.name = "RolledEvent",
+         .act = [](auto& scheduler,
+                   const auto& record) { scheduler.renewRolledReminder(EventCoreData(record)); },
+         .onePending = true,
+         .futureRepeats = false,
+         .makesPast = false,
+         .successFollowsFailure = true},
+        {.name = "EditDateAndTime",
+         .act = [](auto& scheduler, const auto& record) { scheduler.editDateAndTime(EventCoreData(record)); },
+         .onePending = true,
+         .times = 2,
+         .lines = {"уведомление создано", "уведомление создано"}},
+        {.name = "EditReminder", .act = edit},
+        {.name = "EditReminderWithOnePending", .act = edit, .onePending = true}};
+}
+
+/// Only events ahead come to the others.
+std::vector<SiteCase> sitesOfPastEvents() {
+    auto sites = allSites();
+    std::erase_if(sites, [](const SiteCase& site) { return !site.makesPast; });
+    return sites;
+}
 
 class ReminderSiteTest : public ReminderSchedulerTest, public testing::WithParamInterface<SiteCase> {
 protected:
@@ -195,9 +227,9 @@ TEST_P(ReminderSiteTest, MakesTheFutureRequest) {
     EXPECT_EQ(console.lines(), GetParam().lines);
 }
 
-TEST_P(ReminderSiteTest, MakesThePastRequest) {
-    if (!GetParam().makesPast)
-        return; // only events ahead come here
+using PastReminderSiteTest = ReminderSiteTest;
+
+TEST_P(PastReminderSiteTest, MakesThePastRequest) {
     act(pastRecord());
     EXPECT_THAT(center.pending(),
                 ElementsAre(NotificationRequest{identifier, content, {pastComponents, false}}));
@@ -238,52 +270,12 @@ TEST_P(ReminderSiteTest, AbsentTextsAreEmptyAndADateWithoutTimeIsItsMidnight) {
     EXPECT_EQ(center.pending()[0].trigger.dateComponents, (DateComponents{2027, 3, 13, 0, 0, {}}));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Sites, ReminderSiteTest,
-    testing::Values(
-        SiteCase{"WizardFinish",
-                 [](auto& scheduler, const auto& record) { scheduler.finishWizard(itemOf(record)); },
-                 false,
-                 false,
-                 true,
-                 false,
-                 1,
-                 {"СОЗДАНИЕ УВЕДОМЛЕНИЯ ПРОШЛО УСПЕШНО", "уведомление создано"}},
-        SiteCase{
-            "RolledEvent",
-            [](auto& scheduler, const auto& record) { scheduler.renewRolledReminder(EventCoreData(record)); },
-            true,
-            false,
-            false,
-            true,
-            1,
-            {"уведомление создано"}},
-        SiteCase{
-            "EditDateAndTime",
-            [](auto& scheduler, const auto& record) { scheduler.editDateAndTime(EventCoreData(record)); },
-            true,
-            true,
-            true,
-            false,
-            2,
-            {"уведомление создано", "уведомление создано"}},
-        SiteCase{"EditReminder",
-                 [](auto& scheduler, const auto& record) { scheduler.editReminder(EventCoreData(record)); },
-                 false,
-                 true,
-                 true,
-                 false,
-                 1,
-                 {"уведомление создано"}},
-        SiteCase{"EditReminderWithOnePending",
-                 [](auto& scheduler, const auto& record) { scheduler.editReminder(EventCoreData(record)); },
-                 true,
-                 true,
-                 true,
-                 false,
-                 1,
-                 {"уведомление создано"}}),
-    [](const auto& test) { return test.param.name; });
+std::string siteName(const testing::TestParamInfo<SiteCase>& site) {
+    return site.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Sites, ReminderSiteTest, testing::ValuesIn(allSites()), siteName);
+INSTANTIATE_TEST_SUITE_P(Sites, PastReminderSiteTest, testing::ValuesIn(sitesOfPastEvents()), siteName);
 
 TEST_F(ReminderSchedulerTest, TheWizardAsksOnceMoreAndMakesNothingUnlessGranted) {
     for (const bool granted : {true, false}) {

@@ -249,7 +249,7 @@ TEST_F(ReminderEngineTest, WhatComesDueWhileTheUserDeniesGoesByUnseen) {
     EXPECT_THAT(titles(), ElementsAre("later"));
 }
 
-TEST_F(ReminderEngineTest, AClickOpensTheAppAlsoAfterARestartButOnlyOnItsOwnNotifications) {
+TEST_F(ReminderEngineTest, AClickOnItsOwnNotificationOpensTheAppAlsoAfterARestart) {
     start();
     add("clicked", minute);
     line.advance(2 * minute);

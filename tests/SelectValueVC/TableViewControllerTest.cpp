@@ -88,12 +88,6 @@ TEST_F(TableViewControllerTest, AChoiceThatIsNoRowOpensTheListWithNothingSelecte
     EXPECT_THAT(listener->heard, IsEmpty());
 }
 
-TEST_F(TableViewControllerTest, AListenerThatHasGoneIsNotTold) {
-    const auto picker = open(0);
-    listener.reset();
-    picker->tableView.tapItem(1);
-}
-
 TEST_F(TableViewControllerTest, ARowThatDoesNotExistStopsTheProgram) {
     const auto picker = open(0);
     EXPECT_THROW(picker->didSelectItem(picker->tableView, 3), fakes::ProgramStopped);

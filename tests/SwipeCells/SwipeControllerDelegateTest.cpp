@@ -164,7 +164,7 @@ TEST(SwipeControllerDelegateTest, ARowThatIsCaughtOnItsWayBackIsMadeAnew) {
     EXPECT_FALSE(cell.line.framesAreAskedFor());
 }
 
-TEST(SwipeControllerDelegateTest, TheRowStandsBesideAContainerOfAnySizeAndPlaceAndIsAsHighAsTheCell) {
+TEST(SwipeControllerDelegateTest, TheRowStandsBesideAnyContainerAndIsAsHighAsTheCell) {
     NotingCell cell;
     cell.content.setFrame({10, 20, 300, 60});
     cell.begin(-100);

@@ -163,7 +163,7 @@ TEST_F(SwipeControllerTest, AssistiveTechnologyIsOfferedBothSidesNearestFirst) {
     EXPECT_EQ(list->collection.numberOfItems(), 4);
 }
 
-TEST_F(SwipeControllerTest, AnOpenRowIsTheOnlyThingThatAssistiveTechnologyFindsOnItsCell) {
+TEST_F(SwipeControllerTest, AnOpenRowIsAllThatAssistiveTechnologyFindsOnItsCell) {
     EXPECT_EQ(list->cell(1).accessibilityElement(), nullptr);
     list->open(1);
     EXPECT_EQ(list->cell(1).accessibilityElement(), list->cell(1).actionsView());

@@ -175,7 +175,7 @@ TEST_P(TimeContract, PostedWorkRunsLaterInTheOrderOfPosting) {
     EXPECT_THAT(notes, ElementsAre("a", "b", "c"));
 }
 
-TEST_P(TimeContract, WorkPostedFromOtherThreadsRunsOnTheMainThreadInEachOnesOrder) {
+TEST_P(TimeContract, WorkOfOtherThreadsRunsOnTheMainThreadInEachOnesOrder) {
     constexpr int perThread = 200;
     std::vector<int> seen[2];
     bool allOnMain = true;
@@ -227,7 +227,7 @@ TEST_P(TimeContract, AListenerMayEndItselfAndOthersDuringAFrame) {
     EXPECT_THAT(notes, ElementsAre("killer"));
 }
 
-TEST_P(TimeContract, WhatStillWaitsWhenTheProgramEndsIsDroppedAndHandlesMayOutliveIt) {
+TEST_P(TimeContract, WhatStillWaitsAtTheEndIsDroppedAndHandlesMayOutliveIt) {
     auto frame = time->frames().listen([&](Seconds) { note("frame"); });
     auto timer = noteOnce(0.5, "timer");
     time->queue().post([&] { note("work"); });

@@ -25,7 +25,7 @@ protected:
     }
 };
 
-TEST_F(ShareSheetWindow, APictureOfAViewIsAsLargeAsItsBoundsInPixelsAndTransparentBesideIt) {
+TEST_F(ShareSheetWindow, APictureOfAViewHasItsBoundsInPixelsAndIsTransparentBeside) {
     screen->label.setFrame({10, 10, 120, 80});
     draw(*screen, R"(
         Rectangle { anchors.fill: parent; color: "green" }

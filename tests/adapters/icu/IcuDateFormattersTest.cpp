@@ -103,7 +103,7 @@ TEST(IcuDateFormatters, AFormatterReadsOnAfterAFailure) {
     EXPECT_THAT(date->date("01 January 1970"), Optional(Eq(instantAt(0))));
 }
 
-TEST(IcuDateFormatters, AWallTimeThatAClockChangeSkipsIsTheChangeAndOneThatComesTwiceTheFirst) {
+TEST(IcuDateFormatters, ASkippedWallTimeIsTheChangeAndARepeatedOneTheFirst) {
     const IcuDateFormatters formatters("en_US", "Europe/Berlin");
     for (const char* skipped : {"30 March 2025 2:00 AM", "30 March 2025 2:30 AM", "30 March 2025 3:00 AM"})
         EXPECT_THAT(formatters.make(fullFormat)->date(skipped), Optional(Eq(instantAt(1'743'296'400))))

@@ -107,7 +107,7 @@ TEST_F(PhotoPortal, ThePortalOffersPicturesAndItsAddressIsHandedOnAsItComes) {
         EXPECT_TRUE(portal.asked[0].mediaTypes.contains(QLatin1String(type))) << type;
 }
 
-TEST_F(PhotoPortal, TurningAwayIsNotAskedAgainAndAPortalThatCannotLeavesItToAProgram) {
+TEST_F(PhotoPortal, ACancelIsNotAskedAgainAndAFailedPortalLeavesItToAProgram) {
     install("zenity", "/a.jpg", 0);
     portal.response = 1;
     EXPECT_EQ(choose().value(), std::nullopt);

@@ -129,7 +129,7 @@ TEST_F(Sharing, TheClipboardGetsThePicture) {
     EXPECT_EQ(pasted.pixelColor(1, 0).alpha(), 0);
 }
 
-TEST_F(Sharing, WithoutAPortalProgramsOfTheDesktopGetAFileThatOthersCannotRead) {
+TEST_F(Sharing, WithoutAPortalProgramsGetAFileThatOthersCannotRead) {
     EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
     const auto lent = folder / "lent" / "Tessivo.png";
     EXPECT_EQ(called(), lent.string() + "\n");

@@ -239,7 +239,7 @@ TEST_F(RefusedFileTest, NewFilesAndFoldersAreForTheirOwnerOnly) {
     EXPECT_EQ(fs::status(file.parent_path().parent_path()).permissions(), fs::perms(0700));
 }
 
-TEST_F(RefusedFileTest, AStoreThatAnotherProcessHoldsLockedFailsTheSaveAndKeepsTheChange) {
+TEST_F(RefusedFileTest, AStoreLockedByAnotherProcessFailsTheSaveAndKeepsTheChange) {
     makeStore();
     SqliteEventStore store(file);
     CoreDataStack stack(store, console);
