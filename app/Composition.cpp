@@ -1,5 +1,7 @@
 #include "app/Composition.h"
 
+#include "Event/CoreDataStack.h"
+#include "Event/ReminderScheduler.h"
 #include "UnsplashPicker/PickerServices.h"
 
 #include <utility>
@@ -21,6 +23,9 @@ Composition::Composition(const Machine::Settings& settings, Clock& clock, Consol
 
 void Composition::start() {
     program_.launch();
+    machine_.notificationCenter().begin([this] {
+        services().reminderScheduler().restoreReminders(services().coreDataStack().fetchEvents());
+    });
     shell_.open();
     machine_.frameClock().setWindow(shell_.window());
 }

@@ -1,3 +1,4 @@
+#include "Support/StartUp/LaunchAction.h"
 #include "app/Composition.h"
 #include "freedesktop/DataFolder.h"
 #include "freedesktop/ReminderService.h"
@@ -27,9 +28,12 @@ int main(int argc, char** argv) {
     QGuiApplication::setLayoutDirection(QLocale(QString::fromStdString(language)).textDirection());
 
     Composition* running = nullptr;
-    DesktopActivation activation([&](const QString& token) {
-        if (running)
-            running->shell().raise(token);
+    DesktopActivation activation([&](const DesktopActivation::Request& request) {
+        if (!running)
+            return;
+        running->shell().raise(request.activationToken);
+        performLaunchAction(request.action.toStdString(), request.parameter.toStdString(),
+                            running->services(), running->stack());
     });
     if (!activation.claim())
         return 0;

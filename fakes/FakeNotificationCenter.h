@@ -8,7 +8,8 @@
 namespace tessivo::fakes {
 
 /// A notification center in memory. Nothing happens inline: each call waits in the center's queue until the
-/// test calls `run`, so that a test decides what the program does before the answers come. One thread.
+/// test calls `run`, so that a test decides what the program does before the answers come. It has no clock: a
+/// request stays until the test lets it fire, also one whose moment has gone by. One thread.
 class FakeNotificationCenter final : public NotificationCenter {
 public:
     explicit FakeNotificationCenter(AuthorizationStatus status = AuthorizationStatus::NotDetermined)

@@ -46,15 +46,32 @@ Outcome FakeNotificationQueue::retire(const std::vector<std::int64_t>& sequences
         if (std::ranges::find(sequences, queued.sequence) == sequences.end())
             left.push_back(queued);
         else
-            disk_.ledger[queued.sequence] = token;
+            disk_.ledger[queued.sequence] = {token, queued.request.identifier};
     }
     disk_.pending = std::make_shared<QueuedRequests>(std::move(left));
     return {};
 }
 
-bool FakeNotificationQueue::wasShown(const std::string& token) {
-    return !token.empty() && !disk_.readFailure &&
-           std::ranges::any_of(disk_.ledger, [&](const auto& entry) { return entry.second == token; });
+std::vector<std::string> FakeNotificationQueue::shownIn(const std::string& token) {
+    std::vector<std::string> identifiers;
+    for (const auto& [sequence, shown] : disk_.ledger) {
+        if (!token.empty() && !disk_.readFailure && shown.token == token)
+            identifiers.push_back(shown.identifier);
+    }
+    return identifiers;
+}
+
+Result<bool> FakeNotificationQueue::hasLoss() {
+    if (disk_.readFailure)
+        return *disk_.readFailure;
+    return disk_.hasLoss;
+}
+
+Outcome FakeNotificationQueue::clearLoss() {
+    if (disk_.writeFailure)
+        return disk_.writeFailure;
+    disk_.hasLoss = false;
+    return {};
 }
 
 Result<AuthorizationStatus> FakeNotificationQueue::authorization() {

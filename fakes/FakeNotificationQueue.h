@@ -9,9 +9,14 @@ namespace tessivo::fakes {
 /// What instances of `FakeNotificationQueue` share, as processes share a disk.
 struct QueueDisk {
     std::shared_ptr<const QueuedRequests> pending = std::make_shared<QueuedRequests>();
-    std::map<std::int64_t, std::string> ledger; ///< sequence to token
+    struct Shown {
+        std::string token;
+        std::string identifier;
+    };
+    std::map<std::int64_t, Shown> ledger; ///< by sequence
     AuthorizationStatus authorization = AuthorizationStatus::NotDetermined;
     std::int64_t last = 0;
+    bool hasLoss = false;
     Outcome readFailure;  ///< every read ends in it while it is set
     Outcome writeFailure; ///< every change ends in it while it is set
 };
@@ -26,9 +31,11 @@ public:
     Outcome remove(const std::vector<std::string>& identifiers) override;
     Outcome retire(const std::vector<std::int64_t>& sequences, const std::string& token,
                    Instant when) override;
-    bool wasShown(const std::string& token) override;
+    std::vector<std::string> shownIn(const std::string& token) override;
     Result<AuthorizationStatus> authorization() override;
     Outcome setAuthorization(AuthorizationStatus status) override;
+    Result<bool> hasLoss() override;
+    Outcome clearLoss() override;
 
 private:
     QueueDisk& disk_;

@@ -4,6 +4,7 @@
 #include "freedesktop/DesktopNotificationDisplay.h"
 #include "freedesktop/EventLoop.h"
 #include "freedesktop/FileWatch.h"
+#include "freedesktop/ProgramFile.h"
 #include "freedesktop/ReminderService.h"
 #include "freedesktop/SessionBus.h"
 #include "freedesktop/TimerfdAlarm.h"
@@ -13,6 +14,8 @@
 #include "standard/SystemClock.h"
 
 #include <unistd.h>
+
+#include <csignal>
 
 namespace {
 
@@ -37,8 +40,8 @@ Ending run(const std::filesystem::path& program, Console& console) {
     const IcuCalendar calendar(freedesktop::queueLocale);
     sqlite::SqliteNotificationQueue queue(freedesktop::reminderQueueFile(), console);
     freedesktop::DesktopNotificationDisplay display(bus.value());
-    freedesktop::TimerfdAlarm alarm(loop.value());
-    freedesktop::BusAppActivation app(bus.value(), console);
+    freedesktop::TimerfdAlarm alarm(loop.value(), console);
+    freedesktop::BusAppActivation app(bus.value(), console, freedesktop::siblingProgram("tessivo", "app"));
     ReminderEngine engine({queue, display, alarm, app, clock, calendar, console});
 
     bool hasBegun = false;
@@ -55,7 +58,9 @@ Ending run(const std::filesystem::path& program, Console& console) {
     const auto zoneWatch = freedesktop::watchFile(loop.value(), "/etc/localtime", processDue);
     const auto programWatch =
         freedesktop::watchFile(loop.value(), program, [&] { finishWith(Ending::Replaced); });
-    if (const auto error = loop.value().onTermination([&] { finishWith(Ending::Done); }))
+    if (const auto error = loop.value().onSignals({SIGTERM, SIGINT}, [&] { finishWith(Ending::Done); }))
+        console.print(error->description);
+    if (const auto error = loop.value().onSignals({SIGHUP}, [&] { finishWith(Ending::Replaced); }))
         console.print(error->description);
 
     freedesktop::ReminderService service(bus.value(), TESSIVO_VERSION,

@@ -5,10 +5,13 @@
 #include <sys/epoll.h>
 
 #include <csignal>
+#include <cstdint>
 #include <utility>
 
 namespace tessivo::freedesktop {
 namespace {
+
+constexpr std::uint64_t pollInterval = 30'000'000; // microseconds
 
 struct Watch {
     std::function<void()> ready;
@@ -45,15 +48,23 @@ Subscription EventLoop::watch(int descriptor, std::function<void()> ready) {
     return Subscription([watch = std::move(watch)]() mutable { watch.reset(); });
 }
 
-Outcome EventLoop::onTermination(std::function<void()> ended) {
-    ended_ = std::make_unique<std::function<void()>>(std::move(ended));
-    for (const int signal : {SIGTERM, SIGINT}) {
+Subscription EventLoop::poll(std::function<void()> work) {
+    const auto number = polls_->next++;
+    polls_->works.emplace(number, std::move(work));
+    polls_->hasNew = true;
+    return Subscription([polls = polls_, number] { polls->works.erase(number); });
+}
+
+Outcome EventLoop::onSignals(std::initializer_list<int> signals, std::function<void()> came) {
+    auto* handler =
+        signalHandlers_.emplace_back(std::make_unique<std::function<void()>>(std::move(came))).get();
+    for (const int signal : signals) {
         sigset_t blocked;
         sigemptyset(&blocked);
         sigaddset(&blocked, signal);
         pthread_sigmask(SIG_BLOCK, &blocked, nullptr);
         // Without a handle of its own the source lives as long as the loop.
-        if (const int status = sd_event_add_signal(event_.get(), nullptr, signal, signalCame, ended_.get());
+        if (const int status = sd_event_add_signal(event_.get(), nullptr, signal, signalCame, handler);
             status < 0)
             return busError("Signals cannot be watched", status);
     }
@@ -61,8 +72,24 @@ Outcome EventLoop::onTermination(std::function<void()> ended) {
 }
 
 int EventLoop::run() {
-    const int status = sd_event_loop(event_.get());
-    return status < 0 ? 1 : status;
+    while (sd_event_get_state(event_.get()) != SD_EVENT_FINISHED) {
+        const auto longestWait = polls_->works.empty()                  ? UINT64_MAX
+                                 : std::exchange(polls_->hasNew, false) ? 0
+                                                                        : pollInterval;
+        if (sd_event_run(event_.get(), longestWait) < 0)
+            return 1;
+        runPolls();
+    }
+    int code = 0;
+    return sd_event_get_exit_code(event_.get(), &code) < 0 ? 1 : code;
+}
+
+void EventLoop::runPolls() {
+    const auto works = polls_->works; // a copy: what they do may add and end some
+    for (const auto& [number, work] : works) {
+        if (polls_->works.contains(number))
+            work();
+    }
 }
 
 void EventLoop::quit(int exitCode) {

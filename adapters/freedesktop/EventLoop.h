@@ -5,7 +5,10 @@
 #include "freedesktop/Handles.h"
 
 #include <functional>
-#include <optional>
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <vector>
 
 namespace tessivo::freedesktop {
 
@@ -19,8 +22,12 @@ public:
     /// Calls `ready` whenever `descriptor` can be read, for as long as the handle is held.
     [[nodiscard]] Subscription watch(int descriptor, std::function<void()> ready);
 
-    /// Calls `ended` when the process is asked to end (SIGTERM, SIGINT) in place of ending it. One caller.
-    [[nodiscard]] Outcome onTermination(std::function<void()> ended);
+    /// Calls `work` soon, after whatever else wakes the loop, and at least every half minute, for as long as
+    /// the handle is held. Unlike a watch it needs nothing of the system.
+    [[nodiscard]] Subscription poll(std::function<void()> work);
+
+    /// Calls `came` when the process gets one of `signals`, which then do not end it.
+    [[nodiscard]] Outcome onSignals(std::initializer_list<int> signals, std::function<void()> came);
 
     /// Runs until `quit`, and returns its number; a lost bus connection quits too, with 1.
     int run();
@@ -29,10 +36,19 @@ public:
     [[nodiscard]] sd_event* handle() const { return event_.get(); }
 
 private:
+    struct Polls {
+        std::map<int, std::function<void()>> works;
+        int next = 0;
+        bool hasNew = false;
+    };
+
     explicit EventLoop(Owned<sd_event> event) : event_(std::move(event)) {}
 
+    void runPolls();
+
     Owned<sd_event> event_;
-    std::unique_ptr<std::function<void()>> ended_;
+    std::vector<std::unique_ptr<std::function<void()>>> signalHandlers_;
+    std::shared_ptr<Polls> polls_ = std::make_shared<Polls>();
 };
 
 } // namespace tessivo::freedesktop

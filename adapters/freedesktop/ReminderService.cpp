@@ -2,15 +2,19 @@
 
 #include "freedesktop/BusError.h"
 #include "freedesktop/BusNames.h"
+#include "freedesktop/ProgramFile.h"
 #include "freedesktop/SessionBus.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
+#include <cstdint>
 #include <utility>
 
 namespace tessivo::freedesktop {
 namespace {
+
+constexpr std::uint64_t longestAnswer = 5'000'000; // microseconds
 
 /// Takes the first part off `version`.
 int nextPart(std::string_view& version) {
@@ -106,14 +110,16 @@ void tellReminderHelper() {
     Owned<sd_bus> bus;
     if (take(bus, [](auto made) { return sd_bus_open_user(made); }) < 0)
         return;
-    Owned<sd_bus_message> message;
-    if (take(message, [&](auto made) {
-            return sd_bus_message_new_method_call(bus.get(), made, remindersName, remindersPath,
-                                                  remindersName, "QueueChanged");
-        }) < 0)
+    sd_bus_set_method_call_timeout(bus.get(), longestAnswer);
+    sd_bus_error error{};
+    const int status = sd_bus_call_method(bus.get(), remindersName, remindersPath, remindersName,
+                                          "QueueChanged", &error, nullptr, "");
+    const bool isUnknown = status < 0 && sd_bus_error_has_name(&error, SD_BUS_ERROR_SERVICE_UNKNOWN) != 0;
+    sd_bus_error_free(&error);
+    if (!isUnknown)
         return;
-    sd_bus_message_set_expect_reply(message.get(), 0);
-    sd_bus_send(bus.get(), message.get(), nullptr);
+    if (const auto helper = siblingProgram("tessivo-reminders", "reminders"); !helper.empty())
+        (void)startDetached(helper); // there is nobody to tell; the next change tries again
 }
 
 } // namespace tessivo::freedesktop

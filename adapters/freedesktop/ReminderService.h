@@ -52,8 +52,9 @@ private:
     Owned<sd_bus_slot> acquired_;
 };
 
-/// Tells the helper that the queue has changed, and starts it where it does not run and the desktop knows
-/// how. Does nothing without a session bus. Any thread; blocks for the moment that it takes to reach the bus.
+/// Tells the helper that the queue has changed, and starts it where it does not run: by way of the bus, or,
+/// where nothing is installed, from the build that this program is of. Does nothing without a session bus.
+/// Not for the main thread: it waits until the helper has answered.
 void tellReminderHelper();
 
 } // namespace tessivo::freedesktop

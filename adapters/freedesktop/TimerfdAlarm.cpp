@@ -1,13 +1,17 @@
 #include "freedesktop/TimerfdAlarm.h"
 
+#include "Ports/Console.h"
 #include "freedesktop/EventLoop.h"
 
 #include <sys/timerfd.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
+#include <cstring>
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace tessivo::freedesktop {
@@ -20,7 +24,8 @@ struct Alarm {
     Alarm& operator=(const Alarm&) = delete;
     ~Alarm() {
         watch.end();
-        ::close(descriptor);
+        if (descriptor >= 0)
+            ::close(descriptor);
     }
 
     int descriptor;
@@ -41,14 +46,24 @@ itimerspec oneShotAt(Instant due) {
 
 Subscription TimerfdAlarm::wakeAt(Instant due, std::function<void()> wake) {
     auto alarm = std::make_shared<Alarm>(::timerfd_create(CLOCK_REALTIME, TFD_CLOEXEC | TFD_NONBLOCK));
-    const auto spec = oneShotAt(due);
-    ::timerfd_settime(alarm->descriptor, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &spec, nullptr);
-    // Readable when it has rung, and when the clock was set: either is a reason to look.
-    alarm->watch = loop_.watch(alarm->descriptor, [alarm = std::weak_ptr(alarm), wake = std::move(wake)] {
+    const auto ring = [alarm = std::weak_ptr(alarm), wake = std::move(wake)] {
         if (const auto ringing = alarm.lock())
             ringing->watch.end();
         wake();
-    });
+    };
+    const auto spec = oneShotAt(due);
+    constexpr int flags = TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET;
+    if (::timerfd_settime(alarm->descriptor, flags, &spec, nullptr) == 0) {
+        // Readable when it has rung, and when the clock was set: either is a reason to look.
+        alarm->watch = loop_.watch(alarm->descriptor, ring);
+    } else {
+        console_.print(std::string("Reminders may come half a minute late: the system gives no timer (") +
+                       std::strerror(errno) + ")");
+        alarm->watch = loop_.poll([due, ring] {
+            if (std::chrono::system_clock::now() >= due)
+                ring();
+        });
+    }
     return Subscription([alarm = std::move(alarm)]() mutable { alarm.reset(); });
 }
 

@@ -2,20 +2,26 @@
 
 #include "Reminders/WallAlarm.h"
 
+namespace tessivo {
+class Console;
+}
+
 namespace tessivo::freedesktop {
 
 class EventLoop;
 
 /// The kernel's timer on the wall clock, which also rings when somebody sets the clock and when the machine
-/// resumes from a suspend. The loop must outlive it and its handles.
+/// resumes from a suspend. Where the kernel gives no timer, the console is told and the loop looks at the
+/// clock every half minute instead. Loop and console must outlive it and its handles.
 class TimerfdAlarm final : public WallAlarm {
 public:
-    explicit TimerfdAlarm(EventLoop& loop) : loop_(loop) {}
+    TimerfdAlarm(EventLoop& loop, Console& console) : loop_(loop), console_(console) {}
 
     [[nodiscard]] Subscription wakeAt(Instant due, std::function<void()> wake) override;
 
 private:
     EventLoop& loop_;
+    Console& console_;
 };
 
 } // namespace tessivo::freedesktop

@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusVariant>
 
 namespace tessivo {
 namespace {
@@ -14,6 +15,12 @@ const QString interfaceName = QStringLiteral("org.freedesktop.Application");
 QString activationToken(const QVariantMap& platformData) {
     const QString token = platformData.value(QStringLiteral("activation-token")).toString();
     return token.isEmpty() ? platformData.value(QStringLiteral("desktop-startup-id")).toString() : token;
+}
+
+/// A parameter may come inside a variant of its own.
+QString text(const QVariant& parameter) {
+    return parameter.canConvert<QDBusVariant>() ? parameter.value<QDBusVariant>().variant().toString()
+                                                : parameter.toString();
 }
 
 } // namespace
@@ -36,15 +43,16 @@ bool DesktopActivation::claim() {
 }
 
 void DesktopActivation::Activate(const QVariantMap& platformData) {
-    activated_(activationToken(platformData));
+    activated_({activationToken(platformData), {}, {}});
 }
 
 void DesktopActivation::Open(const QStringList&, const QVariantMap& platformData) {
-    activated_(activationToken(platformData));
+    Activate(platformData);
 }
 
-void DesktopActivation::ActivateAction(const QString&, const QVariantList&, const QVariantMap& platformData) {
-    activated_(activationToken(platformData));
+void DesktopActivation::ActivateAction(const QString& name, const QVariantList& parameters,
+                                       const QVariantMap& platformData) {
+    activated_({activationToken(platformData), name, parameters.isEmpty() ? QString() : text(parameters[0])});
 }
 
 } // namespace tessivo

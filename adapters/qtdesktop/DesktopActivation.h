@@ -16,8 +16,12 @@ class DesktopActivation final : public QObject {
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    /// Called with the desktop's permission to come to the front, empty where it gave none.
-    using Activated = std::function<void(const QString& activationToken)>;
+    struct Request {
+        QString activationToken; ///< the desktop's permission to come to the front; empty where it gave none
+        QString action;    ///< of the program's desktop entry, or what its helper asks for; may be empty
+        QString parameter; ///< of the action
+    };
+    using Activated = std::function<void(const Request& request)>;
 
     explicit DesktopActivation(Activated activated) : activated_(std::move(activated)) {}
 

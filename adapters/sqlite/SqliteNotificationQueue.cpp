@@ -2,6 +2,8 @@
 
 #include "Ports/Console.h"
 #include "sqlite/Database.h"
+#include "sqlite/QueueRows.h"
+#include "sqlite/SalvagedQueue.h"
 
 #include <sqlite3.h>
 
@@ -10,40 +12,15 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
+#include <map>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
 namespace tessivo::sqlite {
 namespace {
 
-constexpr Schema schema{0x54515545, 1, R"(
-    CREATE TABLE pending (
-        sequence INTEGER PRIMARY KEY AUTOINCREMENT,
-        identifier TEXT NOT NULL UNIQUE,
-        title TEXT NOT NULL,
-        body TEXT NOT NULL,
-        sound INTEGER NOT NULL,
-        repeats INTEGER NOT NULL,
-        year INTEGER, month INTEGER, day INTEGER, hour INTEGER, minute INTEGER, second INTEGER);
-    CREATE TABLE ledger (
-        sequence INTEGER PRIMARY KEY,
-        identifier TEXT NOT NULL,
-        token TEXT NOT NULL,
-        shown REAL NOT NULL);
-    CREATE INDEX ledgerByToken ON ledger (token);
-    CREATE TABLE permission (
-        only INTEGER PRIMARY KEY CHECK (only = 1),
-        status INTEGER NOT NULL);
-)"};
-
 constexpr int ledgerLength = 1000;
-
-using Field = std::optional<int> DateComponents::*;
-constexpr std::array<Field, 6> fields{&DateComponents::year,   &DateComponents::month,
-                                      &DateComponents::day,    &DateComponents::hour,
-                                      &DateComponents::minute, &DateComponents::second};
-constexpr int firstField = 5; ///< as a column, which count from 0, and as a parameter, which count from 1
 
 /// Another process that opens, or sets aside, a file of the same folder waits until this one is done.
 class OpeningLock final {
@@ -84,32 +61,6 @@ const Error* errorOf(const Result<Value>& result) {
     return result ? nullptr : &result.error();
 }
 
-QueuedRequest readRequest(const Statement& row) {
-    QueuedRequest queued;
-    queued.sequence = row.integer(0);
-    queued.request.identifier = row.text(1);
-    queued.request.content = {std::string(row.text(2)), std::string(row.text(3)), row.integer(4) != 0};
-    for (std::size_t index = 0; index < fields.size(); ++index) {
-        const int column = firstField + static_cast<int>(index);
-        if (!row.isNull(column))
-            queued.request.trigger.dateComponents.*fields[index] = static_cast<int>(row.integer(column));
-    }
-    queued.request.trigger.repeats = row.integer(firstField + static_cast<int>(fields.size())) != 0;
-    return queued;
-}
-
-void bindRequest(Statement& row, const NotificationRequest& request) {
-    row.bindText(1, std::string_view(request.identifier));
-    row.bindText(2, std::string_view(request.content.title));
-    row.bindText(3, std::string_view(request.content.body));
-    row.bindInteger(4, request.content.defaultSound ? 1 : 0);
-    for (std::size_t index = 0; index < fields.size(); ++index) {
-        if (const auto value = request.trigger.dateComponents.*fields[index])
-            row.bindInteger(firstField + static_cast<int>(index), *value);
-    }
-    row.bindInteger(firstField + static_cast<int>(fields.size()), request.trigger.repeats ? 1 : 0);
-}
-
 } // namespace
 
 /// The open file.
@@ -127,19 +78,18 @@ public:
             return version.error();
         if (pending_ && version.value() == pendingVersion_)
             return pending_;
-        auto row = database_.prepare(
-            "SELECT sequence, identifier, title, body, sound, year, month, day, hour, minute, second, repeats"
-            " FROM pending ORDER BY sequence");
-        if (!row)
-            return row.error();
+        const auto rows = statement(selectRequests);
+        if (!rows)
+            return rows.error();
+        const ResetOnExit reset(*rows.value());
         QueuedRequests requests;
         for (;;) {
-            const auto step = row.value().step();
+            const auto step = rows.value()->step();
             if (step == Step::Failed)
-                return row.value().error();
+                return rows.value()->error();
             if (step == Step::Done)
                 break;
-            requests.push_back(readRequest(row.value()));
+            requests.push_back(readRequest(*rows.value()));
         }
         pending_ = std::make_shared<const QueuedRequests>(std::move(requests));
         pendingVersion_ = version.value();
@@ -147,10 +97,7 @@ public:
     }
 
     Outcome add(const NotificationRequest& request) {
-        return write(
-            "INSERT OR REPLACE INTO pending (identifier, title, body, sound, year, month, day, hour, minute,"
-            " second, repeats) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-            [&](Statement& row) { bindRequest(row, request); });
+        return write(insertRequest, [&](Statement& row) { bindRequest(row, request); });
     }
 
     Outcome remove(const std::vector<std::string>& identifiers) {
@@ -176,13 +123,43 @@ public:
         });
     }
 
-    bool wasShown(const std::string& token) {
-        auto row = database_.prepare("SELECT 1 FROM ledger WHERE token = ?");
-        if (!row || token.empty())
-            return false;
-        row.value().bindText(1, std::string_view(token));
-        return row.value().step() == Step::Row;
+    Result<std::vector<std::string>> shownIn(const std::string& token) {
+        const auto rows =
+            statement("SELECT identifier FROM ledger WHERE token = ? AND token <> '' ORDER BY sequence");
+        if (!rows)
+            return rows.error();
+        const ResetOnExit reset(*rows.value());
+        rows.value()->bindText(1, std::string_view(token));
+        std::vector<std::string> identifiers;
+        while (rows.value()->step() == Step::Row)
+            identifiers.emplace_back(rows.value()->text(0));
+        return identifiers;
     }
+
+    /// Takes over what was saved of a damaged file, and notes that the rest may be missing.
+    Outcome takeOver(const SalvagedQueue& salvaged) {
+        return inTransaction([&]() -> Outcome {
+            for (const auto& queued : salvaged.requests) {
+                if (auto error = write(insertRequest, [&](Statement& row) {
+                        bindRequest(row, queued.request, queued.sequence);
+                    }))
+                    return error;
+            }
+            if (auto error = setAuthorization(salvaged.authorization))
+                return error;
+            return database_.execute("CREATE TABLE IF NOT EXISTS loss (only INTEGER PRIMARY KEY)");
+        });
+    }
+
+    // The table is there only as long as there is a loss to make good.
+    Result<bool> hasLoss() {
+        const auto tables = number("SELECT count(*) FROM sqlite_schema WHERE name = 'loss'");
+        if (!tables)
+            return tables.error();
+        return tables.value() != 0;
+    }
+
+    Outcome clearLoss() { return database_.execute("DROP TABLE IF EXISTS loss"); }
 
     Result<AuthorizationStatus> authorization() {
         const auto status = number("SELECT coalesce((SELECT status FROM permission), 0)");
@@ -211,22 +188,33 @@ private:
     }
 
     Result<std::int64_t> number(const char* sql) {
-        auto row = database_.prepare(sql);
+        const auto row = statement(sql);
         if (!row)
             return row.error();
-        if (row.value().step() != Step::Row)
-            return row.value().error();
-        return row.value().integer(0);
+        const ResetOnExit reset(*row.value());
+        if (row.value()->step() != Step::Row)
+            return row.value()->error();
+        return row.value()->integer(0);
     }
 
     template <class Bind>
     Outcome write(const char* sql, Bind bind) {
         pending_.reset();
-        auto row = database_.prepare(sql);
+        const auto row = statement(sql);
         if (!row)
             return row.error();
-        bind(row.value());
-        return row.value().run();
+        bind(*row.value());
+        return row.value()->run();
+    }
+
+    /// Prepared at its first use. `sql` is a literal.
+    Result<Statement*> statement(const char* sql) {
+        if (const auto found = statements_.find(sql); found != statements_.end())
+            return &found->second;
+        auto prepared = database_.prepare(sql);
+        if (!prepared)
+            return prepared.error();
+        return &statements_.emplace(sql, std::move(prepared.value())).first->second;
     }
 
     template <class Changes>
@@ -240,6 +228,7 @@ private:
     }
 
     Database database_;
+    std::map<std::string_view, Statement> statements_;
     std::pair<dev_t, ino_t> identity_;
     std::shared_ptr<const QueuedRequests> pending_; ///< as last read; null when it is out of date
     std::int64_t pendingVersion_ = 0;
@@ -267,9 +256,9 @@ Outcome SqliteNotificationQueue::retire(const std::vector<std::int64_t>& sequenc
     return withSession([&](Session& session) { return session.retire(sequences, token, when); });
 }
 
-bool SqliteNotificationQueue::wasShown(const std::string& token) {
-    const auto shown = withSession([&](Session& session) -> Result<bool> { return session.wasShown(token); });
-    return shown && shown.value();
+std::vector<std::string> SqliteNotificationQueue::shownIn(const std::string& token) {
+    auto shown = withSession([&](Session& session) { return session.shownIn(token); });
+    return shown ? std::move(shown.value()) : std::vector<std::string>();
 }
 
 Result<AuthorizationStatus> SqliteNotificationQueue::authorization() {
@@ -278,6 +267,14 @@ Result<AuthorizationStatus> SqliteNotificationQueue::authorization() {
 
 Outcome SqliteNotificationQueue::setAuthorization(AuthorizationStatus status) {
     return withSession([&](Session& session) { return session.setAuthorization(status); });
+}
+
+Result<bool> SqliteNotificationQueue::hasLoss() {
+    return withSession([](Session& session) { return session.hasLoss(); });
+}
+
+Outcome SqliteNotificationQueue::clearLoss() {
+    return withSession([](Session& session) { return session.clearLoss(); });
 }
 
 template <class Work>
@@ -302,23 +299,34 @@ Outcome SqliteNotificationQueue::open() {
     // A sound file may look damaged for the moment in which another process writes it.
     constexpr int attempts = 3;
     for (int attempt = 1;; ++attempt) {
-        auto database = Database::open(file_, schema);
+        auto database = Database::open(file_, queueSchema);
         if (database) {
             session_ = std::make_unique<Session>(std::move(database.value()), file_);
             return {};
         }
         if (!isDamage(database.error()))
             return database.error();
-        if (attempt == attempts) {
-            if (auto error = setAside(database.error()))
-                return error;
-        } else if (attempt > attempts) {
-            return database.error();
-        }
+        if (attempt == attempts)
+            return replace(database.error());
     }
 }
 
-Outcome SqliteNotificationQueue::setAside(const Error& damage) const {
+Outcome SqliteNotificationQueue::replace(const Error& damage) {
+    const auto aside = setAside();
+    if (!aside)
+        return aside.error();
+    const auto salvaged = salvageQueue(aside.value());
+    console_.print("The queue of reminders is damaged (" + damage.description + "). It was set aside as \"" +
+                   aside.value().string() + "\", and a new one was begun with the " +
+                   std::to_string(salvaged.requests.size()) + " reminders that can be read.");
+    auto database = Database::open(file_, queueSchema);
+    if (!database)
+        return database.error();
+    session_ = std::make_unique<Session>(std::move(database.value()), file_);
+    return session_->takeOver(salvaged);
+}
+
+Result<std::filesystem::path> SqliteNotificationQueue::setAside() const {
     std::filesystem::path aside;
     for (int number = 1; aside.empty() || exists(aside); ++number)
         aside = file_.string() + ".damaged-" + std::to_string(number);
@@ -330,9 +338,7 @@ Outcome SqliteNotificationQueue::setAside(const Error& damage) const {
             return Error{"SQLite", SQLITE_CANTOPEN,
                          "Cannot set aside \"" + file_.string() + "\": " + error.message()};
     }
-    console_.print("The queue of reminders is damaged (" + damage.description + "). It was set aside as \"" +
-                   aside.string() + "\", and a new one has been begun.");
-    return {};
+    return aside;
 }
 
 } // namespace tessivo::sqlite

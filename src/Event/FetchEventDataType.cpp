@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstddef>
+#include <utility>
 
 namespace tessivo {
 namespace {
@@ -43,8 +44,7 @@ FetchEventDataType::FetchEventDataType(EventStore& store, CoreDataStack& shared,
 void FetchEventDataType::refreshEvents() {
     const auto fullFormatter = formatters_.make(fullFormat);
     const auto dateFormatter = formatters_.make(dateFormat);
-    const ReminderPass pass{*fullFormatter, *dateFormatter, clock_.now(),
-                            std::make_shared<std::atomic<double>>(0)};
+    ReminderPass pass(*fullFormatter, *dateFormatter, clock_.now());
 
     CoreDataStack reading(store_, console_);
     for (const auto& event : reading.fetchEvents()) {
@@ -56,14 +56,15 @@ void FetchEventDataType::refreshEvents() {
         if (!event->eventType())
             reminders_.refreshPastReminder(*event, pass);
     }
+    reminders_.finishPass(std::move(pass));
 }
 
-void FetchEventDataType::rollFutureEvent(EventCoreData& event, const ReminderPass& pass) {
+void FetchEventDataType::rollFutureEvent(EventCoreData& event, ReminderPass& pass) {
     const auto eventDate =
         eventDateOf(event.dateEvent(), event.timeEvent(), pass.fullFormatter, pass.dateFormatter);
     if (!eventDate)
         return;
-    pass.lastEventDate->store(secondsSince1970(*eventDate));
+    pass.lastEventDate = *eventDate;
     if (!isPast(*eventDate, pass.now))
         return;
     if (event.repEvent() == 0)

@@ -23,11 +23,11 @@ public:
                        Console& console);
 
     /// Makes one pass. A repeating event rolls on by one step: one that has lain still for a week catches up
-    /// over as many passes. Future events whose dates do not read are left out silently.
+    /// over as many passes. Future events whose dates cannot be parsed are left out silently.
     void refreshEvents();
 
 private:
-    void rollFutureEvent(EventCoreData& event, const ReminderPass& pass);
+    void rollFutureEvent(EventCoreData& event, ReminderPass& pass);
     void moveToPast(EventCoreData& event);
     void rollOn(EventCoreData& event, const ReminderPass& pass);
 

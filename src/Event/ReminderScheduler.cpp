@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <span>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 
 namespace tessivo {
@@ -32,6 +33,7 @@ constexpr std::string_view recreatedLine[] = {"уведомление ПЕРЕс
 constexpr ReminderSite wizardFinish{false, false, wizardLines, false};
 constexpr ReminderSite rolledEvent{false, false, createdLine, true};
 constexpr ReminderSite recreatedPast{false, false, recreatedLine, true};
+constexpr ReminderSite restoredEvent{false, false, {}, false};
 constexpr ReminderSite editedDateAndTime{true, false, createdLine, false};
 constexpr ReminderSite editedReminder{true, false, createdLine, false};
 
@@ -48,16 +50,6 @@ const NotificationRequest* find(const std::vector<NotificationRequest>& requests
 }
 
 } // namespace
-
-struct ReminderScheduler::Details {
-    std::string identifier;
-    NotificationContent content;
-    std::optional<std::string> dateEvent;
-    std::optional<std::string> timeEvent;
-    std::int16_t alertReminder = NO_VALUE;
-    std::int16_t repReminder = NO_VALUE;
-    bool isFuture = false;
-};
 
 ReminderScheduler::ReminderScheduler(NotificationCenter& center, const Calendar& calendar,
                                      const DateFormatters& formatters, const Clock& clock, Console& console)
@@ -79,27 +71,35 @@ void ReminderScheduler::renewRolledReminder(const EventCoreData& event) {
     add(makeRequest(detailsOf(event), rolledEvent), rolledEvent);
 }
 
-void ReminderScheduler::refreshPastReminder(const EventCoreData& event, const ReminderPass& pass) {
+void ReminderScheduler::refreshPastReminder(const EventCoreData& event, ReminderPass& pass) {
     if (event.repReminder() == NO_VALUE)
         return;
     const auto eventDate =
         tessivo::eventDateOf(event.dateEvent(), event.timeEvent(), pass.fullFormatter, pass.dateFormatter);
     if (!eventDate)
-        console_.stopProgram("The date of a past event does not read");
-    pass.lastEventDate->store(secondsSince1970(*eventDate));
-    if (!event.id())
+        console_.stopProgram("The date of a past event cannot be parsed");
+    pass.lastEventDate = *eventDate;
+    if (event.id())
+        pass.pastEvents.push_back(detailsOf(event));
+}
+
+void ReminderScheduler::finishPass(ReminderPass pass) {
+    if (pass.pastEvents.empty())
         return;
     center_.getPendingNotificationRequests(
-        [this, details = detailsOf(event), now = pass.now,
+        [this, events = std::move(pass.pastEvents), now = pass.now,
          date = pass.lastEventDate](const std::vector<NotificationRequest>& pending) {
-            recreatePastReminder(details, now, instantAt(date->load()), pending);
+            std::unordered_set<std::string_view> identifiers;
+            for (const auto& request : pending)
+                identifiers.insert(request.identifier);
+            for (const auto& details : events) {
+                if (!identifiers.contains(details.identifier))
+                    recreatePastReminder(details, now, date);
+            }
         });
 }
 
-void ReminderScheduler::recreatePastReminder(const Details& details, Instant now, Instant eventDate,
-                                             const std::vector<NotificationRequest>& pending) {
-    if (find(pending, details.identifier) != nullptr)
-        return;
+void ReminderScheduler::recreatePastReminder(const ReminderDetails& details, Instant now, Instant eventDate) {
     const auto components = repeatComponents(eventDate, details.repReminder, now, calendar_, console_);
     add({details.identifier, details.content, {components, recreatedPast.pastRepeats}}, recreatedPast);
 }
@@ -113,7 +113,7 @@ void ReminderScheduler::editDateAndTime(const EventCoreData& event) {
     remakePending(details);
 }
 
-void ReminderScheduler::remakePending(const Details& details) {
+void ReminderScheduler::remakePending(const ReminderDetails& details) {
     center_.getPendingNotificationRequests([this, details](const std::vector<NotificationRequest>& pending) {
         if (find(pending, details.identifier) == nullptr)
             return;
@@ -152,6 +152,22 @@ void ReminderScheduler::editTitle(const EventCoreData& event) {
         });
 }
 
+void ReminderScheduler::restoreReminders(const std::vector<std::shared_ptr<EventCoreData>>& events) {
+    std::vector<NotificationRequest> requests;
+    for (const auto& event : events) {
+        const bool reminds = event->eventType() && event->alertReminder() != NO_VALUE && event->id();
+        if (reminds && parsedDateOf(detailsOf(*event)))
+            requests.push_back(makeRequest(detailsOf(*event), restoredEvent));
+    }
+    center_.getPendingNotificationRequests(
+        [this, requests = std::move(requests)](const std::vector<NotificationRequest>& pending) {
+            for (const auto& request : requests) {
+                if (find(pending, request.identifier) == nullptr)
+                    add(request, restoredEvent);
+            }
+        });
+}
+
 void ReminderScheduler::removeReminder(const std::optional<Uuid>& id) {
     if (!id)
         return;
@@ -166,14 +182,14 @@ void ReminderScheduler::removeReminder(const std::optional<Uuid>& id) {
         });
 }
 
-ReminderScheduler::Details ReminderScheduler::detailsOf(const EventCoreData& event) {
+ReminderDetails ReminderScheduler::detailsOf(const EventCoreData& event) {
     return {event.id()->uuidString(), {event.title().value_or(""), event.remMess().value_or(""), true},
             event.dateEvent(),        event.timeEvent(),
             event.alertReminder(),    event.repReminder(),
             event.eventType()};
 }
 
-ReminderScheduler::Details ReminderScheduler::detailsOf(const EventItem& item) {
+ReminderDetails ReminderScheduler::detailsOf(const EventItem& item) {
     return {item.id->uuidString(),
             {item.title.value_or(""), item.remMess.value_or(""), true},
             item.dateEvent,
@@ -183,15 +199,20 @@ ReminderScheduler::Details ReminderScheduler::detailsOf(const EventItem& item) {
             item.eventType.value_or(false)};
 }
 
-Instant ReminderScheduler::eventDateOf(const Details& details) const {
-    const auto date = tessivo::eventDateOf(details.dateEvent, details.timeEvent,
-                                           *formatters_.make(fullFormat), *formatters_.make(dateFormat));
+std::optional<Instant> ReminderScheduler::parsedDateOf(const ReminderDetails& details) const {
+    return tessivo::eventDateOf(details.dateEvent, details.timeEvent, *formatters_.make(fullFormat),
+                                *formatters_.make(dateFormat));
+}
+
+Instant ReminderScheduler::eventDateOf(const ReminderDetails& details) const {
+    const auto date = parsedDateOf(details);
     if (!date)
-        console_.stopProgram("The date of an event that reminds does not read");
+        console_.stopProgram("The date of an event that reminds cannot be parsed");
     return *date;
 }
 
-NotificationRequest ReminderScheduler::makeRequest(const Details& details, const ReminderSite& site) const {
+NotificationRequest ReminderScheduler::makeRequest(const ReminderDetails& details,
+                                                   const ReminderSite& site) const {
     const auto eventDate = eventDateOf(details);
     if (details.isFuture) {
         const auto components = alertComponents(eventDate, details.alertReminder, calendar_, console_);

@@ -105,6 +105,14 @@ void MainViewController::settingButtonTapped() {
         present(std::move(settings));
 }
 
+void MainViewController::scrollToEvent(const Uuid& id) {
+    if (!records)
+        return;
+    const auto found = std::ranges::find_if(*records, [&](const auto& row) { return row->id() == id; });
+    if (found != records->end())
+        collection.scrollToItem(static_cast<int>(found - records->begin()));
+}
+
 int MainViewController::numberOfItems(ui::CollectionView&) {
     EventRows rows = services().coreDataStack().fetchEvents();
     const bool future = type == ListType::Future;

@@ -46,6 +46,8 @@ public:
     [[nodiscard]] std::string screenName() const override { return "MainViewController"; }
 
     void settingButtonTapped();
+    /// Brings the event's card into view; one that the list does not hold changes nothing.
+    void scrollToEvent(const Uuid& id);
 
     [[nodiscard]] int numberOfItems(ui::CollectionView& collectionView) override;
     [[nodiscard]] std::shared_ptr<ui::CollectionViewCell> cellForItem(ui::CollectionView& collectionView,

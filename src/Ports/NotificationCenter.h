@@ -60,8 +60,9 @@ public:
         std::function<void(const std::vector<NotificationRequest>&)> completion) = 0;
 
     /// Queues the request on disk; one with the same identifier is replaced. Fails while the user denies
-    /// notifications, on components that name no moment, and where the queue cannot be written. A moment gone
-    /// by fires at once.
+    /// notifications, on components that name no moment, and where the queue cannot be written. A moment that
+    /// has gone by when the request is added never fires: the request is not pending, and neither is the one
+    /// that it replaces. One that comes while no program runs is shown at the next start.
     virtual void add(NotificationRequest request, std::function<void(Outcome error)> completion) = 0;
 
     /// Takes the requests of these identifiers from the queue; unknown ones are ignored.

@@ -43,11 +43,17 @@ public:
     [[nodiscard]] virtual Outcome retire(const std::vector<std::int64_t>& sequences, const std::string& token,
                                          Instant when) = 0;
 
-    /// Whether the ledger knows a notification of that token. A queue that cannot be read knows none.
-    [[nodiscard]] virtual bool wasShown(const std::string& token) = 0;
+    /// The identifiers of the requests that were shown in the notification of that token, in the order of
+    /// adding; none where the ledger knows no such notification or cannot be read.
+    [[nodiscard]] virtual std::vector<std::string> shownIn(const std::string& token) = 0;
 
     [[nodiscard]] virtual Result<AuthorizationStatus> authorization() = 0;
     [[nodiscard]] virtual Outcome setAuthorization(AuthorizationStatus status) = 0;
+
+    /// Whether requests may have been lost with a damaged queue. That stands, over restarts too, until
+    /// `clearLoss` says that it has been made good.
+    [[nodiscard]] virtual Result<bool> hasLoss() = 0;
+    [[nodiscard]] virtual Outcome clearLoss() = 0;
 };
 
 } // namespace tessivo

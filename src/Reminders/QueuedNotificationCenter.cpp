@@ -1,5 +1,6 @@
 #include "Reminders/QueuedNotificationCenter.h"
 
+#include "Ports/Clock.h"
 #include "Ports/MainQueue.h"
 #include "Ports/WorkQueue.h"
 
@@ -82,6 +83,29 @@ void QueuedNotificationCenter::setAuthorization(bool granted) {
     });
 }
 
+void QueuedNotificationCenter::begin(std::function<void()> restore) {
+    post([this, restore = std::move(restore)] {
+        helperMustKnow_ = true;
+        const auto loss = machine_.queue.hasLoss();
+        if (!loss || !loss.value())
+            return;
+        machine_.mainQueue.post([restore, self = std::weak_ptr(self_)] {
+            const auto center = self.lock();
+            if (!center)
+                return;
+            restore();
+            (*center)->clearLoss();
+        });
+    });
+}
+
+// A second turn: by then the completions of what was asked before have asked for their own share.
+void QueuedNotificationCenter::clearLoss() {
+    post([this] {
+        post([this] { (void)machine_.queue.clearLoss(); }); // a failure leaves it to the next start
+    });
+}
+
 void QueuedNotificationCenter::getNotificationSettings(std::function<void(AuthorizationStatus)> completion) {
     post([this, completion = std::move(completion)] {
         const auto status = machine_.queue.authorization();
@@ -119,6 +143,8 @@ Outcome QueuedNotificationCenter::addToQueue(const NotificationRequest& request)
     if (!components)
         return centerError(2, "There is no such date");
     helperMustKnow_ = true;
+    if (machine_.queueCalendar.date(*components) < machine_.clock.now())
+        return machine_.queue.remove({request.identifier});
     auto queued = request;
     queued.trigger.dateComponents = *components;
     return machine_.queue.add(queued);

@@ -11,6 +11,7 @@
 
 namespace tessivo {
 
+class Clock;
 class MainQueue;
 class WorkQueue;
 
@@ -34,6 +35,7 @@ public:
         /// the process was started in.
         const Calendar& queueCalendar;
         MainQueue& mainQueue;
+        const Clock& clock;
     };
 
     /// `work` is used for nothing else. `queueChanged` tells the helper and is called as part of that work.
@@ -56,6 +58,11 @@ public:
     /// The user's answer, given or changed outside the question.
     void setAuthorization(bool granted);
 
+    /// The program has started: tells the helper, which is started by that where it does not run. Calls
+    /// `restore` on the main thread if requests were lost with a damaged queue: what it asks of this center,
+    /// and what the completions ask in turn, makes the loss good.
+    void begin(std::function<void()> restore);
+
     /// Does all that was asked so far, completions and what they ask included, and then nothing more. To be
     /// called while all that completions reach still stands.
     void finish();
@@ -65,6 +72,7 @@ private:
 
     void post(std::function<void()> work);
     void ask();
+    void clearLoss();
     [[nodiscard]] Outcome addToQueue(const NotificationRequest& request);
     [[nodiscard]] const std::vector<NotificationRequest>& pendingRequests();
 

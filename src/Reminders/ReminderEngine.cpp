@@ -31,15 +31,13 @@ QueuedRequests joined(QueuedRequests first, const QueuedRequests& second) {
 ReminderEngine::ReminderEngine(Machine machine)
     : machine_(machine),
       retryDelay_(firstRetryDelay),
-      displayEvents_(
-          machine_.display.listen({[this] {
-                                       retryDelay_ = firstRetryDelay;
-                                       processDue();
-                                   },
-                                   [this](const std::string& token, const std::string& activation) {
-                                       if (machine_.queue.wasShown(token))
-                                           machine_.app.activate(activation);
-                                   }})) {}
+      displayEvents_(machine_.display.listen(
+          {[this] {
+               retryDelay_ = firstRetryDelay;
+               processDue();
+           },
+           [this](const std::string& token, const std::string& activation) { opened(token, activation); }})) {
+}
 
 void ReminderEngine::processDue() {
     if (finished_)
@@ -59,6 +57,12 @@ void ReminderEngine::processDue() {
     else
         showDue(std::move(due));
     setAlarm();
+}
+
+void ReminderEngine::opened(const std::string& token, const std::string& activation) {
+    const auto shown = machine_.queue.shownIn(token);
+    if (!shown.empty())
+        machine_.app.activate(activation, shown.size() == 1 ? std::optional(shown.front()) : std::nullopt);
 }
 
 void ReminderEngine::finish(std::function<void()> done) {

@@ -63,6 +63,7 @@ private:
     [[nodiscard]] bool isTaken(std::int64_t sequence) const;
     void showDue(Due due);
     void show(const Notice& notice, const QueuedRequests& requests);
+    void opened(const std::string& token, const std::string& activation);
     void answered(std::vector<std::int64_t> sequences, const Result<std::string>& token);
     void passUnseen(const Due& due);
     void writeLedger();

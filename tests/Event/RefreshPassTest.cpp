@@ -178,7 +178,9 @@ TEST_F(RefreshPassTest, AllPastRemindersOfAPassAreReckonedFromTheDateOfItsLastRo
     }
     const auto early = add(first);
     const auto late = add(second);
-    refresh();
+    pass.refreshEvents();
+    EXPECT_EQ(center.waiting(), 1U) << "one look at the queue, after the last row";
+    center.run();
     EXPECT_EQ(reminderOf(early), (DateComponents{2027, 1, 16, 5, 0, 0}));
     EXPECT_EQ(reminderOf(late), (DateComponents{2027, 1, 16, 5, 0, 0}));
 }

@@ -5,6 +5,8 @@
 #include "fakes/Timeline.h"
 
 #include <memory>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace tessivo {
@@ -80,9 +82,11 @@ private:
 
 class FakeAppActivation final : public AppActivation {
 public:
-    void activate(const std::string& activation) override { activations.push_back(activation); }
+    void activate(const std::string& activation, const std::optional<std::string>& event) override {
+        activations.emplace_back(activation, event);
+    }
 
-    std::vector<std::string> activations;
+    std::vector<std::pair<std::string, std::optional<std::string>>> activations;
 };
 
 } // namespace tessivo

@@ -30,7 +30,7 @@ protected:
 
     void start(const Calendar& device, const Calendar& inQueue) {
         center.emplace(
-            QueuedNotificationCenter::Machine{queue, device, inQueue, line},
+            QueuedNotificationCenter::Machine{queue, device, inQueue, line, line},
             std::make_unique<ThreadWorkQueue>(),
             [this](auto answer) { questions.push_back(std::move(answer)); }, [this] { ++timesTold; });
     }
@@ -83,7 +83,6 @@ INSTANTIATE_TEST_SUITE_P(Cases, ComponentsTest,
                                          ComponentsCase{
                                              "TheLastSecondOfADay", {2027, 1, 31, 23, 59, 59}, true},
                                          ComponentsCase{"LeapDay", {2028, 2, 29, 0, 0, {}}, true},
-                                         ComponentsCase{"GoneBy", {1999, 1, 1, 0, 0, {}}, true},
                                          ComponentsCase{"SkippedByTheClocks", {2027, 3, 14, 2, 30, {}}, true},
                                          ComponentsCase{"NoLeapYear", {2027, 2, 29, 0, 0, {}}, false},
                                          ComponentsCase{"MonthZero", {2027, 0, 1, 0, 0, {}}, false},
@@ -110,6 +109,19 @@ TEST_F(QueuedNotificationCenterTest, AnotherCalendarsDaysGoIntoTheQueueInItsOwn)
     EXPECT_EQ(disk.pending->front().request.trigger.dateComponents, (DateComponents{2027, 3, 21, 0, 30, {}}));
 }
 
+// The line stands at 8:00:00 UTC on 15 January 2027.
+TEST_F(QueuedNotificationCenterTest, AMomentGoneByNeverFiresAndTakesTheRequestThatItReplacesAlong) {
+    const DateComponents thisMinute{2027, 1, 15, 3, 0, {}};
+    EXPECT_EQ(add(request("a", thisMinute)), std::nullopt);
+    EXPECT_EQ(identifiers(), std::vector<std::string>{"a"}) << "its moment is now";
+    line.setWall(line.now() + Seconds(1));
+    EXPECT_EQ(add(request("b", thisMinute)), std::nullopt);
+    EXPECT_EQ(add(request("a", thisMinute)), std::nullopt);
+    EXPECT_TRUE(identifiers().empty());
+    EXPECT_EQ(add(request("a")), std::nullopt);
+    EXPECT_EQ(identifiers(), std::vector<std::string>{"a"});
+}
+
 TEST_F(QueuedNotificationCenterTest, CompletionsStayOffTheMainThread) {
     std::promise<std::thread::id> thread;
     center->getNotificationSettings(
@@ -133,6 +145,30 @@ TEST_F(QueuedNotificationCenterTest, TellsTheHelperOnceWhenTheWorkIsDoneAndNotFo
     center->finish();
     EXPECT_EQ(timesTold, 1);
     EXPECT_THAT(identifiers(), ElementsAre("b", "c"));
+}
+
+TEST_F(QueuedNotificationCenterTest, ALossIsMadeGoodOnceAndTheHelperIsToldAtEachStart) {
+    disk.hasLoss = true;
+    int restored = 0;
+    const auto restore = [&] {
+        ++restored;
+        center->getPendingNotificationRequests([&](const auto&) {
+            center->add(request("a"), [&](const Outcome&) { EXPECT_TRUE(disk.hasLoss); });
+        });
+    };
+    for (int programStart = 1; programStart <= 2; ++programStart) {
+        start(calendar, queueCalendar);
+        center->begin(restore);
+        std::promise<void> done;
+        center->getNotificationSettings([&](AuthorizationStatus) { done.set_value(); });
+        done.get_future().wait();
+        line.runPosted();
+        center->finish();
+        EXPECT_EQ(timesTold, programStart + 1) << "at the start, and of the change";
+    }
+    EXPECT_EQ(restored, 1);
+    EXPECT_THAT(identifiers(), ElementsAre("a"));
+    EXPECT_FALSE(disk.hasLoss);
 }
 
 TEST_F(QueuedNotificationCenterTest, FinishDoesAlsoWhatCompletionsAskFor) {
@@ -206,6 +242,7 @@ TEST_F(QueuedNotificationCenterTest, ThePassAndItsAnswersRunBesideEachOther) {
         EventItem item;
         item.title = std::to_string(number);
         item.dateEvent = "0" + std::to_string(1 + number % 9) + " January 2027";
+        item.timeEvent = std::to_string(1 + number % 11) + ":00 AM";
         item.repEvent = static_cast<std::int16_t>(number % 2);
         item.alertReminder = 0;
         item.repReminder = 0;
@@ -226,10 +263,15 @@ TEST_F(QueuedNotificationCenterTest, ThePassAndItsAnswersRunBesideEachOther) {
     center->finish();
     // Which title a request ends with hangs on who answered last; that each event has exactly one does not.
     std::set<std::string> identifiers;
+    std::set<std::optional<int>> hoursOfPastReminders;
     for (const auto& queued : *disk.pending) {
+        const auto& fields = queued.request.trigger.dateComponents;
+        if (fields.second) // to the second: of a past event
+            hoursOfPastReminders.insert(fields.hour);
         identifiers.insert(queued.request.identifier);
         EXPECT_THAT(queued.request.content.title, testing::StartsWith("title of minute"));
     }
+    EXPECT_EQ(hoursOfPastReminders.size(), 1U) << "all were reckoned from the last row of the pass";
     EXPECT_EQ(disk.pending->size(), static_cast<std::size_t>(events));
     EXPECT_EQ(identifiers.size(), static_cast<std::size_t>(events));
 }

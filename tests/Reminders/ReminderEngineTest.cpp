@@ -15,6 +15,8 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Optional;
+using testing::Pair;
 
 constexpr Seconds minute{60};
 constexpr Seconds hour{3600};
@@ -256,7 +258,17 @@ TEST_F(ReminderEngineTest, AClickOnItsOwnNotificationOpensTheAppAlsoAfterARestar
     restart();
     process->display.open("of-another-program", "x");
     process->display.open(desktop.shown.at(0).token, "permission");
-    EXPECT_THAT(app.activations, ElementsAre("permission"));
+    EXPECT_THAT(app.activations, ElementsAre(Pair("permission", Optional<std::string>("clicked"))));
+}
+
+TEST_F(ReminderEngineTest, AClickOnAGroupOpensTheAppWithoutAnEvent) {
+    for (int number = 0; number < 6; ++number)
+        add(std::to_string(number), minute);
+    line.advance(2 * day);
+    start();
+    line.advance(Seconds(0.1));
+    process->display.open(desktop.shown.at(0).token, "");
+    EXPECT_THAT(app.activations, ElementsAre(Pair("", testing::Eq(std::nullopt))));
 }
 
 TEST_F(ReminderEngineTest, HandsOverOnlyWhenTheLedgerIsWritten) {

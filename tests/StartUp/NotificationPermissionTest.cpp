@@ -26,10 +26,9 @@ TEST_F(PermissionTest, TheQuestionWaitsForTheSlideToEnd) {
     EXPECT_EQ(program.stack().screens().size(), 2U);
     program.settle();
     auto& question = program.top<ui::AlertController>();
-    question.cancel();
-    EXPECT_EQ(&question, program.stack().top()) << "it wants an answer";
-    question.choose(1);
-    EXPECT_THAT(answers, ElementsAre(true));
+    question.cancel(); // Escape
+    EXPECT_NE(&question, program.stack().top());
+    EXPECT_THAT(answers, ElementsAre(false));
 }
 
 TEST_F(PermissionTest, QuestionsFollowOneAnother) {

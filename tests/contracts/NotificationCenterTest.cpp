@@ -64,12 +64,12 @@ public:
     }
 
 private:
-    fakes::Timeline line_;
+    fakes::Timeline line_{instantAt(1'790'000'000)};
     fakes::OffsetCalendar calendar_;
     fakes::QueueDisk disk_;
     fakes::FakeNotificationQueue queue_{disk_};
     std::function<void(bool)> answer_;
-    QueuedNotificationCenter center_{{queue_, calendar_, calendar_, line_},
+    QueuedNotificationCenter center_{{queue_, calendar_, calendar_, line_, line_},
                                      std::make_unique<ThreadWorkQueue>(),
                                      [this](auto answer) { answer_ = std::move(answer); },
                                      [] {}};

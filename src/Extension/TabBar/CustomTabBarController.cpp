@@ -1,5 +1,6 @@
 #include "Extension/TabBar/CustomTabBarController.h"
 
+#include "Event/EventCoreData.h"
 #include "Event/FetchEventDataType.h"
 #include "Extension/TabTitleColors.h"
 #include "MainVC/MainViewController.h"
@@ -67,6 +68,13 @@ void CustomTabBarController::addEvent() {
     wizard->modalPresentationStyle = ui::PresentationStyle::Custom;
     wizard->transitioningDelegate = weakSelf<ui::TransitioningDelegate>(this);
     present(std::move(wizard));
+}
+
+void CustomTabBarController::showEvent(const EventCoreData& event) {
+    setSelectedIndex(event.eventType() ? 1 : 0);
+    applySelectedTitleColors(tabBar);
+    if (auto* list = dynamic_cast<MainViewController*>(selectedViewController()); list && event.id())
+        list->scrollToEvent(*event.id());
 }
 
 } // namespace tessivo

@@ -7,6 +7,8 @@
 
 namespace tessivo {
 
+class EventCoreData;
+
 /// The two lists, Past and Future, with the floating button that adds an event. Every flow that ends in the
 /// lists ends in a new one of these, over all that stood.
 class CustomTabBarController final : public ui::TabBarController,
@@ -20,6 +22,8 @@ public:
     [[nodiscard]] std::string screenName() const override { return "CustomTabBarController"; }
 
     void addEvent();
+    /// Shows the list that holds the event, scrolled to its card.
+    void showEvent(const EventCoreData& event);
     /// The tabs themselves need nothing at a change of tab; the lists do.
     void didSelectViewController(ui::TabBarController&, ui::ViewController&) override {}
 

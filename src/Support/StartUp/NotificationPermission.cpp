@@ -19,7 +19,7 @@ void NotificationPermission::ask(std::function<void(bool)> answered) {
     const auto question = std::make_shared<ui::AlertController>(
         stack_.window(), ui::AlertStyle::Alert, "“Tessivo” Would Like to Send You Notifications",
         "Notifications remind you of your events.");
-    question->addAction({"Don’t Allow", ui::AlertActionStyle::Default, [answered] { answered(false); }});
+    question->addAction({"Don’t Allow", ui::AlertActionStyle::Cancel, [answered] { answered(false); }});
     question->addAction({"Allow", ui::AlertActionStyle::Default, [answered] { answered(true); }});
     show(question);
 }

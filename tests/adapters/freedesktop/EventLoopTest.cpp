@@ -1,11 +1,14 @@
 #include "freedesktop/EventLoop.h"
 
+#include "fakes/RecordingConsole.h"
 #include "freedesktop/FileWatch.h"
 #include "freedesktop/TimerfdAlarm.h"
 #include "standard/SystemClock.h"
 #include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+
+#include <sys/resource.h>
 
 #include <csignal>
 #include <fstream>
@@ -23,10 +26,11 @@ protected:
 
     Result<EventLoop> loop = EventLoop::make();
     SystemClock clock;
+    fakes::RecordingConsole console;
 };
 
 TEST_F(EventLoopTest, AnAlarmRingsOnceWhenItsMomentHasComeAndNotBefore) {
-    TimerfdAlarm alarm(loop.value());
+    TimerfdAlarm alarm(loop.value(), console);
     const auto due = clock.now() + Seconds(0.02);
     Instant rung;
     const auto handle = alarm.wakeAt(due, [&] {
@@ -38,7 +42,7 @@ TEST_F(EventLoopTest, AnAlarmRingsOnceWhenItsMomentHasComeAndNotBefore) {
 }
 
 TEST_F(EventLoopTest, AlarmsForMomentsGoneByRingAtOnceAndDroppedOnesNever) {
-    TimerfdAlarm alarm(loop.value());
+    TimerfdAlarm alarm(loop.value(), console);
     int past = 0;
     int ancient = 0;
     int dropped = 0;
@@ -56,7 +60,7 @@ TEST_F(EventLoopTest, AlarmsForMomentsGoneByRingAtOnceAndDroppedOnesNever) {
 }
 
 TEST_F(EventLoopTest, AnAlarmMayBeSetAnewWhileItRings) {
-    TimerfdAlarm alarm(loop.value());
+    TimerfdAlarm alarm(loop.value(), console);
     Subscription handle;
     int rings = 0;
     std::function<void()> again = [&] {
@@ -67,6 +71,35 @@ TEST_F(EventLoopTest, AnAlarmMayBeSetAnewWhileItRings) {
     for (int turn = 0; turn < 100 && rings < 3; ++turn)
         sd_event_run(loop.value().handle(), 100'000);
     EXPECT_EQ(rings, 3);
+}
+
+/// Until its end the process gets no more descriptors.
+class DescriptorShortage {
+public:
+    DescriptorShortage() {
+        ::getrlimit(RLIMIT_NOFILE, &before_);
+        auto none = before_;
+        none.rlim_cur = 0;
+        ::setrlimit(RLIMIT_NOFILE, &none);
+    }
+    DescriptorShortage(const DescriptorShortage&) = delete;
+    DescriptorShortage& operator=(const DescriptorShortage&) = delete;
+    ~DescriptorShortage() { ::setrlimit(RLIMIT_NOFILE, &before_); }
+
+private:
+    rlimit before_{};
+};
+
+TEST_F(EventLoopTest, WithoutATimerTheClockIsLookedAtInsteadAndTheConsoleIsTold) {
+    TimerfdAlarm alarm(loop.value(), console);
+    const DescriptorShortage shortage;
+    int dropped = 0;
+    const auto far = alarm.wakeAt(clock.now() + Seconds(3600), [] { FAIL(); });
+    alarm.wakeAt(clock.now(), [&] { ++dropped; }).end();
+    const auto due = alarm.wakeAt(clock.now(), [&] { loop.value().quit(7); });
+    EXPECT_EQ(loop.value().run(), 7);
+    EXPECT_EQ(dropped, 0);
+    EXPECT_THAT(console.lines(), testing::Each(testing::HasSubstr("half a minute late")));
 }
 
 TEST_F(EventLoopTest, AWatchedFileIsHeardOfWhenItIsReplacedOrWritten) {
@@ -103,7 +136,7 @@ TEST_F(EventLoopTest, AWatchedLinkIsHeardOfWhenItPointsElsewhere) {
 }
 
 TEST_F(EventLoopTest, TheLoopIsToldToEndInPlaceOfTheProcess) {
-    ASSERT_EQ(loop.value().onTermination([&] { loop.value().quit(3); }), std::nullopt);
+    ASSERT_EQ(loop.value().onSignals({SIGTERM}, [&] { loop.value().quit(3); }), std::nullopt);
     std::raise(SIGTERM);
     EXPECT_EQ(loop.value().run(), 3);
 }

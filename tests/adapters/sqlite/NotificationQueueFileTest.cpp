@@ -41,6 +41,7 @@ protected:
         SqliteNotificationQueue queue(file, console);
         for (int number = 0; number < 50; ++number)
             ASSERT_EQ(queue.add(request(std::to_string(number))), std::nullopt);
+        ASSERT_EQ(queue.setAuthorization(AuthorizationStatus::Denied), std::nullopt);
     }
 
     TemporaryFolder folder;
@@ -51,11 +52,12 @@ protected:
 struct DamageCase {
     const char* name;
     std::function<void(const std::filesystem::path&)> damage;
+    std::size_t leastSaved; ///< of the 50 requests
 };
 
 class DamagedQueueTest : public NotificationQueueFileTest, public testing::WithParamInterface<DamageCase> {};
 
-TEST_P(DamagedQueueTest, IsSetAsideAndANewOneIsBegun) {
+TEST_P(DamagedQueueTest, IsSetAsideAndWhatCanBeReadGoesIntoANewOne) {
     fill();
     GetParam().damage(file);
     const auto damaged = contents(file);
@@ -63,22 +65,46 @@ TEST_P(DamagedQueueTest, IsSetAsideAndANewOneIsBegun) {
     SqliteNotificationQueue queue(file, console);
     const auto pending = queue.pending();
     ASSERT_TRUE(pending) << pending.error().description;
-    EXPECT_THAT(*pending.value(), SizeIs(0));
+    EXPECT_GE(pending.value()->size(), GetParam().leastSaved);
+    EXPECT_LT(pending.value()->size(), 50U);
+    for (const auto& queued : *pending.value())
+        EXPECT_EQ(queued.request, request(std::to_string(queued.sequence - 1)));
+    if (GetParam().leastSaved > 0) {
+        EXPECT_EQ(queue.authorization().value(), AuthorizationStatus::Denied);
+    }
+    const auto saved = pending.value()->size();
     EXPECT_EQ(queue.add(request("new")), std::nullopt);
-    EXPECT_THAT(*queue.pending().value(), SizeIs(1));
+    EXPECT_THAT(*queue.pending().value(), SizeIs(saved + 1));
 
     EXPECT_EQ(contents(file.string() + ".damaged-1"), damaged);
     ASSERT_THAT(console.lines(), SizeIs(1));
     EXPECT_THAT(console.lines()[0], HasSubstr(file.string() + ".damaged-1"));
+
+    EXPECT_TRUE(SqliteNotificationQueue(file, console).hasLoss().value());
+    EXPECT_EQ(queue.clearLoss(), std::nullopt);
+    EXPECT_FALSE(SqliteNotificationQueue(file, console).hasLoss().value());
+}
+
+/// Overwrites the page that holds the words of the request of that number.
+void spoilPageOf(const std::filesystem::path& file, int number) {
+    constexpr std::streamoff page = 4096;
+    const auto at = contents(file).find(std::to_string(number) + "Title" + std::string(300, 'w'));
+    ASSERT_NE(at, std::string::npos);
+    overwrite(file, static_cast<std::streamoff>(at) / page * page, std::string(page, '\xff'));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, DamagedQueueTest,
-    testing::Values(DamageCase{"Garbage",
-                               [](const auto& file) { std::ofstream(file) << std::string(5000, 'x'); }},
-                    DamageCase{"CutOff", [](const auto& file) { std::filesystem::resize_file(file, 9000); }},
-                    DamageCase{"OverwrittenPages",
-                               [](const auto& file) { overwrite(file, 4096, std::string(8192, '\xff')); }}),
+    testing::Values(
+        DamageCase{"Garbage", [](const auto& file) { std::ofstream(file) << std::string(5000, 'x'); }, 0},
+        DamageCase{"CutOff", [](const auto& file) { std::filesystem::resize_file(file, 9000); }, 0},
+        DamageCase{"OnePage", [](const auto& file) { spoilPageOf(file, 25); }, 35},
+        DamageCase{"TwoPages",
+                   [](const auto& file) {
+                       spoilPageOf(file, 2);
+                       spoilPageOf(file, 25);
+                   },
+                   22}),
     [](const auto& test) { return test.param.name; });
 
 TEST_F(NotificationQueueFileTest, EachDamagedFileKeepsItsName) {
@@ -127,9 +153,9 @@ TEST_F(NotificationQueueFileTest, TheLedgerForgetsItsOldestEntries) {
     ASSERT_EQ(database.value().execute("UPDATE sqlite_sequence SET seq = 1000 WHERE name = 'pending'"),
               std::nullopt);
     show("last");
-    EXPECT_FALSE(queue.wasShown("first"));
-    EXPECT_TRUE(queue.wasShown("second"));
-    EXPECT_TRUE(queue.wasShown("last"));
+    EXPECT_THAT(queue.shownIn("first"), SizeIs(0));
+    EXPECT_THAT(queue.shownIn("second"), SizeIs(1));
+    EXPECT_THAT(queue.shownIn("last"), SizeIs(1));
 }
 
 /// Runs `work` in a process of its own, which it may leave only by being killed or with its end.
