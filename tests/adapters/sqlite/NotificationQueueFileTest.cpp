@@ -174,6 +174,15 @@ int waitFor(pid_t process) {
     return status;
 }
 
+/// On a busy machine another process may hold the file for longer than a change waits; the change then fails
+/// whole, and is made again.
+Outcome persistently(const std::function<Outcome()>& change) {
+    Outcome outcome = change();
+    for (int attempt = 1; outcome && attempt < 20; ++attempt)
+        outcome = change();
+    return outcome;
+}
+
 TEST_F(NotificationQueueFileTest, TwoProcessesMayOpenAndWriteAtOnce) {
     constexpr int each = 150;
     std::vector<pid_t> writers;
@@ -181,7 +190,7 @@ TEST_F(NotificationQueueFileTest, TwoProcessesMayOpenAndWriteAtOnce) {
         writers.push_back(runInProcess([&] {
             SqliteNotificationQueue queue(file, console);
             for (int number = 0; number < each; ++number) {
-                if (queue.add(request(name + std::to_string(number))))
+                if (persistently([&] { return queue.add(request(name + std::to_string(number))); }))
                     ::_exit(1);
             }
         }));
@@ -192,7 +201,8 @@ TEST_F(NotificationQueueFileTest, TwoProcessesMayOpenAndWriteAtOnce) {
         const auto pending = helper.pending();
         ASSERT_TRUE(pending) << pending.error().description;
         for (const auto& queued : *pending.value()) {
-            ASSERT_EQ(helper.retire({queued.sequence}, "t", instantAt(0)), std::nullopt);
+            ASSERT_EQ(persistently([&] { return helper.retire({queued.sequence}, "t", instantAt(0)); }),
+                      std::nullopt);
             retired.insert(queued.request.identifier);
         }
     };
