@@ -2,8 +2,8 @@
 
 #include "Ports/Console.h"
 #include "bridge/BridgeContext.h"
-#include "bridge/CellScope.h"
 #include "bridge/IconProvider.h"
+#include "bridge/Pressable.h"
 #include "bridge/ShadowProvider.h"
 #include "bridge/WindowItem.h"
 
@@ -34,7 +34,7 @@ Shell::~Shell() = default;
 void Shell::open() {
     QQmlApplicationEngine& engine = parts_->engine;
     qml_register_types_Tessivo();
-    CellScope::makeAccessible();
+    Pressable::makeAccessible();
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
     engine.addImageProvider(QStringLiteral("shadow"), new ShadowProvider);
@@ -42,6 +42,7 @@ void Shell::open() {
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tessivo/Main.qml")));
     if (!window())
         parts_->context.console.stopProgram("The window cannot be drawn.");
+    window()->installEventFilter(&parts_->window);
 }
 
 QQuickWindow* Shell::window() const {

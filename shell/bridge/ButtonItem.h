@@ -1,7 +1,10 @@
 #pragma once
 
 #include "Interface/Button.h"
+#include "bridge/MenuItem.h"
 #include "bridge/ViewItem.h"
+
+#include <memory>
 
 namespace tessivo::shell {
 
@@ -19,7 +22,9 @@ class ButtonItem final : public ViewItem {
 
 public:
     ButtonItem(ui::Button& button, const BridgeContext& context, QObject* parent)
-        : ViewItem(button, context, parent), button_(button) {}
+        : ViewItem(button, context, parent),
+          button_(button),
+          menuRequests_(button.onMenuRequest([this] { openMenu(); })) {}
 
     [[nodiscard]] QString title() const { return QString::fromStdString(button_.title()); }
     [[nodiscard]] QString image() const { return QString::fromStdString(button_.imageName()); }
@@ -37,8 +42,19 @@ public:
     Q_INVOKABLE void releaseInside() { button_.press(ui::PressEvent::UpInside); }
     Q_INVOKABLE void releaseOutside() { button_.press(ui::PressEvent::UpOutside); }
 
+Q_SIGNALS:
+    /// The menu stays until the next one opens.
+    void menuOpened(tessivo::shell::MenuItem* menu);
+
 private:
+    void openMenu() {
+        menu_ = std::make_unique<MenuItem>(button_.menu(), this);
+        Q_EMIT menuOpened(menu_.get());
+    }
+
     ui::Button& button_;
+    std::unique_ptr<MenuItem> menu_;
+    Subscription menuRequests_;
 };
 
 } // namespace tessivo::shell

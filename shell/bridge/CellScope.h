@@ -1,33 +1,31 @@
 #pragma once
 
 #include "bridge/CollectionItem.h"
+#include "bridge/Pressable.h"
 
 #include <QPointer>
-#include <QQuickItem>
 
 namespace tessivo::shell {
 
-/// The drawing of a cell: one stop of the keyboard and one button for assistive technology, which finds the
-/// cell's further acts as actions of that button. The attached `Accessible` still says whether it is one.
-class CellScope : public QQuickItem {
+/// The drawing of a cell: one stop of the keyboard and one thing to press for assistive technology, which
+/// finds the cell's further acts as actions of it. Its touches are the collection's.
+class CellScope : public Pressable {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(tessivo::shell::CellItem* cell READ cell WRITE setCell NOTIFY cellChanged FINAL REQUIRED)
 
 public:
-    explicit CellScope(QQuickItem* parent = nullptr) : QQuickItem(parent) { setFlag(ItemIsFocusScope); }
+    explicit CellScope(QQuickItem* parent = nullptr) : Pressable(parent) { setFlag(ItemIsFocusScope); }
 
     /// Null once the program's cell has gone.
     [[nodiscard]] CellItem* cell() const { return cell_; }
     void setCell(CellItem* cell);
 
-    /// Lets assistive technology see cells as said above. Once in a program, before any is drawn.
-    static void makeAccessible();
+    [[nodiscard]] QStringList actionNames() const override;
+    void act(const QString& name) override;
 
 Q_SIGNALS:
     void cellChanged();
-    /// Assistive technology presses the cell.
-    void pressed();
 
 private:
     QPointer<CellItem> cell_;

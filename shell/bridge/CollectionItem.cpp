@@ -176,7 +176,7 @@ void CollectionItem::closeSwipes() {
 
 bool CollectionItem::openMenu(int item, double x, double y) {
     const auto delegate = collection_.delegate.lock();
-    if (!delegate)
+    if (!delegate || !collection_.takesActs())
         return false;
     auto menu = delegate->contextMenuForItem(collection_, item, {x, y});
     if (!menu)

@@ -39,7 +39,10 @@ public:
     /// What can be done with the cell besides tapping it, by name.
     [[nodiscard]] QStringList actionNames() const;
     /// Does the first of that name; nothing where there is none.
-    Q_INVOKABLE void act(const QString& name) { cell_->performAccessibilityAction(name.toStdString()); }
+    Q_INVOKABLE void act(const QString& name) {
+        if (cell_->takesActs())
+            cell_->performAccessibilityAction(name.toStdString());
+    }
     /// What stands in the content without a name of its own.
     [[nodiscard]] QList<LooseViewItem*> attached() const { return attached_; }
     void show(int item);
@@ -103,6 +106,7 @@ class CollectionItem final : public ViewItem {
     Q_PROPERTY(tessivo::shell::CellModel* cells READ cells CONSTANT FINAL)
     Q_PROPERTY(double contentWidth READ contentWidth NOTIFY contentChanged FINAL)
     Q_PROPERTY(double contentHeight READ contentHeight NOTIFY contentChanged FINAL)
+    Q_PROPERTY(int itemCount READ itemCount NOTIFY contentChanged FINAL)
     Q_PROPERTY(double footInset READ footInset NOTIFY contentChanged FINAL)
 
 public:
@@ -110,6 +114,7 @@ public:
 
     [[nodiscard]] ui::CollectionView& view() const { return collection_; }
     [[nodiscard]] CellModel* cells() { return &cells_; }
+    [[nodiscard]] int itemCount() const { return collection_.numberOfItems(); }
     [[nodiscard]] double contentWidth() const { return collection_.contentSize().width; }
     [[nodiscard]] double contentHeight() const { return collection_.contentSize().height; }
 

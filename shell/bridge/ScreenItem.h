@@ -20,6 +20,8 @@ class ScreenItem : public QObject {
     Q_PROPERTY(Kind kind READ kind CONSTANT FINAL)
     Q_PROPERTY(double sheetHeight READ sheetHeight CONSTANT FINAL)
     Q_PROPERTY(tessivo::shell::ViewItem* view READ view CONSTANT FINAL)
+    Q_PROPERTY(bool takesActs READ takesActs NOTIFY takesActsChanged FINAL)
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
 
 public:
     /// How the screen stands on the window.
@@ -40,7 +42,17 @@ public:
 
     Q_INVOKABLE tessivo::shell::ViewItem* control(const QString& name) { return controls_.control(name); }
     /// The user drags a sheet away, or leaves it by a tap beside it or a key.
-    Q_INVOKABLE void dismiss() { screen_->dismiss(); }
+    Q_INVOKABLE void dismiss() {
+        if (takesActs())
+            screen_->dismiss();
+    }
+    /// Whether the user's acts are for this screen now.
+    [[nodiscard]] bool takesActs() const { return screen_->takesActs(); }
+    /// What assistive technology calls the screen; empty where its heading says it.
+    [[nodiscard]] virtual QString title() { return view()->accessibleName(); }
+
+Q_SIGNALS:
+    void takesActsChanged();
 
 protected:
     ScreenItem(std::shared_ptr<ui::ViewController> screen, const BridgeContext& context, QObject* parent);
@@ -58,7 +70,6 @@ class AlertItem final : public ScreenItem {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Alerts belong to the program")
-    Q_PROPERTY(QString title READ title CONSTANT FINAL)
     Q_PROPERTY(QString message READ message CONSTANT FINAL)
     Q_PROPERTY(QList<tessivo::shell::AlertChoice> choices READ choices CONSTANT FINAL)
 
@@ -66,7 +77,7 @@ public:
     AlertItem(std::shared_ptr<ui::AlertController> alert, const BridgeContext& context, QObject* parent)
         : ScreenItem(alert, context, parent), alert_(*alert) {}
 
-    [[nodiscard]] QString title() const { return QString::fromStdString(alert_.title()); }
+    [[nodiscard]] QString title() override { return QString::fromStdString(alert_.title()); }
     [[nodiscard]] QString message() const { return QString::fromStdString(alert_.message()); }
     [[nodiscard]] QList<AlertChoice> choices() const;
     Q_INVOKABLE void choose(int index) { alert_.choose(static_cast<std::size_t>(index)); }

@@ -70,7 +70,8 @@ void StackModel::update() {
         rows_.insert(rows_.begin() + index, ScreenItem::make(wanted[row], context_, this));
         endInsertRows();
     }
-    Q_EMIT slidingChanged();
+    for (ScreenItem* row : rows_)
+        Q_EMIT row->takesActsChanged();
 }
 
 } // namespace tessivo::shell

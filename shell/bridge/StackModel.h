@@ -19,7 +19,6 @@ class StackModel final : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Screens belong to the program")
-    Q_PROPERTY(bool sliding READ sliding NOTIFY slidingChanged FINAL)
 
 public:
     enum Role { Screen = Qt::UserRole };
@@ -30,11 +29,6 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-    /// While screens slide, touches are for none of them.
-    [[nodiscard]] bool sliding() const { return stack_.isInTransition(); }
-
-Q_SIGNALS:
-    void slidingChanged();
 
 private:
     [[nodiscard]] std::vector<std::shared_ptr<ui::ViewController>> drawn() const;

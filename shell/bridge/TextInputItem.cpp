@@ -1,5 +1,7 @@
 #include "bridge/TextInputItem.h"
 
+#include <utility>
+
 namespace tessivo::shell {
 
 QString TextInputItem::placeholder() const {
@@ -11,6 +13,11 @@ void TextInputItem::edit(const QString& text) {
     const std::string wanted = text.toStdString();
     if (wanted != input_.text() && !input_.editTo(wanted))
         Q_EMIT refused();
+}
+
+void TextInputItem::followEditing() {
+    if (std::exchange(wasEditing_, input_.isEditing()) && !wasEditing_)
+        Q_EMIT keyboardDismissed();
 }
 
 void TextInputItem::pressReturn() {

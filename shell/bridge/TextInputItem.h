@@ -21,7 +21,9 @@ class TextInputItem final : public ViewItem {
 
 public:
     TextInputItem(ui::TextInput& input, const BridgeContext& context, QObject* parent)
-        : ViewItem(input, context, parent), input_(input) {}
+        : ViewItem(input, context, parent), input_(input) {
+        connect(this, &ViewItem::contentChanged, this, &TextInputItem::followEditing);
+    }
 
     [[nodiscard]] QString text() const { return QString::fromStdString(input_.text()); }
     [[nodiscard]] QString placeholder() const;
@@ -42,8 +44,13 @@ public:
 
 Q_SIGNALS:
     void refused();
+    /// The program puts the keyboard away.
+    void keyboardDismissed();
 
 private:
+    void followEditing();
+
+    bool wasEditing_ = false;
     ui::TextInput& input_;
 };
 

@@ -7,6 +7,7 @@
 #include "Interface/Switch.h"
 #include "bridge/ViewItem.h"
 
+#include <QElapsedTimer>
 #include <QStringList>
 
 namespace tessivo::shell {
@@ -64,9 +65,17 @@ public:
     Q_INVOKABLE int selectedRow(int wheel) const;
     Q_INVOKABLE bool wraps(int wheel) const;
     Q_INVOKABLE void turn(int wheel, int row) { picker_.turn(static_cast<std::size_t>(wheel), row); }
+    /// The user types on a wheel: it turns to the row that is, or begins with, what was typed without a
+    /// longer pause. Says whether it was something to type.
+    Q_INVOKABLE bool type(int wheel, const QString& characters);
 
 private:
+    [[nodiscard]] int rowFor(int wheel, const QString& typed) const;
+
     ui::DatePicker& picker_;
+    int typedWheel_ = -1;
+    QString typed_;
+    QElapsedTimer sinceTyped_;
 };
 
 class ActivityItem final : public ViewItem {

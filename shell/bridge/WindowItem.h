@@ -15,6 +15,8 @@ class WindowItem final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("There is one window")
     Q_PROPERTY(tessivo::shell::StackModel* stack READ stack CONSTANT FINAL)
+    Q_PROPERTY(bool large READ large NOTIFY sizeChanged FINAL)
+    Q_PROPERTY(bool keysInUse READ keysInUse NOTIFY keysInUseChanged FINAL)
 
 public:
     WindowItem(ui::PresentationStack& stack, const BridgeContext& context)
@@ -22,10 +24,17 @@ public:
 
     [[nodiscard]] StackModel* stack() { return &stack_; }
 
+    /// Whether the screen counts as a large one.
+    [[nodiscard]] bool large() const { return screen_.isLarge(); }
+    /// Whether the user's last act was a key: only then do controls show which one the keyboard is on.
+    [[nodiscard]] bool keysInUse() const { return keysInUse_; }
+
     /// The portrait screen has this size now.
     Q_INVOKABLE void resize(double width, double height, double scale) {
-        if (width > 0 && height > 0)
-            screen_.resize({width, height}, scale);
+        if (width <= 0 || height <= 0)
+            return;
+        screen_.resize({width, height}, scale);
+        Q_EMIT sizeChanged();
     }
 
     /// The on-screen keyboard covers so much of the screen's foot now.
@@ -36,10 +45,19 @@ public:
         return context_.color(ui::ColorRef::named(name.toStdString()));
     }
 
+Q_SIGNALS:
+    void sizeChanged();
+    void keysInUseChanged();
+
+public:
+    /// Watches the window's input events.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     ui::MainScreen& screen_;
     const BridgeContext& context_;
     StackModel stack_;
+    bool keysInUse_ = false;
 };
 
 } // namespace tessivo::shell

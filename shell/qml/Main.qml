@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 import Tessivo
 
 // The window: a portrait screen, centred on a calm backdrop where the window is wider than tall.
@@ -49,11 +48,6 @@ Window {
                 width: stage.width
                 height: stage.height
             }
-        }
-        MouseArea { // touches are for no screen while two of them slide
-            anchors.fill: parent
-            z: 1000
-            visible: window.item.stack.sliding
         }
     }
 

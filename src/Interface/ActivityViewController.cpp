@@ -20,6 +20,7 @@ ActivityViewController::ActivityViewController(WindowContext& window, PictureSha
                                                std::shared_ptr<const Bitmap> picture)
     : ViewController(window), sharing_(sharing), picture_(std::move(picture)) {
     modalPresentationStyle = PresentationStyle::ActionSheet;
+    view().setAccessibilityName("Share");
     preview.setImage({"", picture_});
     preview.setContentMode(ContentMode::AspectFit);
     preview.setAccessibilityName("The picture to share");

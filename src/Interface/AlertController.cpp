@@ -12,7 +12,7 @@ AlertController::AlertController(WindowContext& window, AlertStyle style, std::s
 }
 
 void AlertController::choose(std::size_t index) {
-    if (index >= actions_.size())
+    if (index >= actions_.size() || !takesActs())
         return;
     const auto handler = actions_[index].handler;
     dismiss();

@@ -26,7 +26,7 @@ public:
     void addAction(AlertAction action) { actions_.push_back(std::move(action)); }
 
     /// The user answers: the alert goes, then the answer's handler is called. An index beyond the actions
-    /// does nothing.
+    /// does nothing, nor does a second answer.
     void choose(std::size_t index);
     /// The user taps beside it: the cancel action where there is one, otherwise nothing.
     void cancel();

@@ -1,5 +1,7 @@
 #include "Interface/Button.h"
 
+#include <utility>
+
 namespace tessivo::ui {
 
 void Button::setTitle(std::string title) {
@@ -42,6 +44,11 @@ void Button::setMenu(Menu menu) {
     notify(ViewChange::Content);
 }
 
+void Button::setShowsMenuAsPrimaryAction(bool shows) {
+    showsMenuAsPrimaryAction_ = shows;
+    notify(ViewChange::Content);
+}
+
 void Button::addTarget(PressEvent event, std::function<void()> target) {
     presses_.add([event, target = std::move(target)](PressEvent happened) {
         if (happened == event)
@@ -50,7 +57,17 @@ void Button::addTarget(PressEvent event, std::function<void()> target) {
 }
 
 void Button::press(PressEvent event) {
-    if (enabled_)
+    const bool wasDown = std::exchange(isDown_, event == PressEvent::Down);
+    if (!enabled_ || !takesActs()) {
+        // A press that has begun is let go of, so that nothing keeps looking pressed.
+        if (wasDown && event != PressEvent::Down)
+            presses_.emit(PressEvent::UpOutside);
+        isDown_ = false;
+        return;
+    }
+    if (event == PressEvent::UpInside && showsMenuAsPrimaryAction_)
+        menuRequests_.emit();
+    else
         presses_.emit(event);
 }
 

@@ -27,17 +27,24 @@ public:
     void setDisabledTitleColor(ColorRef color);
     [[nodiscard]] bool isEnabled() const { return enabled_; }
     void setEnabled(bool enabled);
-    /// A tap opens this menu in place of calling the tap targets.
     [[nodiscard]] const Menu& menu() const { return menu_; }
     void setMenu(Menu menu);
+    /// Whether letting go on the button opens its menu, and calls no UpInside target. Off at first.
+    [[nodiscard]] bool showsMenuAsPrimaryAction() const { return showsMenuAsPrimaryAction_; }
+    void setShowsMenuAsPrimaryAction(bool shows);
 
-    /// Called at each such event while the button is enabled, in the order of adding.
+    /// Called at each such event while the button takes acts, in the order of adding.
     void addTarget(PressEvent event, std::function<void()> target);
 
     /// The user presses, lets go on the button, or lets go beside it.
     void press(PressEvent event);
     /// Down and up inside in one: a tap, a key, an accessibility press.
     void tap();
+
+    /// Called when the button asks the window to open its menu.
+    [[nodiscard]] Subscription onMenuRequest(std::function<void()> requested) {
+        return menuRequests_.subscribe(std::move(requested));
+    }
 
 private:
     std::string title_;
@@ -48,7 +55,10 @@ private:
     ColorRef disabledTitleColor_ = ColorRef::named("disabled");
     Menu menu_;
     Signal<PressEvent> presses_;
+    Signal<> menuRequests_;
     bool enabled_ = true;
+    bool showsMenuAsPrimaryAction_ = false;
+    bool isDown_ = false; ///< pressed, and not let go of yet
 };
 
 } // namespace tessivo::ui

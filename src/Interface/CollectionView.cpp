@@ -215,7 +215,7 @@ void CollectionView::scrollToItem(int item) {
 }
 
 void CollectionView::tapItem(int item) {
-    if (item < 0 || item >= count_)
+    if (item < 0 || item >= count_ || !takesActs())
         return;
     const auto told = delegate.lock();
     if (allowsMultipleSelection && selected_.contains(item)) {

@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tessivo::ui {
 
@@ -24,7 +25,12 @@ public:
 
     [[nodiscard]] const std::map<std::string, View*, std::less<>>& all() const { return controls_; }
 
+    /// Whether the user's acts are for these controls now, where the owner has said how to tell.
+    [[nodiscard]] bool takesActs() const { return !takesActs_ || takesActs_(); }
+    void setTakesActs(std::function<bool()> takesActs) { takesActs_ = std::move(takesActs); }
+
 private:
+    std::function<bool()> takesActs_;
     std::map<std::string, View*, std::less<>> controls_;
 };
 

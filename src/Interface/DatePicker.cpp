@@ -32,7 +32,7 @@ DatePicker::Wheel DatePicker::wheel(std::size_t index) const {
 }
 
 void DatePicker::turn(std::size_t wheelIndex, int row) {
-    if (wheelIndex >= wheelCount())
+    if (wheelIndex >= wheelCount() || !takesActs())
         return;
     const auto turned = wheel(wheelIndex);
     if (row == turned.selected || row < 0 || static_cast<std::size_t>(row) >= turned.rows.size())
@@ -58,6 +58,8 @@ void DatePicker::turn(std::size_t wheelIndex, int row) {
 }
 
 void DatePicker::pick(Instant date) {
+    if (!takesActs())
+        return;
     setDate(date);
     targets_.emit();
 }

@@ -23,7 +23,7 @@ Point GestureRecognizer::locationIn(const View& view) const {
 }
 
 bool GestureRecognizer::mayBegin() {
-    if (!enabled_)
+    if (!enabled_ || (view_ && !view_->takesActs()))
         return false;
     const auto asked = delegate.lock();
     return !asked || asked->gestureRecognizerShouldBegin(*this);

@@ -18,6 +18,8 @@ public:
 
     /// The user's change: turns it over and calls the value-changed targets.
     void toggle() {
+        if (!takesActs())
+            return;
         setOn(!on_);
         targets_.emit();
     }

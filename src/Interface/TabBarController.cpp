@@ -37,7 +37,7 @@ void TabBarController::setSelectedIndex(std::size_t index) {
 }
 
 void TabBarController::select(std::size_t index) {
-    if (index >= screens_.size())
+    if (index >= screens_.size() || !takesActs())
         return;
     setSelectedIndex(index);
     if (const auto told = delegate.lock())

@@ -32,6 +32,8 @@ void TextInput::setTextInsets(Insets insets) {
 }
 
 bool TextInput::edit(TextRange range, const std::string& replacement) {
+    if (!takesActs())
+        return false;
     if (const auto asked = delegate.lock(); asked && !asked->shouldChangeText(*this, range, replacement))
         return false;
     setText(replacing(text_, range, replacement));
@@ -57,7 +59,7 @@ bool TextInput::editTo(const std::string& text) {
 }
 
 void TextInput::beginEditing() {
-    if (editing_)
+    if (editing_ || !takesActs())
         return;
     editing_ = true;
     if (const auto told = delegate.lock())
@@ -80,6 +82,8 @@ void TextField::setPlaceholder(std::string placeholder) {
 }
 
 bool TextField::pressReturn() {
+    if (!takesActs())
+        return false;
     const auto asked = delegate.lock();
     return !asked || asked->shouldReturn(*this);
 }

@@ -20,7 +20,7 @@ std::size_t indexOf(AnimatableProperty property) {
 
 View::View() = default;
 
-View::View(ControlRegistry& registry, std::string name) {
+View::View(ControlRegistry& registry, std::string name) : registry_(&registry) {
     registry.enter(std::move(name), *this);
 }
 
@@ -250,7 +250,17 @@ void View::removeGestureRecognizer(const GestureRecognizer& recognizer) {
     });
 }
 
+bool View::takesActs() const {
+    for (const View* view = this; view; view = view->superview_) {
+        if (view->registry_ && !view->registry_->takesActs())
+            return false;
+    }
+    return true;
+}
+
 void View::tap() {
+    if (!takesActs())
+        return;
     const auto recognizers = recognizers_;
     for (const auto& recognizer : recognizers) {
         if (const auto tap = std::dynamic_pointer_cast<TapGestureRecognizer>(recognizer))

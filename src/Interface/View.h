@@ -92,6 +92,9 @@ public:
     [[nodiscard]] const std::vector<std::shared_ptr<GestureRecognizer>>& gestureRecognizers() const {
         return recognizers_;
     }
+    /// Whether the user's acts are for this view now: not while its screen slides or is covered, nor once it
+    /// has left. Every act of the user on a control is refused then.
+    [[nodiscard]] bool takesActs() const;
     /// The user taps this view: every tap recognizer on it recognises, in the order of adding.
     void tap();
 
@@ -174,6 +177,7 @@ private:
     void progress(PropertyAnimator& animator, double fraction);
     void settle(PropertyAnimator& animator, bool whereDrawn);
 
+    const ControlRegistry* registry_ = nullptr; ///< of the screen or cell that has this view by its name
     View* superview_ = nullptr;
     std::vector<View*> subviews_;
     std::array<double, propertyCount> values_{0, 0, 0, 0, 0, 0, 1, 1};

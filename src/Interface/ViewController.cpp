@@ -62,6 +62,20 @@ ViewController* ViewController::presentingViewController() const {
     return outermost->stack_ ? outermost->stack_->below(*outermost) : nullptr;
 }
 
+bool ViewController::takesActs() const {
+    const ViewController* outermost = this;
+    while (outermost->parent_)
+        outermost = outermost->parent_;
+    if (!outermost->stack_)
+        return !outermost->hasLeft_;
+    return !outermost->stack_->isInTransition() && outermost->stack_->top() == outermost;
+}
+
+void ViewController::enterStack(PresentationStack* stack) {
+    hasLeft_ = stack_ && !stack;
+    stack_ = stack;
+}
+
 void ViewController::beginAppearing() {
     loadViewIfNeeded();
     viewWillAppear();

@@ -44,7 +44,9 @@ struct SheetPresentation {
 /// thread.
 class ViewController : public std::enable_shared_from_this<ViewController> {
 public:
-    explicit ViewController(WindowContext& window) : window_(window) {}
+    explicit ViewController(WindowContext& window) : window_(window) {
+        controls.setTakesActs([this] { return takesActs(); });
+    }
     virtual ~ViewController();
     ViewController(const ViewController&) = delete;
     ViewController& operator=(const ViewController&) = delete;
@@ -76,11 +78,15 @@ public:
     [[nodiscard]] ViewController* presentingViewController() const;
     [[nodiscard]] ViewController* parent() const { return parent_; }
 
+    /// Whether the user's acts are for this screen: false while another covers it, while a transition runs
+    /// and once it has left the window. A screen that no window has shown yet may be tried without one.
+    [[nodiscard]] bool takesActs() const;
+
     // Called by the presentation stack and by containers, never by the screen itself.
     void beginAppearing();
     void finishAppearing();
     void beginDisappearing();
-    void enterStack(PresentationStack* stack) { stack_ = stack; }
+    void enterStack(PresentationStack* stack);
     void setParent(ViewController* parent) { parent_ = parent; }
 
 protected:
@@ -111,6 +117,7 @@ private:
     WindowContext& window_;
     View view_{controls, "view"};
     PresentationStack* stack_ = nullptr;
+    bool hasLeft_ = false; ///< a window has shown it, and does no more
     ViewController* parent_ = nullptr;
     Subscription screenChanges_;
     bool loaded_ = false;

@@ -1,7 +1,7 @@
 #include "shell/ControlWindow.h"
 
-#include "bridge/CellScope.h"
 #include "bridge/IconProvider.h"
+#include "bridge/Pressable.h"
 #include "bridge/ShadowProvider.h"
 
 #include <QQmlComponent>
@@ -12,7 +12,7 @@ namespace tessivo {
 
 ControlWindow::ControlWindow() {
     qml_register_types_Tessivo();
-    shell::CellScope::makeAccessible();
+    shell::Pressable::makeAccessible();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine_.addImageProvider(QStringLiteral("icon"), new shell::IconProvider);
     engine_.addImageProvider(QStringLiteral("shadow"), new shell::ShadowProvider);

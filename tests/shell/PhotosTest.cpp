@@ -271,6 +271,12 @@ TEST_F(PhotosTest, TheKeyboardChoosesAndCancels) {
     ASSERT_EQ(host->chosen.size(), 1U);
     EXPECT_EQ(host->chosen.front()->identifier, "p3");
     hand.press(Qt::Key_Escape);
+    EXPECT_EQ(host->cancelled, 0) << "a picker that has gone takes no key";
+}
+
+TEST_F(PhotosTest, EscapeCancels) {
+    showPhotos(4);
+    hand.press(Qt::Key_Escape);
     EXPECT_EQ(host->cancelled, 1);
 }
 

@@ -1,58 +1,44 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tessivo
 
 // Who took a picture, over it. Opens their page.
-T.AbstractButton {
+ButtonArea {
     id: control
 
-    required property ButtonItem button
     required property real maximumWidth
 
     implicitWidth: Math.max(Theme.touch, Math.min(maximumWidth, row.width + 16))
     implicitHeight: Theme.touch
-    activeFocusOnTab: true
-    focusPolicy: Qt.StrongFocus
-    onPressed: button.press()
-    onClicked: button.releaseInside()
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    pressedTint: 0
     Accessible.role: Accessible.Link
-    Accessible.name: button.accessibleName
-    Accessible.onPressAction: clicked()
 
-    background: Item {
-        Rectangle {
-            anchors.fill: parent
-            anchors.topMargin: 5
-            anchors.bottomMargin: 5
-            radius: control.button.cornerRadius
-            color: control.button.fill.color
-            opacity: control.pressed ? 0.7 : 1
+    Rectangle {
+        anchors.fill: parent
+        anchors.topMargin: 5
+        anchors.bottomMargin: 5
+        radius: control.button.cornerRadius
+        color: control.button.fill.color
+        opacity: control.pressed ? 0.7 : control.hovered ? 0.85 : 1
+    }
+    Row {
+        id: row
+        anchors.centerIn: parent
+        spacing: 6
+        Icon {
+            anchors.verticalCenter: parent.verticalCenter
+            name: control.button.image
+            tint: control.button.titleColor
+            side: 18
+        }
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text.length > 0
+            width: Math.min(implicitWidth, control.maximumWidth - 40)
+            text: control.button.title
+            color: control.button.titleColor
+            font.pixelSize: 15
+            elide: Text.ElideRight
+            textFormat: Text.PlainText
         }
     }
-    contentItem: Item {
-        Row {
-            id: row
-            anchors.centerIn: parent
-            spacing: 6
-            Icon {
-                anchors.verticalCenter: parent.verticalCenter
-                name: control.button.image
-                tint: control.button.titleColor
-                side: 18
-            }
-            Text {
-                anchors.verticalCenter: parent.verticalCenter
-                visible: text.length > 0
-                width: Math.min(implicitWidth, control.maximumWidth - 40)
-                text: control.button.title
-                color: control.button.titleColor
-                font.pixelSize: 15
-                elide: Text.ElideRight
-                textFormat: Text.PlainText
-            }
-        }
-    }
-    FocusRing { visible: control.visualFocus }
 }

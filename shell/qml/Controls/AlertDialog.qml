@@ -9,8 +9,6 @@ FocusScope {
 
     focus: true
     Keys.onEscapePressed: alert.cancel()
-    Accessible.role: Accessible.AlertMessage
-    Accessible.name: alert.title + ". " + alert.message
 
     Rectangle {
         anchors.fill: parent
@@ -20,6 +18,7 @@ FocusScope {
     MouseArea {
         anchors.fill: parent
         onClicked: dialog.alert.cancel()
+        onWheel: event => event.accepted = true
     }
     Rectangle {
         anchors.centerIn: parent
@@ -44,6 +43,8 @@ FocusScope {
                 color: Theme.ink
                 wrapMode: Text.Wrap
                 horizontalAlignment: Text.AlignHCenter
+                textFormat: Text.PlainText
+                Accessible.ignored: true
             }
             Text {
                 width: parent.width
@@ -53,6 +54,9 @@ FocusScope {
                 color: Theme.muted
                 wrapMode: Text.Wrap
                 horizontalAlignment: Text.AlignHCenter
+                textFormat: Text.PlainText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
         }
         Row {
@@ -66,6 +70,7 @@ FocusScope {
                     required property int index
                     width: answers.width / dialog.alert.choices.length
                     choice: modelData
+                    radius: 20
                     focus: index === dialog.alert.choices.length - 1
                     onClicked: dialog.alert.choose(index)
                 }

@@ -1,64 +1,135 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tessivo
 
-// The menu that a long press opens beside the finger.
-T.Popup {
-    id: popup
+// The menu that a long press opens beside the finger, and a button under itself. It lies over the whole screen, and
+// takes the keyboard until it closes.
+Item {
+    id: place
 
     property MenuItem menu
-    property Item opener // had the keyboard, and gets it back unless a choice opens something
 
-    width: 256
-    height: implicitContentHeight + topPadding + bottomPadding
-    verticalPadding: 4
-    margins: 12
-    modal: true
-    focus: true
-    transformOrigin: T.Popup.Top
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
-    onAboutToShow: opener = parent.Window.activeFocusItem
-    onAboutToHide: opener?.forceActiveFocus(Qt.PopupFocusReason)
-    enter: Transition {
-        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.quick }
-        NumberAnimation { property: "scale"; from: 0.9; to: 1; duration: Theme.quick; easing.type: Easing.OutCubic }
+    function open() {
+        let pane = place;
+        while (pane.parent && !(pane instanceof ScreenPane))
+            pane = pane.parent;
+        const window = pane instanceof ScreenPane ? pane.parent : pane;
+        overlay.opener = place.Window.activeFocusItem;
+        overlay.pane = pane as ScreenPane;
+        overlay.parent = window;
+        overlay.at = window.mapFromItem(place, 0, 0);
+        overlay.visible = true;
+        if (overlay.pane)
+            overlay.pane.underMenu = true;
+        overlay.enabled = true;
+        rows.focusFirst();
+        appear.start();
     }
-    exit: Transition {
-        NumberAnimation { property: "opacity"; to: 0; duration: Theme.quick }
-    }
-    T.Overlay.modal: Rectangle { color: Qt.rgba(0, 0, 0, 0.2) }
 
-    background: Rectangle {
-        radius: Theme.radius
-        color: "white"
-        SoftShadow { radius: Theme.radius }
+    function close() {
+        if (!overlay.enabled)
+            return;
+        overlay.enabled = false;
+        overlay.visible = false;
+        if (overlay.pane)
+            overlay.pane.underMenu = false;
+        if (overlay.opener)
+            overlay.opener.forceActiveFocus(Qt.PopupFocusReason);
     }
-    contentItem: Column {
-        LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
-        LayoutMirroring.childrenInherit: true
 
-        ContextMenuRow {
-            visible: popup.menu?.nested ?? false
-            width: parent.width
-            symbol: "chevron.backward"
-            onClicked: popup.menu.goBack()
+    ScreenPane {
+        id: overlay
+
+        property Item opener // had the keyboard, and gets it back
+        property ScreenPane pane // the screen that asked for the menu
+        property point at
+
+        anchors.fill: parent
+        z: 2000
+        enabled: false
+        visible: false
+        modal: true
+        Accessible.role: Accessible.PopupMenu
+        Keys.onEscapePressed: place.close()
+        Keys.onBackPressed: place.close()
+        onWidthChanged: place.close()
+        onHeightChanged: place.close()
+
+        Rectangle {
+            anchors.fill: parent
+            color: Qt.rgba(0, 0, 0, 0.2)
         }
-        Repeater {
-            model: popup.menu?.entries ?? []
-            ContextMenuRow {
-                required property menuEntry modelData
-                required property int index
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.LeftButton | Qt.RightButton
+            onPressed: place.close()
+            onWheel: event => event.accepted = true
+        }
+        Rectangle {
+            id: panel
+
+            readonly property real edge: 12 // kept free at the window's sides
+
+            x: Math.max(edge, Math.min(overlay.at.x, overlay.width - width - edge))
+            y: Math.max(edge, Math.min(overlay.at.y, overlay.height - height - edge))
+            width: 256
+            height: rows.height + 8
+            radius: Theme.radius
+            color: "white"
+            transformOrigin: Item.Top
+            SoftShadow { radius: Theme.radius }
+            MouseArea { anchors.fill: parent } // between two rows nothing closes
+
+            Column {
+                id: rows
+
+                function focusFirst() {
+                    if (back.visible || entries.count === 0)
+                        back.forceActiveFocus(Qt.PopupFocusReason);
+                    else
+                        entries.itemAt(0).forceActiveFocus(Qt.PopupFocusReason);
+                }
+
+                y: 4
                 width: parent.width
-                focus: index === 0
-                title: modelData.title
-                symbol: modelData.symbol
-                opensMore: modelData.opensMore
-                onClicked: popup.menu.choose(index)
+                ContextMenuRow {
+                    id: back
+                    visible: place.menu?.nested ?? false
+                    width: parent.width
+                    symbol: "chevron.backward"
+                    onClicked: place.menu.goBack()
+                }
+                Repeater {
+                    id: entries
+                    model: place.menu?.entries ?? []
+                    ContextMenuRow {
+                        required property menuEntry modelData
+                        required property int index
+                        width: parent.width
+                        title: modelData.title
+                        symbol: modelData.symbol
+                        opensMore: modelData.opensMore
+                        onClicked: place.menu.choose(index)
+                    }
+                }
+            }
+        }
+        ParallelAnimation {
+            id: appear
+            NumberAnimation { target: overlay; property: "opacity"; from: 0; to: 1; duration: Theme.quick }
+            NumberAnimation {
+                target: panel
+                property: "scale"
+                from: 0.9
+                to: 1
+                duration: Theme.quick
+                easing.type: Easing.OutCubic
             }
         }
     }
     Connections {
-        target: popup.menu
-        function onClosed() { popup.close(); }
+        target: place.menu
+        function onClosed() { place.close(); }
+        function onEntriesChanged() { Qt.callLater(rows.focusFirst); }
     }
+    Component.onDestruction: place.close()
 }

@@ -38,8 +38,13 @@ FocusScope {
         selectionColor: Theme.accent
         EnterKey.type: control.enterKey
         onTextEdited: control.input.edit(text)
-        onAccepted: control.input.pressReturn()
-        onActiveFocusChanged: activeFocus ? control.input.beginEditing() : control.input.endEditing()
+        onAccepted: {
+            const next = nextItemInFocusChain(true);
+            control.input.pressReturn();
+            if (!activeFocus && next) // the program has put the keyboard away: on to what comes next
+                next.forceActiveFocus(Qt.TabFocusReason);
+        }
+        onActiveFocusChanged: activeFocus ? control.input?.beginEditing() : control.input?.endEditing()
         Accessible.role: Accessible.EditableText
         Accessible.name: control.input.accessibleName
     }
@@ -64,9 +69,15 @@ FocusScope {
         function onContentChanged() {
             if (field.text !== control.input.text)
                 field.text = control.input.text;
-            if (!control.input.editing && field.activeFocus)
+        }
+        function onKeyboardDismissed() {
+            if (field.activeFocus)
                 field.focus = false;
         }
     }
-    Component.onCompleted: field.text = input.text
+    Component.onCompleted: {
+        field.text = input.text;
+        if (field.activeFocus) // before there was an input to tell
+            input.beginEditing();
+    }
 }

@@ -1,12 +1,13 @@
 import QtQuick
 
-// Shows which control the keyboard is on.
+// Shows which control the keyboard is on, once keys are used.
 Rectangle {
     property Item target: parent
 
     anchors.fill: target
     anchors.margins: -3
-    visible: target.activeFocus
+    z: 1
+    visible: target.activeFocus && Theme.keysInUse
     color: "transparent"
     border.color: Theme.accent
     border.width: 2

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 
 // A resource icon in a colour.
 Image {

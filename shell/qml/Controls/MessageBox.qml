@@ -34,7 +34,7 @@ FocusScope {
         color: control.input.color
         selectionColor: Theme.accent
         onTextChanged: if (activeFocus) control.input.edit(text)
-        onActiveFocusChanged: activeFocus ? control.input.beginEditing() : control.input.endEditing()
+        onActiveFocusChanged: activeFocus ? control.input?.beginEditing() : control.input?.endEditing()
         KeyNavigation.priority: KeyNavigation.BeforeItem
         Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
         Accessible.role: Accessible.EditableText
@@ -51,9 +51,15 @@ FocusScope {
         function onContentChanged() {
             if (field.text !== control.input.text)
                 field.text = control.input.text;
-            if (!control.input.editing && field.activeFocus)
+        }
+        function onKeyboardDismissed() {
+            if (field.activeFocus)
                 field.focus = false;
         }
     }
-    Component.onCompleted: field.text = input.text
+    Component.onCompleted: {
+        field.text = input.text;
+        if (field.activeFocus) // before there was an input to tell
+            input.beginEditing();
+    }
 }

@@ -1,27 +1,33 @@
 import QtQuick
 import Tessivo
 
-// The drawing of one screen of the stack, where the program says it stands.
-Item {
-    id: loader
+// The drawing of one screen of the stack, where the program says it stands. A screen that is covered, or on its way,
+// takes nothing.
+ScreenPane {
+    id: pane
 
     required property ScreenItem screen
+
+    enabled: screen.takesActs && !underMenu
+    modal: screen.kind !== ScreenItem.Full
+    title: screen.title
+    Accessible.role: Accessible.Pane
 
     Loader {
         width: parent.width
         height: parent.height
-        x: loader.screen.kind === ScreenItem.Full ? loader.screen.view.x : 0
+        x: pane.screen.kind === ScreenItem.Full ? pane.screen.view.x : 0
         focus: true
         Component.onCompleted: {
-            const alert = loader.screen as AlertItem;
-            if (loader.screen.kind === ScreenItem.Sheet)
-                setSource("Sheet.qml", { screen: loader.screen });
-            else if (loader.screen.kind === ScreenItem.Alert)
+            const alert = pane.screen as AlertItem;
+            if (pane.screen.kind === ScreenItem.Sheet)
+                setSource("Sheet.qml", { screen: pane.screen });
+            else if (pane.screen.kind === ScreenItem.Alert)
                 setSource("AlertDialog.qml", { alert: alert });
             else if (alert)
                 setSource("ActionSheet.qml", { alert: alert });
             else
-                setSource("ScreenContent.qml", { screen: loader.screen });
+                setSource("ScreenContent.qml", { screen: pane.screen });
         }
     }
 }

@@ -25,6 +25,6 @@ EditableField {
         button: search.clearButton
         anchors.right: parent.right
         side: 20
-        focusPolicy: Qt.TabFocus // a touch leaves the keyboard with the text
+        focusOnTouch: false // a touch leaves the keyboard with the text
     }
 }

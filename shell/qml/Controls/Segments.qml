@@ -15,8 +15,14 @@ Rectangle {
     activeFocusOnTab: true
     Keys.onLeftPressed: item.select(item.selectedIndex + (reversed ? 1 : -1))
     Keys.onRightPressed: item.select(item.selectedIndex + (reversed ? -1 : 1))
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+        if (event.accepted)
+            item.select(event.key === Qt.Key_Home ? 0 : count - 1);
+    }
     Accessible.role: Accessible.PageTabList
     Accessible.name: item.accessibleName
+    Accessible.focusable: true
 
     Rectangle {
         readonly property int place: segments.reversed ? segments.count - 1 - segments.item.selectedIndex
@@ -35,27 +41,29 @@ Rectangle {
         anchors.rightMargin: 3
         Repeater {
             model: segments.item.titles
-            Item {
+            ButtonArea {
                 id: segment
                 required property string modelData
                 required property int index
                 readonly property bool selected: index === segments.item.selectedIndex
                 width: parent.width / segments.count
                 height: parent.height
+                radius: 7
+                activeFocusOnTab: false
+                focusOnTouch: false
+                onClicked: segments.item.select(index)
                 Accessible.role: Accessible.PageTab
                 Accessible.name: modelData
+                Accessible.selectable: true
                 Accessible.selected: selected
-                Accessible.onPressAction: segments.item.select(index)
                 Text {
                     anchors.centerIn: parent
+                    width: Math.min(implicitWidth, parent.width - 4)
                     text: segment.modelData
                     font.pixelSize: Theme.caption
                     font.weight: Font.Medium
                     color: segment.selected ? "white" : Theme.muted
-                }
-                MouseArea {
-                    anchors.fill: parent
-                    onClicked: segments.item.select(segment.index)
+                    elide: Text.ElideRight
                 }
             }
         }

@@ -1,26 +1,15 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tessivo
 
 // An icon with its word under it, for one thing to do with a picture.
-T.AbstractButton {
+ButtonArea {
     id: control
 
-    required property ButtonItem button
-
     implicitHeight: 84
-    activeFocusOnTab: true
-    focusPolicy: Qt.StrongFocus
-    onClicked: button.releaseInside()
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
-    Accessible.role: Accessible.Button
-    Accessible.name: button.accessibleName
-    Accessible.onPressAction: clicked()
 
-    contentItem: Column {
+    Column {
+        width: parent.width
         spacing: 8
-        opacity: control.pressed ? 0.5 : 1
         Rectangle {
             anchors.horizontalCenter: parent.horizontalCenter
             width: 52
@@ -41,7 +30,7 @@ T.AbstractButton {
             color: Theme.ink
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideRight
+            textFormat: Text.PlainText
         }
     }
-    FocusRing { visible: control.visualFocus }
 }

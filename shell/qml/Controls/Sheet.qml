@@ -67,6 +67,7 @@ FocusScope {
             y: 8
             height: sheet.wanted - y
             clip: true
+            enabled: !sink.running
             ScreenContent {
                 anchors.fill: parent
                 screen: sheet.screen

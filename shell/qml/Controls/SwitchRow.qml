@@ -16,16 +16,23 @@ Rectangle {
         label: row.label
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: parent.left
+        anchors.right: toggle.left
         anchors.leftMargin: Theme.margin
+        anchors.rightMargin: 8
         Accessible.ignored: true
     }
-    MouseArea {
+    PressArea { // the switch is the one stop of the keyboard
         anchors.fill: parent
+        activeFocusOnTab: false
+        focusOnTouch: false
         enabled: row.item.interactive
-        onClicked: row.item.toggle()
+        onClicked: toggle.click()
+        Accessible.ignored: true
     }
     GradientSwitch {
+        id: toggle
         item: row.item
+        name: row.item.accessibleName.length > 0 ? row.item.accessibleName : row.label.text
         anchors.verticalCenter: parent.verticalCenter
         anchors.right: parent.right
         anchors.rightMargin: Theme.margin

@@ -30,4 +30,6 @@ QtObject {
 
     readonly property int quick: 160
     readonly property int calm: 280
+    readonly property bool large: window ? window.large : false
+    readonly property bool keysInUse: window ? window.keysInUse : true
 }

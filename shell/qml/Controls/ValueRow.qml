@@ -2,31 +2,23 @@ import QtQuick
 import Tessivo
 
 // A row that shows a value and opens what changes it, with a chevron where it leads to a sheet.
-FocusScope {
+ButtonArea {
     id: row
 
     required property LabelItem label
+    property LabelItem heading: null // what the value is of, for those who cannot see what stands over the row
     property ButtonItem chevron: null
 
     implicitHeight: Theme.rowHeight
     visible: label.shown
-    activeFocusOnTab: true
-    Keys.onReturnPressed: activate()
-    Keys.onEnterPressed: activate()
-    Keys.onSpacePressed: activate()
-    Accessible.role: Accessible.Button
-    Accessible.name: label.accessibleName
-    Accessible.onPressAction: activate()
-
-    function activate() {
-        label.tap();
-    }
+    onClicked: label.tap()
+    Accessible.name: heading ? heading.text + ", " + label.accessibleName : label.accessibleName
 
     Rectangle {
         anchors.fill: parent
-        radius: Theme.radius
+        z: -1
+        radius: row.radius
         color: Theme.field
-        opacity: touch.pressed ? 0.6 : 1
     }
     StyledLabel {
         label: row.label
@@ -48,10 +40,4 @@ FocusScope {
         side: 18
         mirror: Qt.application.layoutDirection === Qt.RightToLeft
     }
-    MouseArea {
-        id: touch
-        anchors.fill: parent
-        onClicked: row.activate()
-    }
-    FocusRing { target: row }
 }

@@ -1,26 +1,53 @@
 import QtQuick
 import Tessivo
 
-// One wheel of a date picker. It turns by touch, by the mouse wheel and by the arrow keys, and reports where it stops.
+// One wheel of a date picker. It turns by touch, by a click on a row, by the mouse wheel, by arrow keys and by typing
+// what it shows, and reports where it stops.
 FocusScope {
-    id: wheel
+    id: dial
 
     required property DatePickerItem picker
     required property int wheelIndex
-    property alias alignment: list.rowAlignment
     readonly property real rowHeight: 36
+    readonly property string current: list.rows[value - 1] ?? ""
+
+    // What assistive technology says of it: the row's number among all.
+    property int value: 1
+    readonly property int minimumValue: 1
+    readonly property int maximumValue: Math.max(1, list.rows.length)
+    readonly property int stepSize: 1
+
+    signal leftTowards(bool forward)
 
     activeFocusOnTab: true
     Accessible.role: Accessible.SpinBox
-    Accessible.name: list.currentItem ? list.currentItem.text : ""
+    Accessible.name: picker.accessibleName.length > 0 ? picker.accessibleName + ", " + current : current
+    Accessible.focusable: true
     Accessible.onIncreaseAction: turnBy(1)
     Accessible.onDecreaseAction: turnBy(-1)
     Keys.onUpPressed: turnBy(-1)
     Keys.onDownPressed: turnBy(1)
+    Keys.onLeftPressed: leftTowards(Qt.application.layoutDirection === Qt.RightToLeft)
+    Keys.onRightPressed: leftTowards(Qt.application.layoutDirection !== Qt.RightToLeft)
+    Keys.onPressed: event => {
+        event.accepted = true;
+        if (event.key === Qt.Key_PageUp)
+            turnBy(-5);
+        else if (event.key === Qt.Key_PageDown)
+            turnBy(5);
+        else if (event.key === Qt.Key_Home)
+            picker.turn(wheelIndex, 0);
+        else if (event.key === Qt.Key_End)
+            picker.turn(wheelIndex, list.rows.length - 1);
+        else
+            event.accepted = picker.type(wheelIndex, event.text);
+    }
 
     function turnBy(steps: int) {
+        const last = list.rows.length - 1;
         const row = picker.selectedRow(wheelIndex) + steps;
-        picker.turn(wheelIndex, picker.wraps(wheelIndex) ? (row + list.rows.length) % list.rows.length : row);
+        picker.turn(wheelIndex, picker.wraps(wheelIndex) ? (row + 2 * list.rows.length) % list.rows.length
+                                                         : Math.max(0, Math.min(row, last)));
     }
 
     // The program's rows and its place, after any change of the picked date. The nearest copy of the picked row is
@@ -34,9 +61,11 @@ FocusScope {
             list.model = count;
             list.currentIndex = wraps ? rows.length * (list.copies - 1) / 2 : 0;
         }
-        const away = (picker.selectedRow(wheelIndex) - list.currentIndex % rows.length + rows.length) % rows.length;
+        const picked = picker.selectedRow(wheelIndex);
+        const away = (picked - list.currentIndex % rows.length + rows.length) % rows.length;
         list.currentIndex += wraps && away > rows.length / 2 ? away - rows.length
-                           : wraps ? away : picker.selectedRow(wheelIndex) - list.currentIndex;
+                           : wraps ? away : picked - list.currentIndex;
+        value = picked + 1;
     }
 
     ListView {
@@ -44,56 +73,54 @@ FocusScope {
 
         readonly property int copies: 41 // enough that nobody turns to the end
         property list<string> rows
-        property int rowAlignment: Text.AlignHCenter
 
         anchors.fill: parent
         clip: true
         focus: true
         keyNavigationEnabled: false
-        preferredHighlightBegin: (height - wheel.rowHeight) / 2
-        preferredHighlightEnd: preferredHighlightBegin + wheel.rowHeight
+        preferredHighlightBegin: (height - dial.rowHeight) / 2
+        preferredHighlightEnd: preferredHighlightBegin + dial.rowHeight
         highlightRangeMode: ListView.StrictlyEnforceRange
         highlightMoveDuration: Theme.quick
         snapMode: ListView.SnapToItem
         boundsBehavior: Flickable.StopAtBounds
-        onMovementEnded: wheel.picker.turn(wheel.wheelIndex, currentIndex % rows.length)
+        onMovementEnded: dial.picker.turn(dial.wheelIndex, currentIndex % rows.length)
 
-        delegate: Text {
+        delegate: PressArea {
             id: row
             required property int index
             readonly property real distance: Math.abs(y + height / 2 - list.contentY - list.height / 2) / list.height
 
             width: ListView.view.width
-            height: wheel.rowHeight
-            text: list.rows.length > 0 ? list.rows[index % list.rows.length] : ""
-            font.pixelSize: 20
-            color: Theme.ink
-            opacity: Math.max(0.12, 1 - 1.7 * distance)
-            scale: 1 - 0.25 * distance
-            horizontalAlignment: list.rowAlignment
-            verticalAlignment: Text.AlignVCenter
-            elide: Text.ElideRight
+            height: dial.rowHeight
+            activeFocusOnTab: false
+            focusOnTouch: false
             Accessible.ignored: true
-            MouseArea {
-                anchors.fill: parent
-                onClicked: wheel.picker.turn(wheel.wheelIndex, row.index % list.rows.length)
+            onClicked: {
+                dial.forceActiveFocus(Qt.MouseFocusReason);
+                dial.picker.turn(dial.wheelIndex, index % list.rows.length);
             }
-        }
-        WheelHandler {
-            acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-            property real turned: 0
-            onWheel: event => {
-                turned += event.angleDelta.y;
-                while (Math.abs(turned) >= 120) {
-                    wheel.turnBy(turned > 0 ? -1 : 1);
-                    turned -= turned > 0 ? 120 : -120;
-                }
+            Text {
+                anchors.fill: parent
+                text: list.rows.length > 0 ? list.rows[row.index % list.rows.length] : ""
+                font.pixelSize: 20
+                color: row.hovered ? Theme.accent : Theme.ink
+                opacity: Math.max(0.12, 1 - 1.7 * row.distance)
+                scale: 1 - 0.25 * row.distance
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+                elide: Text.ElideRight
+                textFormat: Text.PlainText
             }
         }
     }
+    NotchArea {
+        anchors.fill: parent
+        onTurned: steps => dial.turnBy(steps)
+    }
     Connections {
-        target: wheel.picker
-        function onContentChanged() { wheel.follow(); }
+        target: dial.picker
+        function onContentChanged() { dial.follow(); }
     }
     FocusRing { radius: 10 }
     Component.onCompleted: {

@@ -24,6 +24,7 @@ Item {
         anchors.leftMargin: 8
         anchors.rightMargin: 8
         Repeater {
+            id: dials
             model: control.picker.wheelCount
             Wheel {
                 required property int index
@@ -31,6 +32,7 @@ Item {
                 wheelIndex: index
                 width: row.width * control.shares[index]
                 height: row.height
+                onLeftTowards: forward => dials.itemAt(index + (forward ? 1 : -1))?.forceActiveFocus(Qt.TabFocusReason)
             }
         }
     }

@@ -13,6 +13,10 @@ FocusScope {
     readonly property LabelItem titleLabel: screen.control("titleLabel") as LabelItem
     readonly property ImageItem topImage: screen.control("topImage") as ImageItem
 
+    readonly property Item focused: Window.activeFocusItem
+
+    onFocusedChanged: flick.reveal(focused)
+
     // A tap on the screen beside every control.
     signal tappedBeside
 
@@ -61,6 +65,20 @@ FocusScope {
         contentHeight: column.y + column.height + 24
         clip: true
         boundsBehavior: Flickable.StopAtBounds
+        onHeightChanged: reveal(frame.focused)
+
+        // Scrolls what the keyboard has come to into view, with a piece of what stands around it.
+        function reveal(item: Item) {
+            let above = item;
+            while (above && above !== column)
+                above = above.parent;
+            if (!above)
+                return;
+            const peek = 24;
+            const top = item.mapToItem(contentItem, 0, 0).y;
+            const end = Math.max(0, contentHeight - height);
+            contentY = Math.max(0, Math.min(Math.max(contentY, top + item.height + peek - height), top - peek, end));
+        }
 
         MouseArea {
             width: flick.width

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tessivo
 
 // The two lists, the bar that chooses between them, and the floating button that adds an event.
@@ -47,31 +46,22 @@ FocusScope {
             }
         }
     }
-    T.AbstractButton {
+    ButtonArea {
         id: add
+        button: tabs.addButton
         x: tabs.addButton.x
         y: tabs.addButton.y
         width: tabs.addButton.width
         height: tabs.addButton.height
+        radius: width / 2
         scale: pressed ? 0.94 : 1
-        activeFocusOnTab: true
-        focusPolicy: Qt.StrongFocus
-        onClicked: tabs.addButton.releaseInside()
-        Keys.onReturnPressed: clicked()
-        Keys.onEnterPressed: clicked()
-        Accessible.role: Accessible.Button
-        Accessible.name: tabs.addButton.accessibleName
-        Accessible.onPressAction: clicked()
         Behavior on scale { NumberAnimation { duration: Theme.quick } }
 
-        background: Item {
-            SoftShadow { radius: add.width / 2; strength: 0.035 }
-            Icon {
-                name: tabs.addButton.image
-                side: add.width
-                tint: Theme.accent
-            }
+        SoftShadow { radius: add.radius; strength: 0.035 }
+        Icon {
+            name: tabs.addButton.image
+            side: add.width
+            tint: add.hovered ? Qt.darker(Theme.accent, 1.08) : Theme.accent
         }
-        FocusRing { visible: add.visualFocus; radius: add.width / 2 + 3 }
     }
 }

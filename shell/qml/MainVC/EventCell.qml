@@ -20,7 +20,6 @@ CellScope {
     // The card's face, wherever a swipe has taken it: a picture of the cell is one of the cell at rest.
     Component.onCompleted: cell.drawnBy(face)
     onActiveFocusChanged: if (activeFocus) list.reveal(card)
-    Keys.onReturnPressed: list.collection.tapItem(cell.item)
     Keys.onEscapePressed: list.collection.closeSwipes()
     Keys.onDeletePressed: cell.act("Delete")
     Keys.onUpPressed: list.goTo(cell.item - 1)
@@ -33,7 +32,7 @@ CellScope {
     Accessible.role: Accessible.Button
     Accessible.name: cell.accessibleName
     Accessible.ignored: cell.item < 0
-    onPressed: list.collection.tapItem(cell.item)
+    onClicked: list.collection.tapItem(cell.item)
 
     function openMenu() {
         list.collection.openMenu(cell.item, x + width / 2, y + height / 2);

@@ -2,7 +2,7 @@ import QtQuick
 import Tessivo
 
 // The rows of the value picker.
-Item {
+FocusScope {
     id: picker
 
     required property ScreenItem screen
@@ -12,27 +12,20 @@ Item {
         id: rows
         anchors.fill: parent
         anchors.topMargin: 30
+        focus: true
         collection: picker.table
         bottomMargin: 16
-        delegate: FocusScope {
+        delegate: CollectionCell {
             id: row
 
-            required property CellItem cell
             readonly property LabelItem label: cell.control("label") as LabelItem
             readonly property ImageItem mark: cell.control("checkmarkImageView") as ImageItem
 
-            x: cell.x
-            y: cell.y
-            width: cell.width
-            height: cell.height
-            activeFocusOnTab: true
-            onActiveFocusChanged: if (activeFocus) rows.reveal(row)
-            Keys.onReturnPressed: rows.collection.tapItem(cell.item)
-            Keys.onSpacePressed: rows.collection.tapItem(cell.item)
+            focus: cell.selected
             Accessible.role: Accessible.RadioButton
             Accessible.name: label.text
+            Accessible.checkable: true
             Accessible.checked: cell.selected
-            Accessible.onPressAction: rows.collection.tapItem(cell.item)
 
             Rectangle {
                 anchors.fill: parent

@@ -2,36 +2,19 @@ import QtQuick
 import Tessivo
 
 // One photo of the grid: its tint until the picture is there, the photographer's name, and a mark once chosen.
-FocusScope {
+CollectionCell {
     id: photo
 
-    required property CellItem cell
-    readonly property CollectionFlick list: parent?.parent as CollectionFlick
     readonly property ViewItem photoView: cell.control("photoView")
     readonly property ImageItem imageView: cell.control("imageView") as ImageItem
     readonly property ViewItem gradientView: cell.control("gradientView")
     readonly property LabelItem userNameLabel: cell.control("userNameLabel") as LabelItem
     readonly property real rounding: width < list.width ? 12 : 0
 
-    function choose() {
-        list.collection.tapItem(cell.item);
-    }
-
-    x: cell.x
-    y: cell.y
-    width: cell.width
-    height: cell.height
     scale: cell.highlighted ? 0.98 : 1
-    activeFocusOnTab: true
-    onActiveFocusChanged: if (activeFocus) list.reveal(photo)
-    Keys.onReturnPressed: choose()
-    Keys.onEnterPressed: choose()
-    Keys.onSpacePressed: choose()
-    Keys.onMenuPressed: list.collection.openMenu(cell.item, x + width / 2, y + height / 2)
-    Accessible.role: Accessible.Button
     Accessible.name: photoView.accessibleName
+    Accessible.selectable: true
     Accessible.selected: cell.selected
-    Accessible.onPressAction: choose()
     Behavior on scale { NumberAnimation { duration: Theme.quick } }
 
     Item {
