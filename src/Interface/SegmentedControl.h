@@ -32,7 +32,8 @@ public:
 
     /// The user selects a segment. Targets are called only where it was not the selected one.
     void select(int index) {
-        if (!takesActs() || index == selectedIndex_ || index < 0 || static_cast<std::size_t>(index) >= titles_.size())
+        if (!takesActs() || index == selectedIndex_ || index < 0 ||
+            static_cast<std::size_t>(index) >= titles_.size())
             return;
         setSelectedIndex(index);
         targets_.emit();

@@ -63,6 +63,13 @@ TEST_F(BackgroundStepTest, ConfirmingAtOnceStoresTheDefaultBackground) {
     EXPECT_TRUE(row.id().has_value());
 }
 
+TEST_F(BackgroundStepTest, DoneThreeTimesStoresOneEvent) {
+    auto& step = open();
+    step.nextButton.tap();
+    step.nextButton.tap();
+    EXPECT_EQ(confirm(step).size(), 1U);
+}
+
 TEST_F(BackgroundStepTest, ThePreviewShowsTheDraft) {
     auto& step = open();
     EXPECT_EQ(step.eventView.eventInformationLabel.text(), "Summer\n01 July 2030");

@@ -137,6 +137,19 @@ TEST(ButtonTest, ADisabledButtonHearsNoPress) {
     EXPECT_EQ(button.titleColor(), ColorRef::named("disabled"));
 }
 
+TEST(ButtonTest, AMenuAsPrimaryActionOpensInPlaceOfATap) {
+    ControlRegistry registry;
+    Button button(registry, "button");
+    std::vector<std::string> heard;
+    button.addTarget(PressEvent::UpInside, [&] { heard.push_back("inside"); });
+    const auto requests = button.onMenuRequest([&] { heard.push_back("menu"); });
+    button.setMenu({{{"Share", "", {}, {}}}});
+    button.tap();
+    button.setShowsMenuAsPrimaryAction(true);
+    button.tap();
+    EXPECT_THAT(heard, ElementsAre("inside", "menu"));
+}
+
 TEST(ValueControlsTest, OnlyTheUsersChangeCallsTargets) {
     ControlRegistry registry;
     int calls = 0;

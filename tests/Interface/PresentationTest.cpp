@@ -1,7 +1,12 @@
 #include "Interface/AlertController.h"
 #include "Interface/Animation.h"
+#include "Interface/Button.h"
+#include "Interface/Gestures.h"
 #include "Interface/PresentationStack.h"
+#include "Interface/SegmentedControl.h"
+#include "Interface/Switch.h"
 #include "Interface/TabBarController.h"
+#include "Interface/TextInput.h"
 #include "Interface/Transitioning.h"
 #include "fakes/Timeline.h"
 
@@ -166,6 +171,77 @@ TEST_F(PresentationTest, AnAlertGoesBeforeItsAnswerIsHeard) {
     EXPECT_EQ(stack.top(), alert.get());
     alert->choose(1);
     EXPECT_THAT(answers, ElementsAre("root"));
+}
+
+/// A screen with a control of each kind that a press can change, and a count of what they told.
+class PressedScreen final : public ViewController {
+public:
+    explicit PressedScreen(WindowContext& window) : ViewController(window) {
+        const auto count = [this] { ++told; };
+        button.addTarget(PressEvent::UpInside, count);
+        toggle.addValueChangedTarget(count);
+        segments.setTitles({"a", "b"});
+        segments.addValueChangedTarget(count);
+        field.addEditingChangedTarget(count);
+        tapped->addTarget(this, [this](GestureRecognizer&) { ++told; });
+        row.addGestureRecognizer(tapped);
+    }
+    std::string screenName() const override { return "pressed"; }
+
+    /// Acts on every control; gives how many took it.
+    int pressAll() {
+        told = 0;
+        button.tap();
+        toggle.toggle();
+        segments.select(1 - segments.selectedIndex());
+        field.editTo(field.text() + "x");
+        row.tap();
+        return told;
+    }
+
+    int told = 0;
+    Button button{controls, "button"};
+    Switch toggle{controls, "toggle"};
+    SegmentedControl segments{controls, "segments"};
+    TextField field{controls, "field"};
+    View row{controls, "row"};
+    std::shared_ptr<TapGestureRecognizer> tapped = std::make_shared<TapGestureRecognizer>();
+};
+
+TEST_F(PresentationTest, AScreenThatSlidesLeavesOrIsCoveredTakesNoActs) {
+    constexpr int all = 5;
+    const auto transitions = std::make_shared<ManualTransitions>();
+    const auto pressed = std::make_shared<PressedScreen>(window);
+    pressed->segments.setSelectedIndex(0);
+    stack.setRoot(root);
+    pressed->modalPresentationStyle = PresentationStyle::Custom;
+    pressed->transitioningDelegate = transitions;
+    root->present(pressed);
+    EXPECT_EQ(pressed->pressAll(), 0) << "it slides in";
+    transitions->complete();
+    EXPECT_EQ(pressed->pressAll(), all);
+    const auto sheet = make("sheet", PresentationStyle::Sheet);
+    pressed->present(sheet);
+    EXPECT_EQ(pressed->pressAll(), 0) << "a sheet covers it";
+    sheet->dismiss();
+    EXPECT_EQ(pressed->pressAll(), all);
+    pressed->dismiss();
+    EXPECT_EQ(pressed->pressAll(), 0) << "it slides out";
+    transitions->complete();
+    EXPECT_EQ(pressed->pressAll(), 0) << "it has left";
+}
+
+TEST_F(PresentationTest, APressThatACoverInterruptsEndsOutside) {
+    const auto pressed = std::make_shared<PressedScreen>(window);
+    stack.setRoot(pressed);
+    std::vector<std::string> heard;
+    pressed->button.addTarget(PressEvent::UpOutside, [&] { heard.push_back("outside"); });
+    pressed->button.press(PressEvent::Down);
+    pressed->present(make("sheet", PresentationStyle::Sheet));
+    pressed->button.press(PressEvent::UpInside);
+    pressed->button.press(PressEvent::UpInside);
+    EXPECT_THAT(heard, ElementsAre("outside"));
+    EXPECT_EQ(pressed->told, 0);
 }
 
 TEST_F(PresentationTest, TheViewFollowsTheSizeOfTheScreen) {

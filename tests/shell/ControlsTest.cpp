@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 
 namespace tessivo {
 namespace {
@@ -248,6 +249,62 @@ TEST_F(ControlWindow, ADisabledButtonTakesNoTouchAndNoKey) {
     hand.press(Qt::Key_Space);
     hand.press(Qt::Key_Return);
     EXPECT_EQ(taps, 3);
+}
+
+TEST_F(ControlWindow, AButtonTellsAReleaseBesideItAndAHeldKeyOnce) {
+    auto& button = screen->button;
+    button.setTitle("Next");
+    std::vector<std::string> heard;
+    button.addTarget(ui::PressEvent::UpInside, [&] { heard.push_back("inside"); });
+    button.addTarget(ui::PressEvent::UpOutside, [&] { heard.push_back("outside"); });
+    draw(*screen, "TextButton { y: 100; width: 200; button: root.screen.control('button') as ButtonItem }");
+    hand.drag({100, 120}, {100, 300});
+    EXPECT_THAT(heard, ElementsAre("outside"));
+    hand.find(QStringLiteral("Next"))->forceActiveFocus();
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
+    QCoreApplication::sendEvent(&window, &down);
+    QCoreApplication::sendEvent(&window, &held);
+    EXPECT_THAT(heard, ElementsAre("outside", "inside"));
+}
+
+TEST_F(ControlWindow, AMenuOfAButtonOpensByKeyServesTheKeyboardAndGivesTheFocusBack) {
+    auto& button = screen->button;
+    button.setTitle("More");
+    std::vector<std::string> chosen;
+    const auto note = [&](const char* what) { return [&chosen, what] { chosen.emplace_back(what); }; };
+    button.setMenu(
+        {{{"Share", "", note("share"), {}},
+          {"Edit", "", nullptr, {{"Title", "", note("title"), {}}, {"Date", "", note("date"), {}}}}}});
+    button.setShowsMenuAsPrimaryAction(true);
+    draw(*screen, "TextButton { button: root.screen.control('button') as ButtonItem }");
+    auto* const opener = hand.find(QStringLiteral("More"));
+    opener->forceActiveFocus();
+    hand.press(Qt::Key_Return);
+    ASSERT_NE(hand.find(QStringLiteral("Share")), nullptr);
+    hand.press(Qt::Key_Escape);
+    EXPECT_EQ(hand.find(QStringLiteral("Share")), nullptr);
+    EXPECT_TRUE(opener->hasActiveFocus());
+    hand.press(Qt::Key_Space);
+    hand.press(Qt::Key_Down);
+    hand.press(Qt::Key_Return);
+    ASSERT_TRUE(runUntil([&] { return hand.find(QStringLiteral("Date")) != nullptr; }));
+    hand.tap(QStringLiteral("Date"));
+    EXPECT_THAT(chosen, ElementsAre("date"));
+    EXPECT_EQ(hand.find(QStringLiteral("Date")), nullptr);
+}
+
+TEST_F(Wheels, TakeAClickOnARowTypedNumbersAndArrowsFromWheelToWheel) {
+    picker.setDate(instantAt(1908261015));
+    const auto start = rows();
+    hand.tapAt(wheel(0) + QPointF(0, 36));
+    EXPECT_TRUE(standAt({start[0] + 1, start[1], start[2]})) << testing::PrintToString(rows());
+    hand.press(Qt::Key_0);
+    hand.press(Qt::Key_9);
+    EXPECT_TRUE(standAt({8, start[1], start[2]})) << testing::PrintToString(rows());
+    hand.press(Qt::Key_Right);
+    hand.press(Qt::Key_Up);
+    EXPECT_TRUE(standAt({8, start[1] - 1, start[2]})) << testing::PrintToString(rows());
 }
 
 TEST_F(ControlWindow, AControlThatTheScreenLacksStopsTheProgram) {
