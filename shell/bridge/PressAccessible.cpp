@@ -91,8 +91,7 @@ void* PressAccessible::interface_cast(QAccessible::InterfaceType type) {
 QStringList PressAccessible::actionNames() const {
     if (!item_.isEnabled())
         return {};
-    return QStringList{says("checkable") ? toggleAction() : pressAction(), setFocusAction()} +
-           item_.actionNames();
+    return QStringList{says("checkable") ? toggleAction() : pressAction()} + item_.actionNames();
 }
 
 void PressAccessible::doAction(const QString& name) {
@@ -100,8 +99,6 @@ void PressAccessible::doAction(const QString& name) {
         return;
     if (name == pressAction() || name == toggleAction())
         item_.click();
-    else if (name == setFocusAction())
-        item_.forceActiveFocus(Qt::OtherFocusReason);
     else
         item_.act(name);
 }

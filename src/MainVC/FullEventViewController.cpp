@@ -41,6 +41,7 @@ void FullEventViewController::viewDidLoad() {
     fillterButton.setMenu(
         {{shareElement([this] { share(); }), editMenu([this](EditScreen kind) { edit(kind); }),
           deleteElement([this] { confirmDeletion(); })}});
+    fillterButton.setShowsMenuAsPrimaryAction(true);
     timeLabel.setNumberOfLines(2);
     eventInformationLabel.setNumberOfLines(2);
     for (ui::View* part : std::initializer_list<ui::View*>{&eventImage, &timeLabel, &eventInformationLabel,

@@ -281,7 +281,7 @@ TEST_F(ControlWindow, AMenuOfAButtonOpensByKeyServesTheKeyboardAndGivesTheFocusB
     auto* const opener = hand.find(QStringLiteral("More"));
     opener->forceActiveFocus();
     hand.press(Qt::Key_Return);
-    ASSERT_NE(hand.find(QStringLiteral("Share")), nullptr);
+    ASSERT_TRUE(runUntil([&] { return hand.find(QStringLiteral("Share")) != nullptr; }));
     hand.press(Qt::Key_Escape);
     EXPECT_EQ(hand.find(QStringLiteral("Share")), nullptr);
     EXPECT_TRUE(opener->hasActiveFocus());

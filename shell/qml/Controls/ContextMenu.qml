@@ -94,6 +94,7 @@ Item {
                 ContextMenuRow {
                     id: back
                     visible: place.menu?.nested ?? false
+                    onVisibleChanged: rows.forceLayout()
                     width: parent.width
                     symbol: "chevron.backward"
                     onClicked: place.menu.goBack()
@@ -101,6 +102,7 @@ Item {
                 Repeater {
                     id: entries
                     model: place.menu?.entries ?? []
+                    onItemAdded: rows.forceLayout() // a quick second tap finds its row where it will stay
                     ContextMenuRow {
                         required property menuEntry modelData
                         required property int index
