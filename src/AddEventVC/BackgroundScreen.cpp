@@ -41,6 +41,8 @@ void BackgroundScreen::buildRows() {
              &colorCollection, &gradientsLabel, &gradientCollection})
         view().addSubview(*row);
     buildStrip(colorCollection);
+    colorCollection.setAccessibilityName(colorsLabel.text());
+    gradientCollection.setAccessibilityName(gradientsLabel.text());
     buildStrip(gradientCollection);
 }
 

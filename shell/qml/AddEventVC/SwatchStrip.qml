@@ -20,6 +20,7 @@ CollectionFlick {
     sideways: true
     height: 56
     activeFocusOnTab: !walked
+    Accessible.name: collection?.accessibleName ?? ""
     onActiveFocusChanged: if (activeFocus) walkTo(current)
     delegate: CollectionCell {
         id: swatch
