@@ -52,7 +52,7 @@ Machine::Machine(const Settings& settings, Clock& clock, Console& console,
       documentFiles_(settings.data / "documents"),
       pictureSharing_({picturesFolder(), settings.caches / "lent"}, QDBusConnection::sessionBus(), images_,
                       background_, mainQueue_),
-      photoLibrary_(QDBusConnection::sessionBus()) {}
+      photoLibrary_(QDBusConnection::sessionBus(), settings.data / "photos") {}
 
 Platform Machine::platform() {
     return {.console = console_,

@@ -13,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr mode_t kept = 0666; ///< as the user's mask allows
-constexpr mode_t lent = 0600;
+constexpr mode_t privately = 0600;
 constexpr auto lendingTime = std::chrono::hours(24);
 
 Error failure(const fs::path& path, int code) {
@@ -32,22 +32,46 @@ int writeAll(int file, std::string_view bytes) {
     return 0;
 }
 
-Result<fs::path> writeNew(const fs::path& folder, std::string_view bytes, mode_t mode) {
+/// Opens the new file `path`; -1 where that fails, with `errno` set.
+int makeFile(const fs::path& path, mode_t mode) {
     int file = -1;
-    fs::path path;
-    for (int number = 1; file < 0; ++number) {
-        path = folder / (number == 1 ? "Tessivo.png" : "Tessivo " + std::to_string(number) + ".png");
+    do {
         file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-        if (file < 0 && errno != EEXIST && errno != EINTR)
-            return failure(path, errno);
-    }
+    } while (file < 0 && errno == EINTR);
+    return file;
+}
+
+/// Writes the open new file `path` to the disk, and closes it.
+Result<fs::path> filled(int file, const fs::path& path, std::string_view bytes) {
     int code = writeAll(file, bytes);
+    if (code == 0 && ::fsync(file) != 0)
+        code = errno;
     if (::close(file) != 0 && code == 0)
         code = errno;
     if (code == 0)
         return path;
     ::unlink(path.c_str());
     return failure(path, code);
+}
+
+Result<fs::path> writeNew(const fs::path& folder, std::string_view bytes, mode_t mode) {
+    for (int number = 1;; ++number) {
+        const fs::path path =
+            folder / (number == 1 ? "Tessivo.png" : "Tessivo " + std::to_string(number) + ".png");
+        if (const int file = makeFile(path, mode); file >= 0)
+            return filled(file, path, bytes);
+        if (errno != EEXIST)
+            return failure(path, errno);
+    }
+}
+
+/// Makes a folder for the user alone.
+std::error_code makePrivate(const fs::path& folder) {
+    std::error_code code;
+    fs::create_directories(folder, code);
+    if (!code)
+        fs::permissions(folder, fs::perms::owner_all, code);
+    return code;
 }
 
 void forgetOld(const fs::path& folder) {
@@ -73,14 +97,18 @@ Result<fs::path> keepPicture(const fs::path& folder, std::string_view bytes) {
 }
 
 Result<fs::path> lendPicture(const fs::path& folder, std::string_view bytes) {
-    std::error_code code;
-    fs::create_directories(folder, code);
-    if (!code)
-        fs::permissions(folder, fs::perms::owner_all, code);
-    if (code)
+    if (const auto code = makePrivate(folder))
         return failure(folder, code.value());
     forgetOld(folder);
-    return writeNew(folder, bytes, lent);
+    return writeNew(folder, bytes, privately);
+}
+
+Result<fs::path> keepPrivately(const fs::path& folder, const std::string& name, std::string_view bytes) {
+    if (const auto code = makePrivate(folder))
+        return failure(folder, code.value());
+    const fs::path path = folder / name;
+    const int file = makeFile(path, privately);
+    return file < 0 ? failure(path, errno) : filled(file, path, bytes);
 }
 
 } // namespace tessivo::desktop

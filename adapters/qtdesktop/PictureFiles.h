@@ -3,6 +3,7 @@
 #include "Ports/Error.h"
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace tessivo::desktop {
@@ -15,5 +16,10 @@ Result<std::filesystem::path> keepPicture(const std::filesystem::path& folder, s
 /// The same for the eyes of the user alone, for another program to read. What was lent more than a day ago
 /// goes.
 Result<std::filesystem::path> lendPicture(const std::filesystem::path& folder, std::string_view bytes);
+
+/// Writes `bytes` as the new file `name` of `folder`, both for the user alone; it is on the disk when this
+/// returns. A name that is taken is an error.
+Result<std::filesystem::path> keepPrivately(const std::filesystem::path& folder, const std::string& name,
+                                            std::string_view bytes);
 
 } // namespace tessivo::desktop

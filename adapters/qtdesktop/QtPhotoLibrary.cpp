@@ -1,17 +1,25 @@
 #include "qtdesktop/QtPhotoLibrary.h"
 
+#include "qtdesktop/PictureFiles.h"
+
+#include <QFile>
 #include <QImageReader>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
+#include <QUuid>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace tessivo {
 namespace {
 
 const QString title = QStringLiteral("Photo Library");
-const QString kind = QStringLiteral("Pictures");
+const QString pictureKind = QStringLiteral("Pictures");
+
+using Choice = PhotoLibrary::Choice;
 
 constexpr int turnedAway = 1; // what both programs end with when the user chooses nothing
 
@@ -19,9 +27,11 @@ Error failure(std::string description) {
     return {"PhotoLibrary", 1, std::move(description)};
 }
 
-/// Photos are pixels: drawings are left out.
+/// The kinds that the program shows; which of them this machine reads, its plugins decide.
 bool isPhoto(const QByteArray& format) {
-    return !format.contains("svg") && !format.contains("pdf");
+    constexpr std::array kinds{"jpg", "jpeg", "png", "webp", "gif", "heic", "heif", "avif"};
+    const QByteArray kind = format.split('/').back();
+    return std::ranges::any_of(kinds, [&](const char* known) { return kind == known; });
 }
 
 QStringList mediaTypes() {
@@ -55,22 +65,32 @@ Chooser installedChooser() {
     const Chooser zenity{QStandardPaths::findExecutable(QStringLiteral("zenity")),
                          {QStringLiteral("--file-selection"), QStringLiteral("--title"), title,
                           QStringLiteral("--filename"), pictures + u'/', QStringLiteral("--file-filter"),
-                          kind + QStringLiteral(" | ") + namePatterns().join(u' ')}};
+                          pictureKind + QStringLiteral(" | ") + namePatterns().join(u' ')}};
     const bool kde = qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("KDE"));
     const Chooser& first = kde ? kdialog : zenity;
     return first.program.isEmpty() ? kde ? zenity : kdialog : first;
 }
 
+/// A portal's address in the program's own spelling: portals differ in what they escape.
+Choice choiceOf(const QString& address) {
+    if (const auto url = Url::parse(address.toStdString()); url && url->filePath())
+        return std::optional(*url);
+    const QUrl url(address);
+    if (!url.isLocalFile())
+        return failure("This photo is not a file on this computer.");
+    return std::optional(Url::ofFile(QFile::encodeName(url.toLocalFile()).toStdString()));
+}
+
 /// What a chooser that has ended says.
-PhotoLibrary::Choice choiceOf(QProcess& chooser, int code, QProcess::ExitStatus status) {
+Choice choiceOf(QProcess& chooser, int code, QProcess::ExitStatus status) {
     if (status == QProcess::NormalExit && code == turnedAway)
-        return std::optional<std::string>();
+        return std::optional<Url>();
     QByteArray path = chooser.readAllStandardOutput();
     if (path.endsWith('\n'))
         path.chop(1);
     if (status != QProcess::NormalExit || code != 0 || path.isEmpty())
         return failure("The window to choose a photo in has failed.");
-    return std::optional(QUrl::fromLocalFile(QString::fromLocal8Bit(path)).toEncoded().toStdString());
+    return std::optional(Url::ofFile(path.toStdString()));
 }
 
 } // namespace
@@ -81,15 +101,23 @@ void QtPhotoLibrary::choosePhoto(Chosen chosen) {
         delete open_;
     }
     open_ = portal_.chooseFile(
-        title, kind, mediaTypes(),
+        title, pictureKind, mediaTypes(),
         [this, chosen = std::move(chosen)](desktop::DesktopPortal::Answer answer, const QStringList& files) {
             if (answer == desktop::DesktopPortal::Answer::Absent)
                 runChooser(chosen);
             else if (files.isEmpty())
-                chosen(std::optional<std::string>());
+                chosen(std::optional<Url>());
             else
-                chosen(std::optional(files.front().toStdString()));
+                chosen(choiceOf(files.front()));
         });
+}
+
+Result<Url> QtPhotoLibrary::keep(std::string_view data) {
+    const std::string name = QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() + ".jpg";
+    const auto path = desktop::keepPrivately(folder_, name, data);
+    if (!path)
+        return path.error();
+    return Url::ofFile(path.value().string());
 }
 
 void QtPhotoLibrary::runChooser(Chosen chosen) {

@@ -5,6 +5,7 @@
 #include <QImageReader>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -29,8 +30,15 @@ QSize reduced(QSize size, PixelSize covering) {
     return {length(size.width()), length(size.height())};
 }
 
-std::shared_ptr<const Bitmap> bitmapOf(const QImage& image) {
-    const QImage pixels = image.convertToFormat(QImage::Format_RGBA8888);
+/// A file may hold data of any kind, whatever it is called: readers of rarer formats, less tried on hostile
+/// data, are not let near it.
+bool isKnown(const QByteArray& format) {
+    constexpr std::array formats{"jpeg", "png", "webp", "gif", "heic", "heif", "avif"};
+    return std::ranges::any_of(formats, [&](const char* known) { return format == known; });
+}
+
+std::shared_ptr<const Bitmap> bitmapOf(QImage pixels) {
+    pixels.convertTo(QImage::Format_RGBA8888); // in place: a large picture is not held twice
     if (pixels.isNull())
         return nullptr;
     auto bitmap = std::make_shared<Bitmap>();
@@ -68,6 +76,8 @@ std::shared_ptr<const Bitmap> QtImageCoding::decode(std::string_view data,
         return nullptr;
     QImageReader reader(&buffer);
     reader.setAutoTransform(true);
+    if (!isKnown(reader.format()))
+        return nullptr;
     const QSize size = reader.size();
     if (size.isValid() && isTooLarge(size))
         return nullptr;
@@ -76,8 +86,8 @@ std::shared_ptr<const Bitmap> QtImageCoding::decode(std::string_view data,
             std::swap(covering->width, covering->height);
         reader.setScaledSize(reduced(size, *covering));
     }
-    const QImage image = reader.read();
-    return image.isNull() || isTooLarge(image.size()) ? nullptr : bitmapOf(image);
+    QImage image = reader.read();
+    return image.isNull() || isTooLarge(image.size()) ? nullptr : bitmapOf(std::move(image));
 }
 
 std::optional<std::string> QtImageCoding::jpeg(const Bitmap& bitmap, double quality) const {

@@ -1,5 +1,6 @@
 #include "qtnetwork/Exchange.h"
 
+#include "Ports/Url.h"
 #include "qtnetwork/UrlError.h"
 
 #include <QNetworkAccessManager>
@@ -36,9 +37,8 @@ bool isAuthorization(const std::string& header) {
 }
 
 std::optional<int> statusOf(const QNetworkReply& reply) {
-    // Qt gives local files a status of its own making.
     const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    return status.isValid() && reply.url().scheme() != "file" ? std::optional(status.toInt()) : std::nullopt;
+    return status.isValid() ? std::optional(status.toInt()) : std::nullopt;
 }
 
 HttpHeaders headersOf(const QNetworkReply& reply) {
@@ -50,9 +50,11 @@ HttpHeaders headersOf(const QNetworkReply& reply) {
 
 } // namespace
 
-Exchange::Exchange(QNetworkAccessManager& manager, HttpRequest request, HttpClient::Completion completion)
+Exchange::Exchange(QNetworkAccessManager& manager, FileReader& files, HttpRequest request,
+                   HttpClient::Completion completion)
     : QObject(&manager), // an exchange that is still out goes with the client
       manager_(manager),
+      files_(files),
       request_(std::move(request)),
       origin_(QUrl(QString::fromStdString(request_.url), QUrl::StrictMode)),
       completion_(std::move(completion)) {
@@ -64,23 +66,36 @@ Exchange::Exchange(QNetworkAccessManager& manager, HttpRequest request, HttpClie
 }
 
 void Exchange::start() {
-    if (!origin_.isValid() || origin_.isRelative())
+    const auto url = Url::parse(request_.url);
+    if (!url || !origin_.isValid() || origin_.isRelative())
         return end(urlError(UrlErrorBadUrl, "The address is malformed."));
+    const auto path = url->filePath();
+    if (request_.kind == AddressKind::File ? !path : !url->isWeb())
+        return end(urlError(UrlErrorUnsupportedUrl, "An address of this kind is not fetched."));
     deadline_.start(milliseconds(request_.deadline));
-    send(origin_);
+    if (path)
+        readFile(*path);
+    else
+        send(origin_);
+}
+
+void Exchange::readFile(const std::string& path) {
+    silence_.start(milliseconds(request_.timeout));
+    files_.read(path, request_.maximumBody, this,
+                [this](Result<HttpResponse> answer) { end(std::move(answer)); });
 }
 
 void Exchange::send(const QUrl& url) {
     QNetworkRequest request(url);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+    if (request_.reload)
+        request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
     for (const auto& [name, value] : request_.headers) {
         if (!isAuthorization(name) || isSameService(url, origin_))
             request.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));
     }
     body_.clear();
-    // Servers know methods in capitals; "Get" would be another one to them. Only a plain get reads local
-    // files.
+    // Servers know methods in capitals; "Get" would be another one to them.
     const QByteArray method = QByteArray::fromStdString(request_.method).toUpper();
     reply_ = method == "GET" ? manager_.get(request) : manager_.sendCustomRequest(request, method);
     reply_->setParent(this);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Ports/HttpClient.h"
+#include "qtnetwork/FileReader.h"
 
 #include <QNetworkReply>
 #include <QObject>
@@ -15,12 +16,14 @@ namespace tessivo {
 /// completion. Deletes itself afterwards.
 class Exchange final : public QObject {
 public:
-    Exchange(QNetworkAccessManager& manager, HttpRequest request, HttpClient::Completion completion);
+    Exchange(QNetworkAccessManager& manager, FileReader& files, HttpRequest request,
+             HttpClient::Completion completion);
 
     void start();
     void cancel();
 
 private:
+    void readFile(const std::string& path);
     void send(const QUrl& url);
     void answering();
     void received();
@@ -31,6 +34,7 @@ private:
     void end(Result<HttpResponse> result);
 
     QNetworkAccessManager& manager_;
+    FileReader& files_;
     const HttpRequest request_;
     const QUrl origin_;
     HttpClient::Completion completion_;

@@ -1,6 +1,7 @@
 #include "qtnetwork/QtHttpClient.h"
 
 #include "qtnetwork/Exchange.h"
+#include "qtnetwork/FileReader.h"
 
 #include <QMetaObject>
 #include <QNetworkAccessManager>
@@ -42,13 +43,19 @@ QtHttpClient::QtHttpClient() : thread_(std::make_unique<QThread>()), context_(st
     thread_->setObjectName("network");
     context_->moveToThread(thread_.get());
     thread_->start();
-    QMetaObject::invokeMethod(
-        context_.get(), [this] { manager_ = new QNetworkAccessManager; }, Qt::BlockingQueuedConnection);
+    const auto making = [this] {
+        manager_ = new QNetworkAccessManager;
+        files_ = std::make_unique<FileReader>();
+    };
+    QMetaObject::invokeMethod(context_.get(), making, Qt::BlockingQueuedConnection);
 }
 
 QtHttpClient::~QtHttpClient() {
-    QMetaObject::invokeMethod(
-        context_.get(), [this] { delete std::exchange(manager_, nullptr); }, Qt::BlockingQueuedConnection);
+    const auto ending = [this] {
+        delete std::exchange(manager_, nullptr); // with the exchanges, which the files answer to
+        files_.reset();
+    };
+    QMetaObject::invokeMethod(context_.get(), ending, Qt::BlockingQueuedConnection);
     thread_->quit();
     thread_->wait();
 }
@@ -59,7 +66,7 @@ std::shared_ptr<HttpTask> QtHttpClient::start(HttpRequest request, Completion co
     auto starting = [this, exchange, request = std::move(request), completion = std::move(completion)] {
         if (!manager_)
             return; // the client is going
-        *exchange = new Exchange(*manager_, request, [this, completion](Result<HttpResponse> result) {
+        *exchange = new Exchange(*manager_, *files_, request, [this, completion](Result<HttpResponse> result) {
             completion(std::move(result));
             --underWay_;
             underWay_.notify_all();

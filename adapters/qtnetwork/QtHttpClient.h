@@ -10,8 +10,10 @@ class QThread;
 
 namespace tessivo {
 
-/// HTTP and local files on QtNetwork, with a thread of its own: completions are called there, so that
-/// pictures can be decoded without holding up the main thread. Lives within the life of a QCoreApplication.
+class FileReader;
+
+/// HTTP on QtNetwork and plain local files, with a thread of its own on which completions are called. Lives
+/// within the life of a QCoreApplication.
 class QtHttpClient final : public HttpClient {
 public:
     QtHttpClient();
@@ -30,8 +32,10 @@ public:
 private:
     std::atomic<int> underWay_ = 0;
     std::unique_ptr<QThread> thread_;
-    std::shared_ptr<QObject> context_;         ///< stands on the thread; what is posted to it runs there
-    QNetworkAccessManager* manager_ = nullptr; ///< made, used and deleted on the thread
+    std::shared_ptr<QObject> context_; ///< stands on the thread; what is posted to it runs there
+    // Made, used and deleted on the thread.
+    QNetworkAccessManager* manager_ = nullptr;
+    std::unique_ptr<FileReader> files_;
 };
 
 } // namespace tessivo

@@ -52,10 +52,11 @@ Error urlError(UrlErrorCode code, std::string description) {
 Outcome urlErrorOf(const QNetworkReply& reply) {
     if (reply.error() == QNetworkReply::NoError)
         return std::nullopt;
-    // A refusal is an answer all the same, unless the connection broke in the midst of it.
-    const bool answered = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
-    const bool isAboutTheAnswer = reply.error() >= QNetworkReply::ContentAccessDenied;
-    if (answered && isAboutTheAnswer && reply.error() != QNetworkReply::ProtocolFailure)
+    // A refusal is an answer all the same. An error beside any other status is one of reading the answer: the
+    // connection broke, or the body cannot be unpacked.
+    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const bool isAboutTheStatus = reply.error() >= QNetworkReply::ContentAccessDenied;
+    if (status >= 400 && isAboutTheStatus && reply.error() != QNetworkReply::ProtocolFailure)
         return std::nullopt;
     return urlError(codeOf(reply.error()), reply.errorString().toStdString());
 }

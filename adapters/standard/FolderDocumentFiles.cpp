@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t longestName = 250; ///< room for the suffix of a file that is being written
+constexpr std::size_t longestName = 250;
 
 bool isFileName(std::string_view name) {
     return !name.empty() && name != "." && name != ".." && name.size() <= longestName &&
@@ -31,7 +31,7 @@ Result<std::string> FolderDocumentFiles::write(std::string_view name, std::strin
         return writeError(error);
     fs::permissions(folder_, fs::perms::owner_all, error);
     const fs::path path = folder_ / name;
-    const fs::path unfinished = path.string() + ".new";
+    const fs::path unfinished = folder_.string() + ".unfinished"; // beside the folder: no document's name
     std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
     fs::permissions(unfinished, fs::perms::owner_read | fs::perms::owner_write, error);
     file.write(data.data(), static_cast<std::streamsize>(data.size()));

@@ -4,7 +4,8 @@
 
 namespace tessivo {
 
-/// The process's standard error stream. Each line goes out whole, whichever threads write.
+/// The process's standard error stream. Each line goes out whole, whichever threads write, with its control
+/// characters escaped.
 class StandardConsole final : public Console {
 public:
     /// From now on a reader that goes away does not end the process.

@@ -4,11 +4,9 @@
 #include "AddEventVC/Palette.h"
 #include "AddEventVC/UnsplashKeys.h"
 #include "Event/EventItem.h"
+#include "Interface/PictureLoader.h"
 #include "Ports/Clock.h"
 #include "Ports/Console.h"
-#include "Ports/HttpClient.h"
-#include "Ports/ImageCoding.h"
-#include "Ports/MainQueue.h"
 #include "UnsplashPicker/PickerServices.h"
 
 namespace tessivo {
@@ -131,9 +129,7 @@ void BackgroundScreen::mark(std::optional<int> color, std::optional<int> gradien
 }
 
 void BackgroundScreen::photosButtonTapped() {
-    const auto picker = std::make_shared<ImagePickerController>(services());
-    picker->delegate = weakSelf<ImagePickerControllerDelegate>(this);
-    present(picker);
+    ImagePickerController::open(services(), *this, weakSelf<ImagePickerControllerDelegate>(this));
 }
 
 void BackgroundScreen::imagePickerControllerDidFinishPickingMedia(ImagePickerController& picker,
@@ -148,9 +144,12 @@ void BackgroundScreen::imagePickerControllerDidFinishPickingMedia(ImagePickerCon
 }
 
 void BackgroundScreen::imagesButtonTapped() {
-    auto configuration = services().photoPicker().configuration();
+    unsplash::UnsplashPickerConfiguration configuration(services().photoPicker().configuration().apiURL());
     configuration.accessKey = unsplashAccessKey;
     configuration.secretKey = unsplashSecretKey;
+    configuration.query.reset();
+    configuration.allowsMultipleSelection = false;
+    configuration.contentFilterLevel = unsplash::ContentFilterLevel::low;
     const auto picker = unsplash::UnsplashPicker::make(services().photoPicker(), services().window(),
                                                        std::move(configuration));
     picker->photoPickerDelegate = weakSelf<unsplash::UnsplashPickerDelegate>(this);
@@ -164,20 +163,17 @@ void BackgroundScreen::photoPickerDidSelect(unsplash::UnsplashPicker&, const uns
     const auto regular = photo->urls.find(unsplash::URLKind::regular);
     if (regular == photo->urls.end())
         return;
-    // The network's thread must not be the one that lets go of a screen.
-    const auto received = [weak = weak_from_this(), platform = platform(), photo,
-                           url = regular->second](const Result<HttpResponse>& answer) {
-        if (!answer)
-            return;
-        const ui::Image image{{}, platform.images.decode(answer.value().body, std::nullopt)};
-        if (!image.isSet())
-            return;
-        platform.mainQueue.post([weak, photo, url, image] {
-            if (const auto self = std::static_pointer_cast<BackgroundScreen>(weak.lock()))
-                self->showPreview(*photo, url, image);
+    const Url url = regular->second;
+    services().pictureLoader().load(
+        {.http = {.url = url.absoluteString()},
+         .covering = UnsplahImageView::pixelsDrawn(screen()),
+         .cache = nullptr,
+         .failureLine = {}},
+        [weak = weak_from_this(), photo, url](const std::shared_ptr<const Bitmap>& picture, bool) {
+            const auto self = std::static_pointer_cast<BackgroundScreen>(weak.lock());
+            if (self && picture)
+                self->showPreview(*photo, url, {{}, picture});
         });
-    };
-    platform().http.start({.url = regular->second.absoluteString()}, received);
 }
 
 void BackgroundScreen::showPreview(const unsplash::UnsplashPhoto& photo, const Url& url, ui::Image image) {

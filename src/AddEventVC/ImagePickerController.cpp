@@ -3,7 +3,7 @@
 #include "AddEventVC/PictureCrop.h"
 #include "Extension/EventView.h"
 #include "Ports/Console.h"
-#include "Ports/PhotoLibrary.h"
+#include "Ports/ImageCoding.h"
 #include "Support/EventImages.h"
 
 #include <algorithm>
@@ -13,6 +13,7 @@ namespace {
 
 constexpr double maximumZoom = 4;
 constexpr double barHeight = 56;
+constexpr double keptQuality = 1;
 
 } // namespace
 
@@ -45,50 +46,52 @@ void ImagePickerController::viewDidLoad() {
     screenSizeDidChange();
 }
 
-void ImagePickerController::viewDidAppear() {
-    if (!opened_)
-        openLibrary();
-}
-
-void ImagePickerController::openLibrary() {
-    opened_ = true;
-    platform().photoLibrary.choosePhoto([this, alive = weak_from_this()](const PhotoLibrary::Choice& choice) {
-        if (alive.expired())
+void ImagePickerController::open(SharedServices& services, ui::ViewController& presenter,
+                                 std::weak_ptr<ImagePickerControllerDelegate> delegate) {
+    const auto chosen = [&services, weak = presenter.weak_from_this(),
+                         delegate = std::move(delegate)](const PhotoLibrary::Choice& choice) {
+        const auto below = weak.lock();
+        const bool isTurnedDown = choice && !choice.value();
+        if (!below || below->presentedViewController() || isTurnedDown)
             return;
-        if (!choice)
-            tell(choice.error().description);
-        else if (choice.value())
-            load(*choice.value());
-        else if (!imageView.image().isSet())
-            cancelButtonTapped(); // and a photo that was chosen before stays
-    });
+        const auto picker = std::make_shared<ImagePickerController>(services);
+        picker->delegate = delegate;
+        below->present(picker);
+        picker->take(choice);
+    };
+    services.platform().photoLibrary.choosePhoto(chosen);
 }
 
-void ImagePickerController::load(const std::string& url) {
+void ImagePickerController::take(const PhotoLibrary::Choice& choice) {
+    if (!choice)
+        tell(choice.error().description);
+    else if (choice.value())
+        load(*choice.value());
+}
+
+void ImagePickerController::load(const Url& url) {
     const ui::Size drawn{cropView.frame().width * maximumZoom, cropView.frame().height * maximumZoom};
     const int choice = ++choices_;
-    const auto read = [this, url, choice, alive = weak_from_this()](ui::Image photo) {
+    const auto read = [this, choice, alive = weak_from_this()](ui::Image photo) {
         if (alive.expired() || choice != choices_)
             return;
         if (photo.isSet())
-            return showPhoto(std::move(photo), url);
+            return showPhoto(std::move(photo));
         platform().console.print("Не удалось загрузить изображение.");
         tell("This photo cannot be shown.");
     };
-    services().eventImages().readPhoto(url, drawn, read);
+    services().eventImages().loadPhoto(url.absoluteString(), drawn, read);
 }
 
-void ImagePickerController::showPhoto(ui::Image photo, const std::string& url) {
+void ImagePickerController::showPhoto(ui::Image photo) {
     messageLabel.setText("");
     imageView.setImage(std::move(photo));
-    imageURL_ = url;
     chooseButton.setHidden(false);
     screenSizeDidChange();
 }
 
 void ImagePickerController::tell(std::string message) {
     imageView.setImage({});
-    imageURL_.reset();
     chooseButton.setHidden(true);
     messageLabel.setText(std::move(message));
 }
@@ -124,12 +127,25 @@ void ImagePickerController::cancelButtonTapped() {
 }
 
 void ImagePickerController::chooseButtonTapped() {
-    if (const auto told = delegate.lock())
-        told->imagePickerControllerDidFinishPickingMedia(*this, {imageView.image(), framedPart(), imageURL_});
+    const auto told = delegate.lock();
+    if (!told)
+        return;
+    const auto part = framedPart();
+    const auto data = part ? platform().images.jpeg(*part->bitmap, keptQuality) : std::nullopt;
+    if (!data)
+        return tell("This photo cannot be shown.");
+    const auto address = platform().photoLibrary.keep(*data);
+    if (!address)
+        return tell(address.error().description);
+    told->imagePickerControllerDidFinishPickingMedia(
+        *this, {imageView.image(), part, address.value().absoluteString()});
 }
 
 void ImagePickerController::libraryButtonTapped() {
-    openLibrary();
+    platform().photoLibrary.choosePhoto([this, alive = weak_from_this()](const PhotoLibrary::Choice& choice) {
+        if (!alive.expired())
+            take(choice); // with nothing chosen, the photo that was chosen before stays
+    });
 }
 
 } // namespace tessivo

@@ -4,7 +4,7 @@
 #include "Interface/ImageView.h"
 #include "Interface/Label.h"
 #include "Interface/ScrollView.h"
-#include "Ports/Error.h"
+#include "Ports/PhotoLibrary.h"
 #include "Support/Screen.h"
 
 #include <optional>
@@ -18,7 +18,7 @@ class ImagePickerController;
 struct PickedMedia {
     std::optional<ui::Image> originalImage;
     std::optional<ui::Image> editedImage; ///< the part that was in the frame
-    std::optional<std::string> imageURL;  ///< of the file, as the library gave it
+    std::optional<std::string> imageURL;  ///< of a file of that part
 };
 
 /// Hears how the photo library was left, and takes its screen away. Held weakly.
@@ -30,14 +30,21 @@ public:
     virtual void imagePickerControllerDidCancel(ImagePickerController& picker) = 0;
 };
 
-/// The user's photo library: the desktop's chooser opens as soon as the screen stands; the chosen photo then
-/// lies under a frame of a card's shape, to be moved and enlarged. A photo that cannot be shown, or a desktop
-/// without a chooser, is told on the screen, and another photo can be chosen.
+/// The user's photo library. The desktop's chooser comes first; the chosen photo then lies under a frame of a
+/// card's shape, to be moved and enlarged. What was in the frame becomes a file of the library's own, so that
+/// the card shows what was framed, also when the photo has gone. A photo that cannot be shown or kept, or a
+/// desktop without a chooser, is told on the screen, and another photo can be chosen.
 class ImagePickerController final : public Screen {
 public:
     using Screen::Screen;
 
     std::weak_ptr<ImagePickerControllerDelegate> delegate;
+
+    /// Opens the desktop's chooser over `presenter`, which stays on the screen until a photo is chosen; the
+    /// picker is then presented on it, unless it has been left or covered meanwhile. A user who chooses
+    /// nothing sees nothing of the picker.
+    static void open(SharedServices& services, ui::ViewController& presenter,
+                     std::weak_ptr<ImagePickerControllerDelegate> delegate);
 
     /// The frame: what is in view is what is taken.
     ui::ScrollView cropView{controls, "cropView"};
@@ -57,18 +64,15 @@ public:
 
 protected:
     void viewDidLoad() override;
-    void viewDidAppear() override;
     void screenSizeDidChange() override;
 
 private:
-    void openLibrary();
-    void load(const std::string& url);
-    void showPhoto(ui::Image photo, const std::string& url);
+    void take(const PhotoLibrary::Choice& choice);
+    void load(const Url& url);
+    void showPhoto(ui::Image photo);
     void tell(std::string message);
     [[nodiscard]] std::optional<ui::Image> framedPart() const;
 
-    std::optional<std::string> imageURL_;
-    bool opened_ = false;
     int choices_ = 0; ///< a photo that comes after a later choice is dropped
 };
 

@@ -1,6 +1,7 @@
 #include "AddEventVC/UnsplahImageView.h"
 
 #include "AddEventVC/PictureCrop.h"
+#include "Interface/PictureLoader.h"
 #include "Ports/Console.h"
 #include "Ports/LinkOpener.h"
 
@@ -49,6 +50,10 @@ void UnsplahImageView::screenSizeDidChange() {
     contentView.setFrame({0, 0, width, height});
     unsplashImage.setFrame({0, 0, width, height});
     scrollView.setContentSize({width, height});
+}
+
+PixelSize UnsplahImageView::pixelsDrawn(const ui::MainScreen& screen) {
+    return ui::pixelsCovering({0, screen.height()}, screen.scale());
 }
 
 void UnsplahImageView::linkPhoto() {

@@ -3,6 +3,7 @@
 #include "Interface/Button.h"
 #include "Interface/ImageView.h"
 #include "Interface/ScrollView.h"
+#include "Ports/ImageCoding.h"
 #include "Ports/Url.h"
 #include "Support/Screen.h"
 
@@ -35,6 +36,9 @@ public:
     ui::Button prevButton{controls, "prevButton"};
 
     [[nodiscard]] std::string screenName() const override { return "UnsplahImageView"; }
+
+    /// What this screen draws of a picture: all of its height.
+    [[nodiscard]] static PixelSize pixelsDrawn(const ui::MainScreen& screen);
 
     /// Opens the photographer's page.
     void linkPhoto();

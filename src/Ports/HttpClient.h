@@ -38,6 +38,12 @@ enum UrlErrorCode : int {
 
 using HttpHeaders = std::map<std::string, std::string>;
 
+/// What an address may be: one that comes from the network must not reach the user's files.
+enum class AddressKind {
+    Web, ///< http and https
+    File ///< a plain file of this machine
+};
+
 struct HttpRequest {
     std::string url;
     std::string method = "GET";
@@ -45,6 +51,8 @@ struct HttpRequest {
     Seconds timeout{60};                  ///< without a byte from the other side
     Seconds deadline{600};                ///< for the whole exchange, redirects included
     std::size_t maximumBody = 64u << 20u; ///< bytes; a longer body is an error
+    AddressKind kind = AddressKind::Web;  ///< an address of the other kind is an error
+    bool reload = false;                  ///< asks the caches on the way for a fresh answer
 };
 
 struct HttpResponse {
@@ -74,7 +82,8 @@ public:
     /// never inline and never on the main thread, one after the other; any status is a success here.
     /// Redirects are followed, but never from a secure address to an open one, and an "Authorization" header
     /// goes to the address asked for and to no other. The client answers from the network, never from a
-    /// cache. Completions that are still out when the client goes are dropped.
+    /// cache of its own. A local file that hangs delays other local files and nothing else. Completions that
+    /// are still out when the client goes are dropped.
     virtual std::shared_ptr<HttpTask> start(HttpRequest request, Completion completion) = 0;
 };
 

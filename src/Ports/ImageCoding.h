@@ -16,7 +16,8 @@ struct PixelSize {
     friend bool operator==(const PixelSize&, const PixelSize&) = default;
 };
 
-/// Pictures from files of the usual kinds, and back. Pure, any thread.
+/// Pictures from JPEG, PNG, WebP, GIF, HEIC and AVIF data, as far as the machine reads them, and back. Pure,
+/// any thread.
 class ImageCoding {
 public:
     virtual ~ImageCoding() = default;

@@ -9,7 +9,9 @@ class LinkOpener {
 public:
     virtual ~LinkOpener() = default;
 
-    /// Opens `url` in the user's browser or whatever is set for it. Nobody hears how that went.
+    /// Opens `url` in the user's browser or mail program. Addresses other than http, https and mailto are
+    /// ignored: a link that came from the network must not start any other program. Failures are not
+    /// reported.
     virtual void open(const std::string& url) = 0;
 };
 

@@ -139,6 +139,36 @@ std::optional<Url> Url::parse(std::string_view text) {
     return url;
 }
 
+Url Url::ofFile(std::string_view path) {
+    Url url;
+    url.origin_ = "file://";
+    url.path_ = escaped(path, pathMarks);
+    return url;
+}
+
+std::string Url::scheme() const {
+    const auto colon = origin_.find(':');
+    std::string scheme = colon == std::string::npos ? "" : origin_.substr(0, colon);
+    std::ranges::transform(scheme, scheme.begin(), [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    });
+    return scheme;
+}
+
+bool Url::isWeb() const {
+    const std::string name = scheme();
+    return name == "http" || name == "https";
+}
+
+std::optional<std::string> Url::filePath() const {
+    const std::string_view host = std::string_view(origin_).substr(origin_.find(':') + 1); // npos + 1 is 0
+    std::string path = unescaped(path_);
+    if (scheme() != "file" || (!host.empty() && host != "//" && host != "//localhost") ||
+        !path.starts_with('/') || path.find('\0') != std::string::npos)
+        return std::nullopt;
+    return path;
+}
+
 std::string Url::absoluteString() const {
     std::string text = origin_ + path_;
     if (query_)

@@ -8,14 +8,27 @@
 namespace tessivo {
 
 /// An address, whole or relative, taken apart as it is written: nothing is decoded, resolved or put in order.
+/// What this class accepts is an address everywhere in the program, whoever hands it in.
 class Url {
 public:
+    /// The address of the local file at `path`, an absolute path of any bytes.
+    [[nodiscard]] static Url ofFile(std::string_view path);
+
     /// Empty for text that is empty or holds what no address can: blanks, letters beyond ASCII, broken
     /// percent escapes, a malformed scheme or port.
     [[nodiscard]] static std::optional<Url> parse(std::string_view text);
 
     /// The whole text, as it was read or built.
     [[nodiscard]] std::string absoluteString() const;
+
+    /// The scheme in lower case, without its colon; empty for a relative address.
+    [[nodiscard]] std::string scheme() const;
+
+    /// Whether it can be asked over the network: http or https.
+    [[nodiscard]] bool isWeb() const;
+
+    /// The path of the local file that a "file" address names; empty for every other address.
+    [[nodiscard]] std::optional<std::string> filePath() const;
 
     [[nodiscard]] const std::optional<std::string>& query() const { return query_; }
 

@@ -1,25 +1,19 @@
 #include "Support/EventImages.h"
 
 #include "Interface/MainScreen.h"
+#include "Interface/PictureLoader.h"
 #include "Ports/Console.h"
 #include "Ports/DocumentFiles.h"
-#include "Ports/HttpClient.h"
 #include "Ports/ImageCoding.h"
-#include "Ports/MainQueue.h"
 #include "Ports/Url.h"
-
-#include <cmath>
 
 namespace tessivo {
 namespace {
 
 constexpr double quality = 1;
 
-/// What must be read of a picture to draw it without blur.
 PixelSize pixelsFor(ui::Size drawn, const ui::MainScreen& screen) {
-    const ui::Size size = drawn.width > 0 && drawn.height > 0 ? drawn : screen.size();
-    return {static_cast<int>(std::ceil(size.width * screen.scale())),
-            static_cast<int>(std::ceil(size.height * screen.scale()))};
+    return ui::pixelsCovering(drawn.width > 0 && drawn.height > 0 ? drawn : screen.size(), screen.scale());
 }
 
 } // namespace
@@ -64,25 +58,14 @@ ui::Image EventImages::showUnsplashImage(const std::string& urlText, ui::Size dr
 }
 
 void EventImages::loadPhoto(const std::string& photoPath, ui::Size drawn,
-                            std::function<void(ui::Image)> show) const {
-    readPhoto(photoPath, drawn, [show = std::move(show)](ui::Image image) {
-        if (image.isSet())
-            show(std::move(image));
-    });
-}
-
-void EventImages::readPhoto(const std::string& photoPath, ui::Size drawn,
                             std::function<void(ui::Image)> read) const {
-    const auto received = [platform = platform_, pixels = pixelsFor(drawn, screen_),
-                           read = std::move(read)](const Result<HttpResponse>& answer) {
-        ui::Image image;
-        if (answer)
-            image.bitmap = platform.images.decode(answer.value().body, pixels);
-        else
-            platform.console.print("Ошибка загрузки изображения: " + answer.error().description);
-        platform.mainQueue.post([read, image] { read(image); });
-    };
-    platform_.http.start({.url = photoPath}, received);
+    loader_.load({.http = {.url = photoPath, .kind = AddressKind::File},
+                  .covering = pixelsFor(drawn, screen_),
+                  .cache = nullptr,
+                  .failureLine = "Ошибка загрузки изображения: "},
+                 [read = std::move(read)](const std::shared_ptr<const Bitmap>& picture, bool) {
+                     read({{}, picture});
+                 });
 }
 
 } // namespace tessivo

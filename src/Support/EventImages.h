@@ -12,39 +12,39 @@ namespace tessivo {
 
 namespace ui {
 class MainScreen;
-}
+class PictureLoader;
+} // namespace ui
 
 /// The pictures behind events. A picture of the photo service is kept in the program's own documents, under
-/// the last name of its address: events with the same picture share one file. A photo of the user's stays
-/// where it lies. What goes wrong is said on the console only. Main thread.
+/// the last name of its address: events with the same picture share one file. A photo of the user's is read
+/// from the address that the photo library gave. Failures go to the console only. Main thread.
 class EventImages {
 public:
-    EventImages(const Platform& platform, const ui::MainScreen& screen)
-        : platform_(platform), screen_(screen) {}
+    /// All of these outlive the images.
+    EventImages(const Platform& platform, const ui::MainScreen& screen, ui::PictureLoader& loader)
+        : platform_(platform), screen_(screen), loader_(loader) {}
 
-    /// Writes the picture as the document `fileName`, in place of an older one; gives its path. Empty where
-    /// it cannot be coded or written.
+    /// Writes the picture as the document `fileName`, in place of an older one, and returns its path; empty
+    /// if it cannot be encoded or written.
     [[nodiscard]] std::optional<std::string> saveImage(const ui::Image& image, const std::string& fileName);
 
-    /// Keeps the chosen picture of that address, and says on the console how that went.
+    /// Saves the chosen picture of that address, and logs the outcome.
     void keepUnsplashImage(const ui::Image& image, const std::string& urlText);
 
-    /// The kept picture of that address, for an area of `drawn` points; no picture where there is none.
+    /// The saved picture of that address, for an area of `drawn` points; unset if there is none.
     [[nodiscard]] ui::Image loadUnsplashImage(const std::string& urlText, ui::Size drawn) const;
 
-    /// The kept picture of that address; an absent one is said on the console.
+    /// The same; logs a picture that is missing.
     [[nodiscard]] ui::Image showUnsplashImage(const std::string& urlText, ui::Size drawn) const;
 
-    /// Reads the picture at an address off the main thread, and hands it to `show` on it. Nothing comes of an
-    /// address that gives no picture.
-    void loadPhoto(const std::string& photoPath, ui::Size drawn, std::function<void(ui::Image)> show) const;
-
-    /// The same, but `read` always hears how it ended: of an address that gives no picture, without one.
-    void readPhoto(const std::string& photoPath, ui::Size drawn, std::function<void(ui::Image)> read) const;
+    /// Reads the photo at `photoPath` off the main thread and hands it to `read` on it: unset if the file
+    /// cannot be read, which is logged, or holds no picture.
+    void loadPhoto(const std::string& photoPath, ui::Size drawn, std::function<void(ui::Image)> read) const;
 
 private:
     const Platform& platform_;
     const ui::MainScreen& screen_;
+    ui::PictureLoader& loader_;
 };
 
 } // namespace tessivo

@@ -3,6 +3,7 @@
 #include "Event/CoreDataStack.h"
 #include "Event/FetchEventDataType.h"
 #include "Event/ReminderScheduler.h"
+#include "Interface/PictureLoader.h"
 #include "Interface/ViewController.h"
 #include "Support/EventImages.h"
 #include "Support/LocalizationVariables.h"
@@ -47,9 +48,16 @@ const LocalizationVariables& SharedServices::localizationVariables() {
     return *localizationVariables_;
 }
 
+ui::PictureLoader& SharedServices::pictureLoader() {
+    if (!pictureLoader_)
+        pictureLoader_ = std::make_shared<ui::PictureLoader>(ui::PictureLoader::Machine{
+            platform_.http, platform_.background, platform_.images, platform_.mainQueue, platform_.console});
+    return *pictureLoader_;
+}
+
 EventImages& SharedServices::eventImages() {
     if (!eventImages_)
-        eventImages_ = std::make_unique<EventImages>(platform_, window_.screen);
+        eventImages_ = std::make_unique<EventImages>(platform_, window_.screen, pictureLoader());
     return *eventImages_;
 }
 

@@ -21,8 +21,9 @@ class PickerServices;
 }
 
 namespace ui {
+class PictureLoader;
 struct WindowContext;
-}
+} // namespace ui
 
 /// What the program's screens share, each made on first use and kept for the life of the program. Main
 /// thread.
@@ -45,6 +46,8 @@ public:
     [[nodiscard]] FetchEventDataType& fetchEventDataType();
     [[nodiscard]] ReminderScheduler& reminderScheduler();
     [[nodiscard]] const LocalizationVariables& localizationVariables();
+    /// The program's way from an address to a picture.
+    [[nodiscard]] ui::PictureLoader& pictureLoader();
     [[nodiscard]] EventImages& eventImages();
     [[nodiscard]] unsplash::PickerServices& photoPicker();
 
@@ -59,6 +62,7 @@ private:
     std::unique_ptr<ReminderScheduler> reminderScheduler_;
     std::unique_ptr<FetchEventDataType> fetchEventDataType_;
     std::unique_ptr<LocalizationVariables> localizationVariables_;
+    std::shared_ptr<ui::PictureLoader> pictureLoader_;
     std::unique_ptr<EventImages> eventImages_;
     std::unique_ptr<unsplash::PickerServices> photoPicker_;
     std::vector<Subscription> kept_;

@@ -16,6 +16,7 @@ struct StatusRange {
 constexpr StatusRange successCodes{200, 299};
 constexpr StatusRange failureCodes{400, 499};
 constexpr auto httpMethod = "Get";
+constexpr std::size_t maximumAnswer = 4u << 20u; // bytes of JSON
 
 /// "key=value&" for each parameter. Escaping is left to the address: a "&" in a value starts another
 /// parameter.
@@ -67,6 +68,8 @@ std::optional<HttpRequest> NetworkRequest::prepareURLRequest() const {
     HttpRequest request;
     request.url = components->withQuery(parameters ? queryText(*parameters) : "").absoluteString();
     request.timeout = timeoutInterval;
+    request.maximumBody = maximumAnswer;
+    request.reload = true;
     return request;
 }
 

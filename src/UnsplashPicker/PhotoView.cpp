@@ -3,8 +3,8 @@
 #include "Interface/Animation.h"
 #include "Interface/ViewController.h"
 
+#include <array>
 #include <charconv>
-#include <cmath>
 
 namespace tessivo::unsplash {
 namespace {
@@ -13,13 +13,6 @@ constexpr Seconds dissolve{0.25};
 constexpr double fadeHeight = 56;
 constexpr double nameHeight = 32;
 constexpr double nameInset = 12;
-
-constexpr double maximumPixels = 16384;
-
-/// A length in whole pixels; a photo without a width has no length that means anything.
-int pixels(double points, double scale) {
-    return static_cast<int>(std::fmin(std::fmax(std::ceil(points * scale), 1), maximumPixels));
-}
 
 std::string nameOf(const UnsplashUser& user) {
     return user.firstName && user.lastName ? *user.firstName + " " + *user.lastName : user.username;
@@ -41,7 +34,7 @@ PhotoView::PhotoView(ui::ControlRegistry& controls, PickerServices& services, ui
       gradientView(controls, "gradientView"),
       userNameLabel(controls, "userNameLabel"),
       window_(window),
-      imageDownloader(std::make_shared<ImageDownloader>(services)),
+      imageDownloader(services),
       overlayViews{&gradientView, &userNameLabel} {
     imageView.setContentMode(ui::ContentMode::AspectFill);
     imageView.setClipsToBounds(true);
@@ -83,12 +76,11 @@ void PhotoView::downloadImage(const UnsplashPhoto& photo) {
     const double scale = window_.screen.scale();
     const Url sized = regular->second.appendingQueryItem("w", decimalText(frame().width))
                           .appendingQueryItem("dpr", std::to_string(static_cast<int>(scale)));
-    const PixelSize covering{pixels(frame().width, scale), pixels(frame().height, scale)};
-    imageDownloader->download(sized, covering,
-                              [this, wanted = photo.identifier](const ui::Image& image, bool fromCache) {
-                                  if (currentPhotoID_ == wanted)
-                                      show(image, fromCache);
-                              });
+    const auto received = [this, wanted = photo.identifier](const ui::Image& image, bool fromCache) {
+        if (currentPhotoID_ == wanted)
+            show(image, fromCache);
+    };
+    imageDownloader.download(sized, ui::pixelsCovering(frame().size(), scale), received);
 }
 
 void PhotoView::show(const ui::Image& image, bool fromCache) {
@@ -107,7 +99,7 @@ void PhotoView::prepareForReuse() {
     imageView.setBackgroundColor(ui::ColorRef::clear());
     setBackgroundColor(ui::ColorRef::clear());
     imageView.setImage({});
-    imageDownloader->cancel();
+    imageDownloader.cancel();
 }
 
 } // namespace tessivo::unsplash

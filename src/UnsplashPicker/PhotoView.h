@@ -41,7 +41,7 @@ private:
     void show(const ui::Image& image, bool fromCache);
 
     ui::WindowContext& window_;
-    std::shared_ptr<ImageDownloader> imageDownloader;
+    ImageDownloader imageDownloader;
     std::optional<std::string> currentPhotoID_;
     std::array<ui::View*, 2> overlayViews;
 };

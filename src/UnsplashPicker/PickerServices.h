@@ -1,8 +1,9 @@
 #pragma once
 
+#include "Interface/PictureLoader.h"
 #include "Ports/Console.h"
 #include "Ports/LocalizedTexts.h"
-#include "UnsplashPicker/ImageCache.h"
+#include "Ports/ResponseCache.h"
 #include "UnsplashPicker/PickerPlatform.h"
 #include "UnsplashPicker/UnsplashPickerConfiguration.h"
 
@@ -31,13 +32,23 @@ public:
         return platform_.texts->localizedString(key);
     }
 
-    /// Opened at the first call, with the capacities then in force; later ones change nothing.
-    [[nodiscard]] std::shared_ptr<ResponseCache> imageCache() { return imageCache_.shared(configuration_); }
+    /// The one cache of downloaded pictures. Made on first use; a configuration given later does not resize
+    /// it.
+    [[nodiscard]] std::shared_ptr<ResponseCache> imageCache() {
+        if (!imageCache_)
+            imageCache_ =
+                platform_.caches.open("unsplash", configuration_.memoryCapacity, configuration_.diskCapacity);
+        return imageCache_;
+    }
+    [[nodiscard]] ui::PictureLoader& pictures() { return *pictures_; }
 
 private:
     const PickerPlatform platform_;
     UnsplashPickerConfiguration configuration_;
-    ImageCache imageCache_{platform_.caches};
+    std::shared_ptr<ResponseCache> imageCache_;
+    std::shared_ptr<ui::PictureLoader> pictures_ =
+        std::make_shared<ui::PictureLoader>(ui::PictureLoader::Machine{
+            platform_.http, platform_.background, platform_.images, platform_.mainQueue, platform_.console});
 };
 
 } // namespace tessivo::unsplash

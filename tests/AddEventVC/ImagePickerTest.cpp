@@ -15,7 +15,7 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr auto photo = "file:///home/ada/sea%20side.jpg";
+constexpr auto photo = "/home/ada/sea side.jpg";
 
 /// A small file that says it is a photo of a hundred million pixels.
 std::string hugePhoto(const ImageCoding& images) {
@@ -37,19 +37,25 @@ protected:
         (void)program.console.take();
     }
 
-    ImagePickerController& openLibrary() {
-        chooser->photosButton.tap();
+    /// Chooses the file in the desktop's window.
+    void choose(const std::string& path) {
+        program.photoLibrary.choose(std::optional(Url::ofFile(path)));
         program.settle();
-        return program.top<ImagePickerController>();
     }
-    /// Chooses the file in the desktop's window; it holds `data`.
+    /// The same; it holds `data`.
     void choose(const Result<HttpResponse>& answer) {
-        program.photoLibrary.choose(std::optional<std::string>(photo));
+        choose(std::string(photo));
         program.http.answer(answer);
         program.settle();
     }
     void choose(const Bitmap& picture) {
         choose(HttpResponse{std::nullopt, {}, *program.images.png(picture)});
+    }
+    /// The picker with a photo in it, chosen on the background step.
+    ImagePickerController& open(const Bitmap& picture) {
+        chooser->photosButton.tap();
+        choose(picture);
+        return program.top<ImagePickerController>();
     }
     [[nodiscard]] const Bitmap& preview() const { return *chooser->eventView.photoView.image().bitmap; }
 
@@ -59,9 +65,15 @@ protected:
 
 TEST_F(ImagePickerTest, TheFramedPartIsPreviewedAndTheFileBecomesTheBackground) {
     chooser->eventData->unsplashPath = "https://i.test/former";
-    auto& picker = openLibrary();
+    chooser->photosButton.tap();
+    program.settle();
+    EXPECT_EQ(program.stack().top(), chooser) << "the step stays while the desktop's window is open";
+    choose(std::string(photo));
+    auto& picker = program.top<ImagePickerController>();
     EXPECT_TRUE(picker.chooseButton.isHidden()) << "there is nothing to choose yet";
-    choose(stripes(20, 5));
+    EXPECT_EQ(program.http.exchanges().back()->request.url, "file:///home/ada/sea%20side.jpg");
+    program.http.answer(HttpResponse{std::nullopt, {}, *program.images.png(stripes(20, 5))});
+    program.settle();
     EXPECT_FALSE(picker.chooseButton.isHidden());
     const ui::Size frame = picker.cropView.bounds().size();
     EXPECT_EQ(frame, (ui::Size{358, 200}));
@@ -76,7 +88,9 @@ TEST_F(ImagePickerTest, TheFramedPartIsPreviewedAndTheFileBecomesTheBackground) 
     EXPECT_EQ(preview().width, 9); // 358 of 800 points of 20 columns, grown to whole ones
     EXPECT_EQ(redAt(preview(), 8), 190);
     EXPECT_EQ(chooser->eventView.photoView.contentMode(), ui::ContentMode::AspectFill);
-    EXPECT_EQ(chooser->eventData->photoPath, photo);
+    EXPECT_EQ(chooser->eventData->photoPath, "file:///photos/1.jpg");
+    const auto kept = program.images.decode(program.photoLibrary.kept.back(), std::nullopt);
+    EXPECT_EQ((PixelSize{kept->width, kept->height}), (PixelSize{9, 5})) << "a file of what was framed";
     EXPECT_EQ(chooser->eventData->gradient, NO_VALUE);
     EXPECT_EQ(chooser->eventData->color, NO_VALUE);
     EXPECT_EQ(chooser->eventData->unsplashPath, std::nullopt);
@@ -84,16 +98,16 @@ TEST_F(ImagePickerTest, TheFramedPartIsPreviewedAndTheFileBecomesTheBackground) 
 
     chooser->nextButton.tap();
     program.settle();
-    EXPECT_TRUE(program.console.take().empty()) << "a photo of the user's is not copied";
+    EXPECT_TRUE(program.console.take().empty());
     program.restart();
     const auto row = program.services().coreDataStack().fetchEvents().front();
-    EXPECT_EQ(row->photoPath(), photo);
+    EXPECT_EQ(row->photoPath(), "file:///photos/1.jpg");
     const auto cell = std::make_shared<EventCell>(program.services());
     cell->configure(*row);
-    EXPECT_EQ(program.http.exchanges().back()->request.url, photo);
+    EXPECT_EQ(program.http.exchanges().back()->request.url, row->photoPath());
     program.http.answer(HttpResponse{std::nullopt, {}, *program.images.png(stripes(20, 5))});
     program.timeline.runPosted();
-    EXPECT_EQ(cell->photoImage.image().bitmap->width, 20) << "the card shows all of the photo";
+    EXPECT_EQ(cell->photoImage.image().bitmap->width, 20) << "the card shows all of the file";
     cell->configure(*row);
     program.http.answer(Error{std::string(urlErrorDomain), UrlErrorFileDoesNotExist, "gone"});
     program.timeline.runPosted();
@@ -102,8 +116,7 @@ TEST_F(ImagePickerTest, TheFramedPartIsPreviewedAndTheFileBecomesTheBackground) 
 }
 
 TEST_F(ImagePickerTest, EnlargingKeepsWhatIsUnderTheFingersAndStaysWithinBounds) {
-    auto& picker = openLibrary();
-    choose(stripes(16, 8)); // 400 x 200 points; 21 of them beyond each side
+    auto& picker = open(stripes(16, 8)); // 400 x 200 points; 21 of them beyond each side
     picker.cropView.zoomedTo(2, {100, 50});
     EXPECT_EQ(picker.imageView.frame().size(), (ui::Size{800, 400}));
     EXPECT_EQ(picker.cropView.contentOffset(), (ui::Point{142, 50})) << "121, 50 of the photo under 100, 50";
@@ -124,13 +137,12 @@ TEST_F(ImagePickerTest, EnlargingKeepsWhatIsUnderTheFingersAndStaysWithinBounds)
 }
 
 TEST_F(ImagePickerTest, CancellingInEitherWindowChangesNothing) {
-    openLibrary();
-    program.photoLibrary.choose(std::optional<std::string>());
+    chooser->photosButton.tap();
+    program.photoLibrary.choose(std::optional<Url>());
     program.settle();
     EXPECT_EQ(program.stack().top(), chooser);
 
-    auto& picker = openLibrary();
-    choose(stripes(20, 5));
+    auto& picker = open(stripes(20, 5));
     picker.cancelButton.tap();
     program.settle();
     EXPECT_EQ(program.stack().top(), chooser);
@@ -141,10 +153,9 @@ TEST_F(ImagePickerTest, CancellingInEitherWindowChangesNothing) {
 }
 
 TEST_F(ImagePickerTest, AnotherPhotoCanBeChosenAndTurningAwayKeepsTheFirst) {
-    auto& picker = openLibrary();
-    choose(stripes(20, 5));
+    auto& picker = open(stripes(20, 5));
     picker.libraryButton.tap();
-    program.photoLibrary.choose(std::optional<std::string>());
+    program.photoLibrary.choose(std::optional<Url>());
     EXPECT_EQ(picker.imageView.image().bitmap->width, 20);
     picker.libraryButton.tap();
     choose(stripes(12, 5));
@@ -153,7 +164,8 @@ TEST_F(ImagePickerTest, AnotherPhotoCanBeChosenAndTurningAwayKeepsTheFirst) {
 }
 
 TEST_F(ImagePickerTest, WhatCannotBeShownIsSaidAndAnotherCanBeChosen) {
-    auto& picker = openLibrary();
+    auto& picker = open(stripes(20, 5));
+    picker.libraryButton.tap();
     for (const auto& [answer, lines] :
          {std::pair(Result<HttpResponse>(HttpResponse{std::nullopt, {}, "no picture"}), 1),
           std::pair(Result<HttpResponse>(HttpResponse{std::nullopt, {}, hugePhoto(program.images)}), 1),
@@ -173,32 +185,49 @@ TEST_F(ImagePickerTest, WhatCannotBeShownIsSaidAndAnotherCanBeChosen) {
     choose(stripes(20, 5));
     EXPECT_EQ(picker.messageLabel.text(), "");
     EXPECT_FALSE(picker.chooseButton.isHidden());
+    program.photoLibrary.failure = Error{"PhotoLibrary", 28, "There is no room left."};
+    picker.chooseButton.tap();
+    EXPECT_EQ(picker.messageLabel.text(), "There is no room left.");
+    EXPECT_EQ(chooser->eventData->photoPath, std::nullopt);
+}
+
+TEST_F(ImagePickerTest, ADesktopWithoutAChooserIsToldInThePicker) {
+    chooser->photosButton.tap();
+    program.photoLibrary.choose(Error{"PhotoLibrary", 1, "There is no window."});
+    program.settle();
+    EXPECT_EQ(program.top<ImagePickerController>().messageLabel.text(), "There is no window.");
 }
 
 TEST_F(ImagePickerTest, APhotoThatComesAfterALaterChoiceIsDropped) {
     for (const auto& late : {*program.images.png(stripes(20, 5)), std::string("no picture")}) {
-        auto& picker = openLibrary();
+        chooser->photosButton.tap();
         const auto first = program.http.exchanges().size();
-        program.photoLibrary.choose(std::optional<std::string>("file:///slow.jpg"));
+        choose("/slow.jpg");
+        auto& picker = program.top<ImagePickerController>();
         picker.libraryButton.tap();
         choose(stripes(12, 5));
         program.http.answer(first, HttpResponse{std::nullopt, {}, late});
         program.settle();
         EXPECT_EQ(picker.imageView.image().bitmap->width, 12);
         EXPECT_EQ(picker.messageLabel.text(), "");
-        picker.chooseButton.tap();
+        picker.cancelButton.tap();
         program.settle();
-        EXPECT_EQ(chooser->eventData->photoPath, photo);
     }
 }
 
-TEST_F(ImagePickerTest, AnAnswerAfterTheScreenHasGoneIsDropped) {
-    openLibrary().cancelButton.tap();
+TEST_F(ImagePickerTest, AnAnswerAfterTheStepOrThePickerWasLeftIsDropped) {
+    chooser->photosButton.tap();
+    chooser->nextButton.tap();
     program.settle();
-    program.photoLibrary.choose(std::optional<std::string>(photo));
+    auto* const list = program.stack().top();
+    choose(std::string(photo));
+    EXPECT_EQ(program.stack().top(), list);
     EXPECT_TRUE(program.http.exchanges().empty());
-    openLibrary();
-    program.photoLibrary.choose(std::optional<std::string>(photo));
+}
+
+TEST_F(ImagePickerTest, APhotoThatComesAfterThePickerWasLeftIsDropped) {
+    chooser->photosButton.tap();
+    choose(std::string(photo));
     program.top<ImagePickerController>().cancelButton.tap();
     program.settle();
     program.http.answer(HttpResponse{std::nullopt, {}, *program.images.png(stripes(20, 5))});
@@ -210,7 +239,7 @@ TEST_F(ImagePickerTest, AnAnswerAfterTheScreenHasGoneIsDropped) {
 TEST_F(ImagePickerTest, ASourceWithoutAnAddressLeavesTheEventWithoutABackground) {
     const ui::Image picture{{}, std::make_shared<const Bitmap>(stripes(4, 4))};
     for (const auto& address : {std::optional<std::string>(), std::optional<std::string>("no address")}) {
-        chooser->imagePickerControllerDidFinishPickingMedia(openLibrary(), {picture, picture, address});
+        chooser->imagePickerControllerDidFinishPickingMedia(open(stripes(4, 4)), {picture, picture, address});
         program.settle();
         EXPECT_EQ(chooser->eventData->photoPath, std::nullopt);
         EXPECT_EQ(chooser->eventData->gradient, NO_VALUE);
@@ -224,7 +253,7 @@ TEST_F(ImagePickerTest, ASourceWithoutAnAddressLeavesTheEventWithoutABackground)
 
 TEST_F(ImagePickerTest, ASourceWithoutAnEditedPictureStopsTheProgram) {
     const ui::Image picture{{}, std::make_shared<const Bitmap>(stripes(4, 4))};
-    auto& picker = openLibrary();
+    auto& picker = open(stripes(4, 4));
     EXPECT_THROW(chooser->imagePickerControllerDidFinishPickingMedia(picker, {picture, std::nullopt, photo}),
                  fakes::ProgramStopped);
 }

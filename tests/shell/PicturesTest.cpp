@@ -152,10 +152,10 @@ TEST_F(PicturesTest, KeysScrollSaveAndLeave) {
 TEST_F(PicturesTest, APhotoIsMovedAndEnlargedUnderItsFrame) {
     drawTop();
     hand.tap(QStringLiteral("Photo Library"));
+    program.photoLibrary.choose(std::optional(Url::ofFile("/p")));
     program.settle();
     auto& picker = program.top<ImagePickerController>();
     drawTop();
-    program.photoLibrary.choose(std::optional<std::string>("file:///p"));
     program.http.answer(HttpResponse{std::nullopt, {}, bytes(halves(1200, 600))});
     program.settle();
     hand.drag({300, 350}, {200, 350});

@@ -1,6 +1,7 @@
 #include "qtdesktop/QtPhotoLibrary.h"
 
 #include "adapters/qtdesktop/OnPortal.h"
+#include "qtnetwork/QtHttpClient.h"
 #include "support/TemporaryFolder.h"
 
 #include <QCoreApplication>
@@ -8,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include <atomic>
 #include <fstream>
 #include <iterator>
 
@@ -30,7 +32,7 @@ void runUntil(const std::function<bool()>& done) {
 class PhotoChooser : public testing::Test {
 protected:
     PhotoChooser() : PhotoChooser(QDBusConnection(QStringLiteral("there is none"))) {}
-    explicit PhotoChooser(const QDBusConnection& bus) : library(bus) {
+    explicit PhotoChooser(const QDBusConnection& bus) : library(bus, folder / "photos") {
         ::setenv("PATH", folder.path().c_str(), 1);
         ::unsetenv("XDG_CURRENT_DESKTOP");
     }
@@ -58,6 +60,23 @@ protected:
         return answer.value_or(Error{});
     }
 
+    static std::string addressOf(const PhotoLibrary::Choice& choice) {
+        return choice && choice.value() ? choice.value()->absoluteString() : "none";
+    }
+    /// What the program reads at an address that the desktop gave.
+    static std::string contentAt(const std::string& address) {
+        QtHttpClient client;
+        std::atomic<bool> ended = false;
+        std::string content;
+        const auto task = client.start(
+            {.url = address, .kind = AddressKind::File}, [&](const Result<HttpResponse>& answer) {
+                content = answer ? answer.value().body : answer.error().description;
+                ended = true;
+            });
+        runUntil([&] { return ended.load(); });
+        return content;
+    }
+
     std::string path = ::getenv("PATH");
     TemporaryFolder folder;
     QtPhotoLibrary library;
@@ -67,7 +86,7 @@ TEST_F(PhotoChooser, AProgramOfTheDesktopGivesTheFileAsAnAddress) {
     install("zenity", "/home/ada/50% sea & süd.jpg", 0);
     const auto choice = choose();
     ASSERT_TRUE(choice);
-    EXPECT_EQ(choice.value(), "file:///home/ada/50%25%20sea%20&%20s%C3%BCd.jpg");
+    EXPECT_EQ(addressOf(choice), "file:///home/ada/50%25%20sea%20&%20s%C3%BCd.jpg");
     EXPECT_THAT(called(), HasSubstr("*.jpg"));
     EXPECT_THAT(called(), Not(HasSubstr("svg")));
 }
@@ -75,12 +94,12 @@ TEST_F(PhotoChooser, AProgramOfTheDesktopGivesTheFileAsAnAddress) {
 TEST_F(PhotoChooser, EachDesktopGetsItsOwnProgramWhereBothAreInstalled) {
     install("zenity", "/a.jpg", 0);
     install("kdialog", "/b.jpg", 0);
-    EXPECT_EQ(choose().value(), "file:///a.jpg");
+    EXPECT_EQ(addressOf(choose()), "file:///a.jpg");
     ::setenv("XDG_CURRENT_DESKTOP", "KDE", 1);
-    EXPECT_EQ(choose().value(), "file:///b.jpg");
+    EXPECT_EQ(addressOf(choose()), "file:///b.jpg");
     EXPECT_THAT(called(), HasSubstr("image/jpeg"));
     fs::remove(folder / "kdialog");
-    EXPECT_EQ(choose().value(), "file:///a.jpg");
+    EXPECT_EQ(addressOf(choose()), "file:///a.jpg");
 }
 
 TEST_F(PhotoChooser, TurningAwayIsNoErrorAndAFailingOrMissingProgramIs) {
@@ -94,12 +113,42 @@ TEST_F(PhotoChooser, TurningAwayIsNoErrorAndAFailingOrMissingProgramIs) {
     EXPECT_EQ(choose().error().description, "This desktop has no window to choose a photo in.");
 }
 
+/// Names that an address cannot hold as they are, or in which it has marks of its own.
+const std::vector<std::string> oddNames{"IMG[1].jpg", "a b (2).jpg",     "100% #1?.jpg",
+                                        "%41.jpg",    "a;b=c&d+e.jpg",   "отпуск.jpg",
+                                        "😀.jpg",      "back\\slash.jpg", "latin\xE9.jpg"};
+
+TEST_F(PhotoChooser, EveryNameMakesAnAddressThatTheProgramReads) {
+    for (const auto& name : oddNames) {
+        std::ofstream(folder.path() / name) << "photo " << name;
+        install("zenity", (folder.path() / name).string(), 0);
+        const std::string address = addressOf(choose());
+        EXPECT_TRUE(Url::parse(address)) << address;
+        EXPECT_EQ(contentAt(address), "photo " + name);
+    }
+}
+
+TEST_F(PhotoChooser, WhatIsKeptIsANewPrivateFileThatOutlivesTheOriginal) {
+    const auto one = library.keep("one");
+    const auto other = library.keep("other");
+    ASSERT_TRUE(one && other);
+    EXPECT_EQ(contentAt(one.value().absoluteString()), "one");
+    EXPECT_EQ(contentAt(other.value().absoluteString()), "other");
+    const fs::path file = *one.value().filePath();
+    EXPECT_EQ(file.parent_path(), folder / "photos");
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
+    EXPECT_EQ(fs::status(folder / "photos").permissions(), fs::perms(0700));
+    fs::remove_all(folder / "photos");
+    std::ofstream(folder / "photos") << "in the way";
+    EXPECT_THAT(library.keep("third").error().description, HasSubstr("cannot be written"));
+}
+
 /// The same with a portal on a bus of the test's own.
 using PhotoPortal = OnPortal<PhotoChooser>;
 
 TEST_F(PhotoPortal, ThePortalOffersPicturesAndItsAddressIsHandedOnAsItComes) {
     portal.uris = {QStringLiteral("file:///run/user/1000/doc/a%20b.jpg")};
-    EXPECT_EQ(choose().value(), "file:///run/user/1000/doc/a%20b.jpg");
+    EXPECT_EQ(addressOf(choose()), "file:///run/user/1000/doc/a%20b.jpg");
     ASSERT_EQ(portal.asked.size(), 1U);
     EXPECT_EQ(portal.asked[0].interface, "org.freedesktop.portal.FileChooser");
     EXPECT_EQ(portal.asked[0].method, "OpenFile");
@@ -107,14 +156,27 @@ TEST_F(PhotoPortal, ThePortalOffersPicturesAndItsAddressIsHandedOnAsItComes) {
         EXPECT_TRUE(portal.asked[0].mediaTypes.contains(QLatin1String(type))) << type;
 }
 
+TEST_F(PhotoPortal, AnAddressThatAPortalHalfEscapesIsSpeltAsTheProgramDoes) {
+    for (const auto& [given, address] :
+         {std::pair("file:///tmp/IMG[1].jpg", "file:///tmp/IMG%5B1%5D.jpg"),
+          std::pair("file:///tmp/от пуск%23.jpg",
+                    "file:///tmp/%D0%BE%D1%82%20%D0%BF%D1%83%D1%81%D0%BA%23.jpg"),
+          std::pair("file:///tmp/latin%E9.jpg", "file:///tmp/latin%E9.jpg")}) {
+        portal.uris = {QString::fromUtf8(given)};
+        EXPECT_EQ(addressOf(choose()), address);
+    }
+    portal.uris = {QStringLiteral("https://x.test/a.jpg")};
+    EXPECT_EQ(choose().error().description, "This photo is not a file on this computer.");
+}
+
 TEST_F(PhotoPortal, ACancelIsNotAskedAgainAndAFailedPortalLeavesItToAProgram) {
     install("zenity", "/a.jpg", 0);
     portal.response = 1;
     EXPECT_EQ(choose().value(), std::nullopt);
     portal.response = 2;
-    EXPECT_EQ(choose().value(), "file:///a.jpg");
+    EXPECT_EQ(addressOf(choose()), "file:///a.jpg");
     portal.refuses = true;
-    EXPECT_EQ(choose().value(), "file:///a.jpg");
+    EXPECT_EQ(addressOf(choose()), "file:///a.jpg");
 }
 
 TEST_F(PhotoPortal, ANewChoiceTakesTheOpenOneAwayUnanswered) {
@@ -123,7 +185,7 @@ TEST_F(PhotoPortal, ANewChoiceTakesTheOpenOneAwayUnanswered) {
     runUntil([&] { return portal.asked.size() == 1; });
     portal.answers = true;
     portal.uris = {QStringLiteral("file:///b.jpg")};
-    EXPECT_EQ(choose().value(), "file:///b.jpg");
+    EXPECT_EQ(addressOf(choose()), "file:///b.jpg");
     runUntil([&] { return portal.closed > 0; });
     EXPECT_EQ(portal.closed, 1);
 }

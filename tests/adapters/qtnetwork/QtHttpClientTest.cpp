@@ -8,6 +8,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 #include <atomic>
 #include <fstream>
 #include <optional>
@@ -81,6 +83,10 @@ TEST_F(QtHttpClientTest, HandsOverHeadersAndBody) {
     EXPECT_NE(answer->thread, std::this_thread::get_id());
     EXPECT_THAT(server.requests.at(0), testing::StartsWith("GET /a?q=1 HTTP/1.1"));
     EXPECT_THAT(server.requests.at(0), HasSubstr("Authorization: Client-ID key"));
+    EXPECT_THAT(server.requests.at(0), Not(HasSubstr("no-cache")));
+    request.reload = true;
+    fetch(request);
+    EXPECT_THAT(server.requests.at(1), HasSubstr("no-cache"));
 }
 
 TEST_F(QtHttpClientTest, TellsFailuresApart) {
@@ -94,6 +100,7 @@ TEST_F(QtHttpClientTest, TellsFailuresApart) {
     server.handlers["/mute"] = [](QTcpSocket&) {};
     server.handlers["/loop"] = LoopbackServer::answer("302 Found\r\nLocation: /loop");
     server.handlers["/file"] = LoopbackServer::answer("302 Found\r\nLocation: file:///etc/hosts");
+    server.handlers["/packed"] = LoopbackServer::answer("200 OK\r\nContent-Encoding: gzip", "no gzip at all");
     server.handlers["/large"] = LoopbackServer::answer("200 OK", std::string(2000, 'x'));
     struct Case {
         const char* path;
@@ -102,7 +109,8 @@ TEST_F(QtHttpClientTest, TellsFailuresApart) {
     for (const auto& [path, code] :
          {Case{"/half", UrlErrorNetworkConnectionLost}, Case{"/reset", UrlErrorNetworkConnectionLost},
           Case{"/mute", UrlErrorTimedOut}, Case{"/loop", UrlErrorTooManyRedirects},
-          Case{"/file", UrlErrorUnsupportedUrl}, Case{"/large", UrlErrorTooLarge}}) {
+          Case{"/file", UrlErrorUnsupportedUrl}, Case{"/packed", UrlErrorUnknown},
+          Case{"/large", UrlErrorTooLarge}}) {
         HttpRequest request = requestOf(path);
         request.timeout = Seconds(std::string(path) == "/mute" ? 0.05 : 60);
         request.maximumBody = 1000;
@@ -111,6 +119,7 @@ TEST_F(QtHttpClientTest, TellsFailuresApart) {
         EXPECT_EQ(answer->result->error().domain, urlErrorDomain);
     }
     EXPECT_EQ(fetch(HttpRequest{.url = "http://127.0.0.1:1/"})->code(), UrlErrorCannotConnectToHost);
+    EXPECT_EQ(fetch(HttpRequest{.url = "file:///etc/hosts"})->code(), UrlErrorUnsupportedUrl);
     EXPECT_EQ(fetch(HttpRequest{.url = "no address"})->code(), UrlErrorBadUrl);
     EXPECT_EQ(fetch(HttpRequest{.url = "gopher://x.test/"})->code(), UrlErrorUnsupportedUrl);
 }
@@ -148,14 +157,33 @@ TEST_F(QtHttpClientTest, KeepsTheAuthorizationFromOtherAddresses) {
     EXPECT_THAT(other.requests[0], Not(HasSubstr("key")));
 }
 
-TEST_F(QtHttpClientTest, ReadsLocalFiles) {
+TEST_F(QtHttpClientTest, KeepsTheAuthorizationFromAnotherNameOfTheSamePort) {
+    server.handlers["/there"] = LoopbackServer::answer("200 OK", "other");
+    server.handlers["/leave"] = LoopbackServer::answer(
+        "302 Found\r\nLocation: http://localhost:" + std::to_string(server.serverPort()) + "/there");
+    HttpRequest request = requestOf("/leave");
+    request.headers = {{"Authorization", "Client-ID key"}};
+    EXPECT_EQ(fetch(request)->status(), 200);
+    ASSERT_EQ(server.requests.size(), 2u);
+    EXPECT_THAT(server.requests[1], Not(HasSubstr("key")));
+}
+
+TEST_F(QtHttpClientTest, ReadsPlainFilesOnly) {
     const TemporaryFolder folder;
     std::ofstream(folder / "a b.jpg") << "picture";
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    const auto read = [&](const std::string& address, std::size_t maximum = 1000) {
+        return fetch(HttpRequest{.url = address, .maximumBody = maximum, .kind = AddressKind::File});
+    };
     const std::string base = "file://" + folder.path().string();
-    const auto answer = fetch(HttpRequest{.url = base + "/a%20b.jpg"});
+    const auto answer = read(base + "/a%20b.jpg");
     EXPECT_EQ(answer->result->value().body, "picture");
     EXPECT_EQ(answer->result->value().status, std::nullopt);
-    EXPECT_EQ(fetch(HttpRequest{.url = base + "/gone.jpg"})->code(), UrlErrorFileDoesNotExist);
+    EXPECT_NE(answer->thread, std::this_thread::get_id());
+    EXPECT_EQ(read(base + "/a%20b.jpg", 6)->code(), UrlErrorTooLarge);
+    for (const auto& path : {base + "/gone.jpg", base + "/pipe", base, std::string("file:///dev/zero")})
+        EXPECT_EQ(read(path)->code(), UrlErrorFileDoesNotExist) << path;
+    EXPECT_EQ(read(server.address() + "/a")->code(), UrlErrorUnsupportedUrl) << "an own photo is a file";
 }
 
 TEST_F(QtHttpClientTest, CancellingEndsAnExchangeOnce) {

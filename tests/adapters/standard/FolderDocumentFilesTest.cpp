@@ -51,8 +51,12 @@ TEST_F(FolderDocumentFilesTest, AFailureLosesNothing) {
     EXPECT_EQ(files.read("photo"), std::nullopt);
     FolderDocumentFiles sound(folder.path() / "b");
     ASSERT_TRUE(sound.write("photo", "old"));
-    fs::create_directory(folder / "b/photo.new");
+    ASSERT_TRUE(sound.write("photo.new", "a document of that name"));
+    fs::create_directory(folder / "b.unfinished");
     EXPECT_FALSE(sound.write("photo", "new"));
+    fs::remove(folder / "b.unfinished");
+    ASSERT_TRUE(sound.write("photo", "old"));
+    EXPECT_EQ(sound.read("photo.new"), "a document of that name");
     EXPECT_EQ(sound.read("photo"), "old");
     fs::create_directory(folder / "b/directory");
     EXPECT_EQ(sound.read("directory"), std::nullopt);

@@ -14,6 +14,13 @@ TEST(StandardConsoleTest, ALineGoesOutWhole) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "уведомление создано\n");
 }
 
+TEST(StandardConsoleTest, WhatALineQuotesCannotSteerTheTerminal) {
+    testing::internal::CaptureStderr();
+    StandardConsole().print("a\x1b[2Jb\nc\x7f d\xC2\x9B"
+                            "31m \\ é я 😀");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "a\\x1b[2Jb\\x0ac\\x7f d\\x9b31m \\ é я 😀\n");
+}
+
 TEST(StandardConsoleTest, StoppingWritesTheReasonAndEndsTheProcess) {
     EXPECT_EXIT(StandardConsole().stopProgram("The date does not read"), testing::ExitedWithCode(1),
                 "The date does not read\n");
