@@ -1,5 +1,5 @@
 // What the photo browser costs, each beside its floor: a page of photos beside the bare parse of its text, a
-// waterfall beside writing its frames once, its visible items beside one binary search.
+// waterfall beside the same arithmetic in a plain loop, its visible items beside one binary search.
 #include "UnsplashPicker/PhotoCoding.h"
 #include "UnsplashPicker/WaterfallLayout.h"
 #include "fakes/RecordingConsole.h"
@@ -9,6 +9,8 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 namespace tessivo::unsplash {
 namespace {
@@ -58,16 +60,26 @@ public:
     ui::Size waterfallSizeForItem(int item) override { return {400, 300.0 + item % 7 * 40}; }
 };
 
-void writeFramesOnce(benchmark::State& state) {
-    std::vector<ui::Rect> frames;
+/// Three columns of 514 points, each item in the shortest.
+void placeInPlainLoop(benchmark::State& state) {
+    const std::shared_ptr<WaterfallLayoutDelegate> sizes = std::make_shared<Sizes>();
+    std::vector<ui::Rect> frames(itemCount);
+    constexpr double columnWidth = (514 - 2 * 16) / 3.0;
     for (auto _ : state) {
-        frames.clear();
-        for (int item = 0; item < itemCount; ++item)
-            frames.push_back({0, item * 1.0, 160, 120});
+        std::array<double, 3> heights{16, 16, 16};
+        for (int item = 0; item < itemCount; ++item) {
+            const ui::Size size = sizes->waterfallSizeForItem(item);
+            const auto shortest = std::ranges::min_element(heights);
+            const double x = (columnWidth + 16) * static_cast<double>(shortest - heights.begin());
+            const ui::Rect frame{x, *shortest, std::floor(columnWidth),
+                                 std::floor(columnWidth * size.height / size.width)};
+            *shortest += frame.height + 16;
+            frames[static_cast<std::size_t>(item)] = frame;
+        }
         benchmark::DoNotOptimize(frames.data());
     }
 }
-BENCHMARK(writeFramesOnce);
+BENCHMARK(placeInPlainLoop);
 
 void prepareWaterfall(benchmark::State& state) {
     fakes::RecordingConsole console;

@@ -15,6 +15,8 @@ using nlohmann::json;
 /// Values are trees that are walked and dropped by recursion: a deeper document could end the stack.
 constexpr std::size_t maximumDepth = 512;
 
+constexpr std::size_t usualMembers = 8; // most objects then never move what they hold
+
 /// Builds the tree as the parser meets its parts, so that no second tree is made.
 class TreeBuilder final : public json::json_sax_t {
 public:
@@ -32,7 +34,11 @@ public:
     bool number_float(number_float_t value, const string_t&) override { return put(JsonValue(value)); }
     bool string(string_t& value) override { return put(JsonValue(std::move(value))); }
     bool binary(binary_t&) override { return false; }
-    bool start_object(std::size_t) override { return open(JsonValue(JsonValue::Object())); }
+    bool start_object(std::size_t) override {
+        JsonValue::Object members;
+        members.reserve(usualMembers);
+        return open(JsonValue(std::move(members)));
+    }
     bool start_array(std::size_t) override { return open(JsonValue(JsonValue::Array())); }
     bool end_object() override { return close(); }
     bool end_array() override { return close(); }

@@ -6,10 +6,25 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 
+#include <cmath>
+
 namespace tessivo::shell {
+namespace {
+
+/// In steps, so that a text that grows by a letter does not make the picture anew.
+QRectF coarse(const QRectF& text) {
+    constexpr double step = 16;
+    if (text.isEmpty())
+        return {};
+    return {QPointF(std::floor(text.left() / step) * step, std::floor(text.top() / step) * step),
+            QPointF(std::ceil(text.right() / step) * step, std::ceil(text.bottom() / step) * step)};
+}
+
+} // namespace
 
 CardPicture::CardPicture(QQuickItem* parent) : QQuickItem(parent) {
     setFlag(ItemHasContents);
+    connect(this, &CardPicture::textsChanged, this, &QQuickItem::update);
 }
 
 void CardPicture::setView(ImageItem* view) {
@@ -33,8 +48,12 @@ void CardPicture::setRadius(double radius) {
 CardPicture::Looks CardPicture::looks() const {
     if (!view_)
         return {};
-    return {view_->view().image().bitmap, view_->view().contentMode(), size(),
-            window()->effectiveDevicePixelRatio(), radius_};
+    return {view_->view().image().bitmap,
+            view_->view().contentMode(),
+            size(),
+            window()->effectiveDevicePixelRatio(),
+            radius_,
+            {coarse(upperText_), coarse(lowerText_)}};
 }
 
 QSGNode* CardPicture::updatePaintNode(QSGNode* former, UpdatePaintNodeData*) {
@@ -47,8 +66,8 @@ QSGNode* CardPicture::updatePaintNode(QSGNode* former, UpdatePaintNodeData*) {
     }
     if (node && wanted == inScene_)
         return node;
-    const QImage card =
-        cardPicture(toQImage(wanted.picture), wanted.size, wanted.scale, wanted.radius, wanted.mode);
+    const QImage card = cardPicture(toQImage(wanted.picture), wanted.size, wanted.scale, wanted.radius,
+                                    wanted.mode, wanted.texts);
     if (!node) {
         node = window()->createImageNode();
         node->setOwnsTexture(true);

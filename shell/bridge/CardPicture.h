@@ -5,16 +5,20 @@
 #include <QPointer>
 #include <QQuickItem>
 
+#include <array>
 #include <memory>
 
 namespace tessivo::shell {
 
-/// The picture of a card, under its text: fitted as its view says, and rounded as the card is. It is made
-/// once for each picture and size, and costs nothing where there is no picture.
+/// The picture of a card under its two texts: fitted as its view says, rounded as the card is, and shaded
+/// behind the texts where it is bright. It is made once for each picture, size and place of the texts, and
+/// costs nothing if there is no picture.
 class CardPicture : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(tessivo::shell::ImageItem* view READ view WRITE setView NOTIFY viewChanged REQUIRED FINAL)
+    Q_PROPERTY(QRectF upperText MEMBER upperText_ NOTIFY textsChanged FINAL)
+    Q_PROPERTY(QRectF lowerText MEMBER lowerText_ NOTIFY textsChanged FINAL)
     Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged FINAL)
 
 public:
@@ -28,6 +32,7 @@ public:
 Q_SIGNALS:
     void viewChanged();
     void radiusChanged();
+    void textsChanged();
 
 protected:
     QSGNode* updatePaintNode(QSGNode* former, UpdatePaintNodeData* data) override;
@@ -41,6 +46,7 @@ private:
         QSizeF size;
         double scale = 1;
         double radius = 0;
+        std::array<QRectF, 2> texts;
 
         friend bool operator==(const Looks&, const Looks&) = default;
     };
@@ -49,6 +55,8 @@ private:
 
     QPointer<ImageItem> view_;
     double radius_ = 0;
+    QRectF upperText_; ///< in points of this item
+    QRectF lowerText_;
     Looks inScene_; ///< what the node shows
 };
 

@@ -7,7 +7,6 @@ namespace tessivo::shell {
 namespace {
 
 constexpr double radius = 16;
-constexpr QColor shade(0, 0, 0, 170);
 constexpr double lineWidth = 1.5;
 
 } // namespace
@@ -28,7 +27,7 @@ void FramePaint::paint(QPainter* painter) {
     QPainterPath around; // odd and even: what lies in both is left out
     around.addRect(boundingRect());
     around.addRoundedRect(frame_, radius, radius);
-    painter->fillPath(around, shade);
+    painter->fillPath(around, QColor::fromRgbF(0, 0, 0, static_cast<float>(shade_)));
     painter->setPen(QPen(Qt::white, lineWidth));
     painter->drawRoundedRect(frame_, radius, radius);
 }

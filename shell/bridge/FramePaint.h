@@ -9,6 +9,7 @@ class FramePaint : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QRectF frame READ frame WRITE setFrame NOTIFY frameChanged FINAL)
+    Q_PROPERTY(double shade MEMBER shade_ NOTIFY frameChanged FINAL)
 
 public:
     explicit FramePaint(QQuickItem* parent = nullptr);
@@ -22,6 +23,7 @@ Q_SIGNALS:
 
 private:
     QRectF frame_;
+    double shade_ = 0.67; ///< of what is outside, from 0 to 1
 };
 
 } // namespace tessivo::shell

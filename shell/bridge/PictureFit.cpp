@@ -1,10 +1,15 @@
 #include "bridge/PictureFit.h"
 
-#include "bridge/PictureTone.h"
+#include "bridge/PictureScrim.h"
 
 #include <QPainter>
 
 namespace tessivo::shell {
+namespace {
+
+constexpr double scrimReach = 36; // points
+
+} // namespace
 
 QRectF fitted(QSizeF picture, const QRectF& area, ui::ContentMode mode) {
     QSizeF size = picture;
@@ -26,7 +31,8 @@ QRectF fitted(QSizeF picture, const QRectF& area, ui::ContentMode mode) {
     return whole;
 }
 
-QImage cardPicture(const QImage& picture, QSizeF size, double scale, double radius, ui::ContentMode mode) {
+QImage cardPicture(const QImage& picture, QSizeF size, double scale, double radius, ui::ContentMode mode,
+                   const std::array<QRectF, 2>& texts) {
     QImage card((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
     card.setDevicePixelRatio(scale);
     card.fill(Qt::transparent);
@@ -37,7 +43,10 @@ QImage cardPicture(const QImage& picture, QSizeF size, double scale, double radi
     picturePainter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
     picturePainter.drawImage(fitted(picture.size(), area, mode), picture);
     picturePainter.end();
-    darkenForWhiteText(card);
+    for (const QRectF& text : texts) {
+        const QRectF pixels(text.topLeft() * scale, text.size() * scale);
+        shadeBehindText(card, pixels, scrimReach * scale);
+    }
 
     QImage shape(card.size(), QImage::Format_ARGB32_Premultiplied);
     shape.setDevicePixelRatio(scale);

@@ -5,15 +5,16 @@
 #include <QImage>
 #include <QRectF>
 
+#include <array>
+
 namespace tessivo::shell {
 
 /// Where all of a picture of that size lies, so that it fits `area` as `mode` says. It may reach beyond.
 [[nodiscard]] QRectF fitted(QSizeF picture, const QRectF& area, ui::ContentMode mode);
 
-/// A picture made ready to stand behind the white text of a card: fitted to `size` points at `scale` pixels
-/// each, its corners rounded, and darkened above and below just as far as its brightest parts there need for
-/// the text to stay readable.
+/// A picture made ready to stand behind the white texts of a card: fitted to `size` points at `scale` pixels
+/// each, its corners rounded, and shaded behind each of `texts`, in points, as far as it is too bright there.
 [[nodiscard]] QImage cardPicture(const QImage& picture, QSizeF size, double scale, double radius,
-                                 ui::ContentMode mode);
+                                 ui::ContentMode mode, const std::array<QRectF, 2>& texts);
 
 } // namespace tessivo::shell

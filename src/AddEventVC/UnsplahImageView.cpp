@@ -1,9 +1,12 @@
 #include "AddEventVC/UnsplahImageView.h"
 
 #include "AddEventVC/PictureCrop.h"
+#include "Extension/EventView.h"
 #include "Interface/PictureLoader.h"
 #include "Ports/Console.h"
 #include "Ports/LinkOpener.h"
+
+#include <algorithm>
 
 namespace tessivo {
 namespace {
@@ -35,8 +38,8 @@ void UnsplahImageView::viewDidLoad() {
     unsplashImage.setImage(unsplash);
     scrollView.addSubview(contentView);
     contentView.addSubview(unsplashImage);
-    for (ui::View* part :
-         std::initializer_list<ui::View*>{&scrollView, &prevButton, &saveButton, &photographerButton})
+    for (ui::View* part : std::initializer_list<ui::View*>{&scrollView, &cardFrame, &prevButton, &saveButton,
+                                                           &photographerButton})
         view().addSubview(*part);
     screenSizeDidChange();
 }
@@ -50,6 +53,17 @@ void UnsplahImageView::screenSizeDidChange() {
     contentView.setFrame({0, 0, width, height});
     unsplashImage.setFrame({0, 0, width, height});
     scrollView.setContentSize({width, height});
+    cardFrame.setFrame(framed({width, height}));
+}
+
+ui::Rect UnsplahImageView::framed(const ui::Size& picture) const {
+    // The card shows the middle of what is saved, cut to its own shape.
+    const ui::Size card = EventView::sizeOn(screen());
+    const ui::Rect view = scrollView.frame();
+    const double factor =
+        std::min(std::min(picture.width, view.width) / card.width, view.height / card.height);
+    const ui::Size frame{card.width * factor, card.height * factor};
+    return {view.midX() - frame.width / 2, view.midY() - frame.height / 2, frame.width, frame.height};
 }
 
 PixelSize UnsplahImageView::pixelsDrawn(const ui::MainScreen& screen) {

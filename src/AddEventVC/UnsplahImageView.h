@@ -16,8 +16,8 @@ public:
     virtual void didCrop(const ui::Image& image, const std::optional<std::string>& urlString) = 0;
 };
 
-/// A chosen picture of the photo service at full height, to be scrolled sideways: what is in view when it is
-/// saved is what the event's card will show. Names the photographer.
+/// A chosen picture of the photo service at full height, to be scrolled sideways: what is in view is saved,
+/// and the part of it in the frame is what the event's card will show. Names the photographer.
 class UnsplahImageView final : public Screen {
 public:
     using Screen::Screen;
@@ -31,6 +31,8 @@ public:
     ui::ScrollView scrollView{controls, "scrollView"};
     ui::View contentView{controls, "contentView"};
     ui::ImageView unsplashImage{controls, "unsplashImage"};
+    /// What the card will show of what is in view.
+    ui::View cardFrame{controls, "cardFrame"};
     ui::Button photographerButton{controls, "photographerButton"};
     ui::Button saveButton{controls, "saveButton"};
     ui::Button prevButton{controls, "prevButton"};
@@ -51,6 +53,7 @@ protected:
     void screenSizeDidChange() override;
 
 private:
+    [[nodiscard]] ui::Rect framed(const ui::Size& picture) const;
     /// What is in view, in pixels of the picture.
     [[nodiscard]] ui::Rect visiblePart(const Bitmap& picture) const;
 };

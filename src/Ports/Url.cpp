@@ -1,14 +1,10 @@
 #include "Ports/Url.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tessivo {
 namespace {
-
-constexpr std::string_view pathMarks = "-._~!$&'()*+,;=:@/";
-constexpr std::string_view queryMarks = "-._~!$&'()*+,;=:@/?";
-constexpr std::string_view queryItemMarks = "-._~!$'()*,;:@/?";
-constexpr std::string_view authorityMarks = "-._~!$&'()*+,;=:@[]";
 
 constexpr bool isDigit(char c) {
     return c >= '0' && c <= '9';
@@ -16,6 +12,28 @@ constexpr bool isDigit(char c) {
 constexpr bool isLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
+
+/// Letters, digits and some marks, as a table: addresses make up most of what the photo service answers.
+class CharacterSet {
+public:
+    constexpr explicit CharacterSet(std::string_view marks) {
+        for (std::size_t byte = 0; byte < held_.size(); ++byte) {
+            const char c = static_cast<char>(byte);
+            held_[byte] = isLetter(c) || isDigit(c) || marks.find(c) != std::string_view::npos;
+        }
+    }
+
+    [[nodiscard]] constexpr bool contains(char c) const { return held_[static_cast<unsigned char>(c)]; }
+
+private:
+    std::array<bool, 256> held_{};
+};
+
+constexpr CharacterSet schemeCharacters("+-.");
+constexpr CharacterSet pathCharacters("-._~!$&'()*+,;=:@/");
+constexpr CharacterSet queryCharacters("-._~!$&'()*+,;=:@/?");
+constexpr CharacterSet queryItemCharacters("-._~!$'()*,;:@/?");
+constexpr CharacterSet authorityCharacters("-._~!$&'()*+,;=:@[]");
 
 constexpr int hexDigit(char c) {
     if (isDigit(c))
@@ -25,31 +43,28 @@ constexpr int hexDigit(char c) {
     return c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
 }
 
-bool isAllowed(char c, std::string_view marks) {
-    return isLetter(c) || isDigit(c) || marks.find(c) != std::string_view::npos;
-}
-
 bool isEscape(std::string_view text) {
     return text.size() >= 3 && text[0] == '%' && hexDigit(text[1]) >= 0 && hexDigit(text[2]) >= 0;
 }
 
 /// Allowed characters and whole percent escapes only.
-bool isWellFormed(std::string_view text, std::string_view marks) {
+bool isWellFormed(std::string_view text, const CharacterSet& allowed) {
     for (std::size_t at = 0; at < text.size(); ++at) {
-        if (isEscape(text.substr(at)))
-            at += 2;
-        else if (!isAllowed(text[at], marks))
+        if (allowed.contains(text[at]))
+            continue;
+        if (!isEscape(text.substr(at)))
             return false;
+        at += 2;
     }
     return true;
 }
 
-std::string escaped(std::string_view text, std::string_view marks) {
+std::string escaped(std::string_view text, const CharacterSet& allowed) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string result;
     result.reserve(text.size());
     for (const char c : text) {
-        if (isAllowed(c, marks)) {
+        if (allowed.contains(c)) {
             result += c;
             continue;
         }
@@ -76,11 +91,11 @@ std::string unescaped(std::string_view text) {
 
 bool isScheme(std::string_view text) {
     return !text.empty() && isLetter(text.front()) &&
-           std::ranges::all_of(text, [](char c) { return isAllowed(c, "+-."); });
+           std::ranges::all_of(text, [](char c) { return schemeCharacters.contains(c); });
 }
 
 bool isAuthority(std::string_view text) {
-    if (!isWellFormed(text, authorityMarks))
+    if (!isWellFormed(text, authorityCharacters))
         return false;
     const std::string_view host = text.substr(text.find('@') + 1); // npos + 1 is 0
     const auto colon = host.rfind(':');
@@ -108,13 +123,13 @@ std::optional<Url> Url::parse(std::string_view text) {
     std::string_view query = cutAt(rest, "?");
     if (!fragment.empty()) {
         fragment.remove_prefix(1);
-        if (!isWellFormed(fragment, queryMarks))
+        if (!isWellFormed(fragment, queryCharacters))
             return std::nullopt;
         url.fragment_ = fragment;
     }
     if (!query.empty()) {
         query.remove_prefix(1);
-        if (!isWellFormed(query, queryMarks))
+        if (!isWellFormed(query, queryCharacters))
             return std::nullopt;
         url.query_ = query;
     }
@@ -133,7 +148,7 @@ std::optional<Url> Url::parse(std::string_view text) {
         url.origin_ += authority;
         rest = path;
     }
-    if (!isWellFormed(rest, pathMarks))
+    if (!isWellFormed(rest, pathCharacters))
         return std::nullopt;
     url.path_ = rest;
     return url;
@@ -142,7 +157,7 @@ std::optional<Url> Url::parse(std::string_view text) {
 Url Url::ofFile(std::string_view path) {
     Url url;
     url.origin_ = "file://";
-    url.path_ = escaped(path, pathMarks);
+    url.path_ = escaped(path, pathCharacters);
     return url;
 }
 
@@ -189,20 +204,20 @@ std::string Url::lastPathComponent() const {
 
 Url Url::withPath(std::string_view path) const {
     Url url = *this;
-    url.path_ = escaped(path, pathMarks);
+    url.path_ = escaped(path, pathCharacters);
     return url;
 }
 
 Url Url::withQuery(std::string_view query) const {
     Url url = *this;
-    url.query_ = escaped(query, queryMarks);
+    url.query_ = escaped(query, queryCharacters);
     return url;
 }
 
 Url Url::appendingQueryItem(std::string_view name, std::string_view value) const {
     Url url = *this;
     const std::string before = query_ && !query_->empty() ? *query_ + "&" : "";
-    url.query_ = before + escaped(name, queryItemMarks) + "=" + escaped(value, queryItemMarks);
+    url.query_ = before + escaped(name, queryItemCharacters) + "=" + escaped(value, queryItemCharacters);
     return url;
 }
 

@@ -1,17 +1,46 @@
 #include "UnsplashPicker/PagedDataSource.h"
 
+#include "UnsplashPicker/PickerServices.h"
+
 #include <utility>
 
 namespace tessivo::unsplash {
+
+PhotosDataSourceFactory PhotosDataSourceFactory::search(const PickerServices& services, std::string query) {
+    return {services, Kind::search, std::move(query)};
+}
+
+PhotosDataSourceFactory PhotosDataSourceFactory::collection(const PickerServices& services,
+                                                            std::string identifier) {
+    return {services, Kind::collection, std::move(identifier)};
+}
+
+Cursor PhotosDataSourceFactory::initialCursor() const {
+    Cursor cursor;
+    if (kind_ == Kind::search)
+        cursor.parameters = Parameters{
+            {"query", text_},
+            {"content_filter", std::string(rawValue(services_.configuration().contentFilterLevel))}};
+    else
+        cursor.parameters = Parameters{{"id", text_}};
+    return cursor;
+}
+
+std::shared_ptr<UnsplashPagedRequest> PhotosDataSourceFactory::request(const Cursor& cursor) const {
+    if (kind_ == Kind::search)
+        return std::make_shared<SearchPhotosRequest>(services_.platform(), services_.configuration(), cursor);
+    return std::make_shared<GetCollectionPhotosRequest>(services_.platform(), services_.configuration(),
+                                                        cursor);
+}
 
 Error DataSourceError::dataSourceIsFetching() {
     return {"DataSourceError", 1, "The data source is fetching already"};
 }
 
-PagedDataSource::PagedDataSource(WorkQueue& work, std::unique_ptr<PagedDataSourceFactory> itsFactory)
+PagedDataSource::PagedDataSource(WorkQueue& work, PhotosDataSourceFactory itsFactory)
     : factory(std::move(itsFactory)),
       operationQueue(work, "com.unsplash.pagedDataSource"),
-      cursor_(factory->initialCursor()) {}
+      cursor_(factory.initialCursor()) {}
 
 std::shared_ptr<const Photos> PagedDataSource::items() const {
     const std::lock_guard lock(mutex_);
@@ -39,13 +68,20 @@ void PagedDataSource::reset() {
     items_ = std::make_shared<Photos>();
     isFetching_ = false;
     canFetchMore_ = true;
-    cursor_ = factory->initialCursor();
+    cursor_ = factory.initialCursor();
     error_.reset();
 }
 
 void PagedDataSource::cancelFetch() {
     operationQueue.cancelAllOperations();
     isFetching_ = false;
+}
+
+void PagedDataSource::resume() {
+    const std::lock_guard lock(mutex_);
+    ++round_;
+    if (std::exchange(isEndedByCancel_, false))
+        canFetchMore_ = true;
 }
 
 void PagedDataSource::fetchItems() {
@@ -61,30 +97,27 @@ void PagedDataSource::fetchItems() {
     if (told && items()->empty())
         told->dataSourceWillStartFetching(*this);
     isFetching_ = true;
-    const auto request = factory->request(cursor());
+    const auto request = factory.request(cursor());
     // The block belongs to the request, and the request to the source's queue: it holds neither, so that a
     // fetch that never ends keeps nothing alive.
-    request->setCompletionBlock([weak = weak_from_this(), request = request.get()] {
+    request->setCompletionBlock([weak = weak_from_this(), request = request.get(), round = round_] {
         if (const auto self = weak.lock())
-            self->complete(*request);
+            self->complete(*request, round);
     });
     operationQueue.addOperation(request);
 }
 
-void PagedDataSource::complete(const UnsplashPagedRequest& request) {
+void PagedDataSource::complete(const UnsplashPagedRequest& request, int round) {
     if (const auto failure = request.error()) {
         isFetching_ = false;
         return fail(*failure);
     }
-    Photos added;
-    added.reserve(request.items().size());
-    for (const auto& photo : request.items())
-        added.push_back(std::make_shared<const UnsplashPhoto>(photo));
+    const Photos& added = request.items();
     {
         const std::lock_guard lock(mutex_);
         if (std::cmp_greater_equal(added.size(), cursor_.perPage))
             ++cursor_.page;
-        else
+        else if (isEndedByCancel_ = request.isCancelled(); !isEndedByCancel_ || round == round_)
             canFetchMore_ = false;
         auto all = std::make_shared<Photos>(*items_);
         all->insert(all->end(), added.begin(), added.end());

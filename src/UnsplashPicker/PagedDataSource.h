@@ -1,16 +1,36 @@
 #pragma once
 
 #include "UnsplashPicker/OperationQueue.h"
-#include "UnsplashPicker/PagedDataSourceFactory.h"
+#include "UnsplashPicker/UnsplashRequest.h"
 
 #include <atomic>
 
 namespace tessivo::unsplash {
 
 class PagedDataSource;
+class PickerServices;
 
-/// The photos of a list; a page more is another list, so that a reader keeps what it holds.
-using Photos = std::vector<std::shared_ptr<const UnsplashPhoto>>;
+/// The photos that match a text, or those of a collection.
+class PhotosDataSourceFactory final {
+public:
+    [[nodiscard]] static PhotosDataSourceFactory search(const PickerServices& services, std::string query);
+    [[nodiscard]] static PhotosDataSourceFactory collection(const PickerServices& services,
+                                                            std::string identifier);
+
+    /// The first page.
+    [[nodiscard]] Cursor initialCursor() const;
+    [[nodiscard]] std::shared_ptr<UnsplashPagedRequest> request(const Cursor& cursor) const;
+
+private:
+    enum class Kind { search, collection };
+
+    PhotosDataSourceFactory(const PickerServices& services, Kind kind, std::string text)
+        : services_(services), kind_(kind), text_(std::move(text)) {}
+
+    const PickerServices& services_;
+    Kind kind_;
+    std::string text_; ///< what is searched for, or the collection's identifier
+};
 
 /// Hears of fetches. `dataSourceWillStartFetching` comes on the main thread, the others on whatever thread
 /// the fetch ended on.
@@ -39,11 +59,11 @@ namespace DataSourceError {
 /// operations are called on the main thread, its state may be read from any.
 class PagedDataSource final : public std::enable_shared_from_this<PagedDataSource> {
 public:
-    PagedDataSource(WorkQueue& work, std::unique_ptr<PagedDataSourceFactory> factory);
+    PagedDataSource(WorkQueue& work, PhotosDataSourceFactory factory);
 
     std::weak_ptr<PagedDataSourceDelegate> delegate;
 
-    /// Never null.
+    /// Never null; a page more makes another list, so that a reader keeps what it holds.
     [[nodiscard]] std::shared_ptr<const Photos> items() const;
     [[nodiscard]] std::optional<Error> error() const;
     [[nodiscard]] Cursor cursor() const;
@@ -55,13 +75,16 @@ public:
     /// Fetches the next page.
     void fetchItems();
     void cancelFetch();
+    /// For a source that is taken up again: what `cancelFetch` has cancelled, however late it ends, is not
+    /// taken for the last page any more.
+    void resume();
 
 private:
-    void complete(const UnsplashPagedRequest& request);
+    void complete(const UnsplashPagedRequest& request, int round);
     void fail(const Error& error);
     void setError(std::optional<Error> error);
 
-    std::unique_ptr<PagedDataSourceFactory> factory;
+    const PhotosDataSourceFactory factory;
     OperationQueue operationQueue;
     std::atomic<bool> isFetching_ = false;
     std::atomic<bool> canFetchMore_ = true;
@@ -69,6 +92,8 @@ private:
     std::shared_ptr<const Photos> items_ = std::make_shared<Photos>();
     std::optional<Error> error_;
     Cursor cursor_;
+    int round_ = 0;                ///< how often the source was taken up again
+    bool isEndedByCancel_ = false; ///< a cancelled request was taken for the last page
 };
 
 } // namespace tessivo::unsplash

@@ -1,12 +1,61 @@
 #include "UnsplashPicker/PhotoCoding.h"
 
 #include "UnsplashPicker/HexColor.h"
-#include "UnsplashPicker/PhotoKeys.h"
 
+#include <algorithm>
 #include <cmath>
+#include <concepts>
 
 namespace tessivo::unsplash {
 namespace {
+
+// The fields of each record, walked by a decoder or an encoder. A field of `orEmpty` stays empty if it cannot
+// be decoded; any other failure fails the record.
+
+template <class Walk, class Exif>
+requires std::same_as<std::remove_const_t<Exif>, UnsplashPhotoExif>
+void walkFields(Walk& walk, Exif& exif) {
+    walk("aperture", exif.aperture);
+    walk("exposure_time", exif.exposureTime);
+    walk("focal_length", exif.focalLength);
+    walk("iso", exif.iso);
+    walk("make", exif.make);
+    walk("model", exif.model);
+}
+
+template <class Walk, class User>
+requires std::same_as<std::remove_const_t<User>, UnsplashUser>
+void walkFields(Walk& walk, User& user) {
+    walk("id", user.identifier);
+    walk("username", user.username);
+    walk("first_name", user.firstName);
+    walk("last_name", user.lastName);
+    walk("name", user.name);
+    walk("profile_image", user.profileImage);
+    walk("bio", user.bio);
+    walk("links", user.links);
+    walk("location", user.location);
+    walk("portfolio_url", user.portfolioURL);
+    walk("total_collections", user.totalCollections);
+    walk("total_likes", user.totalLikes);
+    walk("total_photos", user.totalPhotos);
+}
+
+template <class Walk, class Photo>
+requires std::same_as<std::remove_const_t<Photo>, UnsplashPhoto>
+void walkFields(Walk& walk, Photo& photo) {
+    walk("id", photo.identifier);
+    walk("height", photo.height);
+    walk("width", photo.width);
+    walk.orEmpty("color", photo.color);
+    walk.orEmpty("exif", photo.exif);
+    walk("user", photo.user);
+    walk("urls", photo.urls);
+    walk("links", photo.links);
+    walk("likes", photo.likesCount);
+    walk.orEmpty("downloads", photo.downloadsCount);
+    walk.orEmpty("views", photo.viewsCount);
+}
 
 std::optional<std::int64_t> integerIn(const JsonValue& json) {
     if (const auto* integer = json.as<std::int64_t>())
@@ -19,220 +68,184 @@ std::optional<std::int64_t> integerIn(const JsonValue& json) {
     return static_cast<std::int64_t>(*number);
 }
 
-/// Reads the fields of one object; the first required one that does not read is kept as the fault.
-class FieldReader {
+/// Decodes the fields of one object; keeps the first failure.
+class Decoder {
 public:
-    explicit FieldReader(const JsonValue& json) : json_(json) {
+    explicit Decoder(const JsonValue& json) : json_(json) {
         if (!json.as<JsonValue::Object>())
             fail("the object");
     }
 
-    void read(std::string_view key, std::string& field) {
-        const auto* value = json_.find(key);
-        if (const auto* text = value ? value->as<std::string>() : nullptr)
+    template <class Field>
+    void operator()(std::string_view key, Field& field) {
+        const JsonValue* value = json_.find(key);
+        if (!value || !decode(*value, field))
+            fail(key);
+    }
+
+    /// Missing and null are empty; another type is a failure.
+    template <class Value>
+    void operator()(std::string_view key, std::optional<Value>& field) {
+        const JsonValue* value = json_.find(key);
+        if (value && !value->isNull() && !decode(*value, field))
+            fail(key);
+    }
+
+    template <class Value>
+    void orEmpty(std::string_view key, std::optional<Value>& field) {
+        const JsonValue* value = json_.find(key);
+        Value held{};
+        if (value && decode(*value, held))
+            field = std::move(held);
+    }
+
+    [[nodiscard]] const Outcome& failure() const { return failure_; }
+
+private:
+    static bool decode(const JsonValue& value, std::string& field) {
+        const auto* text = value.as<std::string>();
+        if (text)
             field = *text;
-        else
-            fail(key);
+        return text;
     }
 
-    void read(std::string_view key, std::int64_t& field) {
-        const auto* value = json_.find(key);
-        const auto integer = value ? integerIn(*value) : std::nullopt;
-        if (integer)
-            field = *integer;
-        else
-            fail(key);
+    static bool decode(const JsonValue& value, std::optional<std::string>& field) {
+        return decode(value, field.emplace());
     }
 
-    /// Missing and null are empty; another type is a fault.
-    void read(std::string_view key, std::optional<std::string>& field) {
-        const auto* value = json_.find(key);
-        if (!value || value->isNull())
-            return;
-        if (const auto* text = value->as<std::string>())
-            field = *text;
-        else
-            fail(key);
+    static bool decode(const JsonValue& value, std::int64_t& field) {
+        const auto integer = integerIn(value);
+        field = integer.value_or(0);
+        return integer.has_value();
     }
 
+    static bool decode(const JsonValue& value, Color& field) {
+        const auto* text = value.as<std::string>();
+        const auto color = text ? colorFromHex(*text) : std::nullopt;
+        field = color.value_or(Color{});
+        return color.has_value();
+    }
+
+    /// Text that is no address leaves the field empty.
+    static bool decode(const JsonValue& value, std::optional<Url>& field) {
+        const auto* text = value.as<std::string>();
+        field = text ? Url::parse(*text) : std::nullopt;
+        return text;
+    }
+
+    /// Unknown kinds and text that is no address are left out.
     template <class Kind>
-    void read(std::string_view key, std::map<Kind, Url>& field) {
-        const auto* value = json_.find(key);
-        const auto* members = value ? value->template as<JsonValue::Object>() : nullptr;
-        if (!members)
-            return fail(key);
-        for (const auto& [name, address] : *members) {
+    static bool decode(const JsonValue& value, std::map<Kind, Url>& field) {
+        const auto* members = value.as<JsonValue::Object>();
+        for (const auto& [name, address] : members ? *members : JsonValue::Object()) {
+            const auto kind = std::ranges::find(kindNames<Kind>, name) - kindNames<Kind>.begin();
             const auto* text = address.template as<std::string>();
-            const auto url = text ? Url::parse(*text) : std::nullopt;
-            for (std::size_t kind = 0; url && kind < kindNames<Kind>.size(); ++kind) {
-                if (kindNames<Kind>[kind] == name)
-                    field.insert_or_assign(static_cast<Kind>(kind), *url);
-            }
+            if (!text || kind == std::ssize(kindNames<Kind>))
+                continue;
+            if (auto url = Url::parse(*text))
+                field.insert_or_assign(static_cast<Kind>(kind), std::move(*url));
         }
+        return members;
     }
 
-    void readIfSound(std::string_view key, std::optional<std::int64_t>& field) {
-        if (const auto* value = json_.find(key))
-            field = integerIn(*value);
+    static bool decode(const JsonValue& value, UnsplashPhotoExif& field) {
+        Decoder fields(value);
+        walkFields(fields, field);
+        return !fields.failure_;
+    }
+
+    bool decode(const JsonValue& value, UnsplashUser& field) {
+        Decoder fields(value);
+        walkFields(fields, field);
+        if (fields.failure_ && !failure_)
+            failure_ = fields.failure_; // it names the field inside
+        return !fields.failure_;
     }
 
     void fail(std::string_view key) {
-        if (!fault_)
-            fault_ =
-                Error{decodingErrorDomain, 0, "\"" + std::string(key) + "\" is missing or of another type."};
+        if (!failure_)
+            failure_ = decodingError("\"" + std::string(key) + "\" is missing or of another type.");
     }
-    void fail(const Error& error) {
-        if (!fault_)
-            fault_ = error;
-    }
-    [[nodiscard]] const Outcome& fault() const { return fault_; }
 
-private:
     const JsonValue& json_;
-    Outcome fault_;
+    Outcome failure_;
 };
 
-Result<UnsplashUser> decodeUser(const JsonValue& json) {
-    UnsplashUser user;
-    FieldReader fields(json);
-    fields.read("id", user.identifier);
-    fields.read("username", user.username);
-    fields.read("first_name", user.firstName);
-    fields.read("last_name", user.lastName);
-    fields.read("name", user.name);
-    fields.read("profile_image", user.profileImage);
-    fields.read("bio", user.bio);
-    fields.read("links", user.links);
-    fields.read("location", user.location);
-    std::optional<std::string> portfolio;
-    fields.read("portfolio_url", portfolio);
-    user.portfolioURL = portfolio ? Url::parse(*portfolio) : std::nullopt;
-    fields.read("total_collections", user.totalCollections);
-    fields.read("total_likes", user.totalLikes);
-    fields.read("total_photos", user.totalPhotos);
-    if (fields.fault())
-        return *fields.fault();
-    return user;
-}
+/// Encodes the fields of one object; empty ones are left out.
+class Encoder {
+public:
+    void operator()(std::string key, const auto& field) {
+        object_.push_back({std::move(key), encode(field)});
+    }
 
-std::optional<UnsplashPhotoExif> decodeExif(const JsonValue& json) {
-    UnsplashPhotoExif exif;
-    FieldReader fields(json);
-    fields.read("aperture", exif.aperture);
-    fields.read("exposure_time", exif.exposureTime);
-    fields.read("focal_length", exif.focalLength);
-    fields.read("iso", exif.iso);
-    fields.read("make", exif.make);
-    fields.read("model", exif.model);
-    return fields.fault() ? std::nullopt : std::optional(exif);
-}
+    template <class Value>
+    void operator()(std::string key, const std::optional<Value>& field) {
+        if (field)
+            (*this)(std::move(key), *field);
+    }
 
-template <class Kind>
-JsonValue encodeMap(const std::map<Kind, Url>& addresses) {
-    JsonValue::Object object;
-    for (const auto& [kind, url] : addresses)
-        object.push_back({std::string(nameOf(kind)), JsonValue(url.absoluteString())});
-    return JsonValue(std::move(object));
-}
+    void orEmpty(std::string key, const auto& field) { (*this)(std::move(key), field); }
 
-template <class Value>
-void append(JsonValue::Object& object, std::string key, const std::optional<Value>& value) {
-    if (value)
-        object.push_back({std::move(key), JsonValue(*value)});
-}
+    template <class Record>
+    [[nodiscard]] static JsonValue encoded(const Record& record) {
+        Encoder fields;
+        walkFields(fields, record);
+        return JsonValue(std::move(fields.object_));
+    }
 
-JsonValue encodeUser(const UnsplashUser& user) {
-    JsonValue::Object object;
-    object.push_back({"id", JsonValue(user.identifier)});
-    object.push_back({"username", JsonValue(user.username)});
-    append(object, "first_name", user.firstName);
-    append(object, "last_name", user.lastName);
-    append(object, "name", user.name);
-    object.push_back({"profile_image", encodeMap(user.profileImage)});
-    append(object, "bio", user.bio);
-    object.push_back({"links", encodeMap(user.links)});
-    append(object, "location", user.location);
-    if (user.portfolioURL)
-        object.push_back({"portfolio_url", JsonValue(user.portfolioURL->absoluteString())});
-    object.push_back({"total_collections", JsonValue(user.totalCollections)});
-    object.push_back({"total_likes", JsonValue(user.totalLikes)});
-    object.push_back({"total_photos", JsonValue(user.totalPhotos)});
-    return JsonValue(std::move(object));
-}
+private:
+    static JsonValue encode(const std::string& text) { return JsonValue(text); }
+    static JsonValue encode(std::int64_t number) { return JsonValue(number); }
+    static JsonValue encode(const Color& color) { return JsonValue(hexFromColor(color)); }
+    static JsonValue encode(const Url& url) { return JsonValue(url.absoluteString()); }
+    static JsonValue encode(const UnsplashPhotoExif& exif) { return encoded(exif); }
+    static JsonValue encode(const UnsplashUser& user) { return encoded(user); }
 
-JsonValue encodeExif(const UnsplashPhotoExif& exif) {
-    return JsonValue(JsonValue::Object{{"aperture", JsonValue(exif.aperture)},
-                                       {"exposure_time", JsonValue(exif.exposureTime)},
-                                       {"focal_length", JsonValue(exif.focalLength)},
-                                       {"iso", JsonValue(exif.iso)},
-                                       {"make", JsonValue(exif.make)},
-                                       {"model", JsonValue(exif.model)}});
-}
+    template <class Kind>
+    static JsonValue encode(const std::map<Kind, Url>& addresses) {
+        JsonValue::Object object;
+        for (const auto& [kind, url] : addresses)
+            object.push_back({std::string(nameOf(kind)), encode(url)});
+        return JsonValue(std::move(object));
+    }
+
+    JsonValue::Object object_;
+};
 
 } // namespace
 
+Error decodingError(std::string description) {
+    return {decodingErrorDomain, 0, std::move(description)};
+}
+
 Result<UnsplashPhoto> decodePhoto(const JsonValue& json) {
     UnsplashPhoto photo;
-    FieldReader fields(json);
-    fields.read("id", photo.identifier);
-    fields.read("height", photo.height);
-    fields.read("width", photo.width);
-    if (const auto* color = json.find("color")) {
-        if (const auto* text = color->as<std::string>())
-            photo.color = colorFromHex(*text);
-    }
-    if (const auto* exif = json.find("exif"))
-        photo.exif = decodeExif(*exif);
-    if (const auto* value = json.find("user")) {
-        auto user = decodeUser(*value);
-        if (user)
-            photo.user = std::move(user.value());
-        else
-            fields.fail(user.error());
-    } else {
-        fields.fail("user");
-    }
-    fields.read("urls", photo.urls);
-    fields.read("links", photo.links);
-    fields.read("likes", photo.likesCount);
-    fields.readIfSound("downloads", photo.downloadsCount);
-    fields.readIfSound("views", photo.viewsCount);
-    if (fields.fault())
-        return *fields.fault();
+    Decoder fields(json);
+    walkFields(fields, photo);
+    if (fields.failure())
+        return *fields.failure();
     return photo;
 }
 
-Result<std::vector<UnsplashPhoto>> decodePhotos(const JsonValue& json) {
+Result<Photos> decodePhotos(const JsonValue& json) {
     const auto* list = json.as<JsonValue::Array>();
     if (!list)
-        return Error{decodingErrorDomain, 0, "The photos are no list."};
-    std::vector<UnsplashPhoto> photos;
+        return decodingError("A list of photos is expected.");
+    Photos photos;
     photos.reserve(list->size());
     for (const auto& element : *list) {
-        auto photo = decodePhoto(element);
-        if (!photo)
-            return photo.error();
-        photos.push_back(std::move(photo.value()));
+        const auto photo = std::make_shared<UnsplashPhoto>();
+        Decoder fields(element);
+        walkFields(fields, *photo);
+        if (fields.failure())
+            return *fields.failure();
+        photos.push_back(photo);
     }
     return photos;
 }
 
 JsonValue encodePhoto(const UnsplashPhoto& photo) {
-    JsonValue::Object object;
-    object.push_back({"id", JsonValue(photo.identifier)});
-    object.push_back({"height", JsonValue(photo.height)});
-    object.push_back({"width", JsonValue(photo.width)});
-    if (photo.color)
-        object.push_back({"color", JsonValue(hexFromColor(*photo.color))});
-    if (photo.exif)
-        object.push_back({"exif", encodeExif(*photo.exif)});
-    object.push_back({"user", encodeUser(photo.user)});
-    object.push_back({"urls", encodeMap(photo.urls)});
-    object.push_back({"links", encodeMap(photo.links)});
-    object.push_back({"likes", JsonValue(photo.likesCount)});
-    append(object, "downloads", photo.downloadsCount);
-    append(object, "views", photo.viewsCount);
-    return JsonValue(std::move(object));
+    return Encoder::encoded(photo);
 }
 
 } // namespace tessivo::unsplash

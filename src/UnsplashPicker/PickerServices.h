@@ -5,6 +5,7 @@
 #include "Ports/LocalizedTexts.h"
 #include "Ports/ResponseCache.h"
 #include "UnsplashPicker/PickerPlatform.h"
+#include "UnsplashPicker/UnsplashPhoto.h"
 #include "UnsplashPicker/UnsplashPickerConfiguration.h"
 
 namespace tessivo::unsplash {
@@ -39,6 +40,14 @@ public:
             imageCache_ =
                 platform_.caches.open("unsplash", configuration_.memoryCapacity, configuration_.diskCapacity);
         return imageCache_;
+    }
+    /// Tells the service that the photo is being used, as its terms ask. Nobody waits for the answer.
+    void sendDownloadPing(const UnsplashPhoto& photo) const {
+        const auto link = photo.links.find(PhotoLinkKind::downloadLocation);
+        if (link == photo.links.end())
+            return;
+        const Url address = link->second.appendingQueryItem("client_id", configuration_.accessKey);
+        platform_.http.start({.url = address.absoluteString()}, [](const Result<HttpResponse>&) {});
     }
     [[nodiscard]] ui::PictureLoader& pictures() { return *pictures_; }
 

@@ -3,10 +3,19 @@
 #include "Ports/NamedColors.h"
 #include "UnsplashPicker/UnsplashUser.h"
 
+#include <memory>
+#include <vector>
+
 namespace tessivo::unsplash {
 
 enum class URLKind { raw, full, regular, small, thumb };
+template <>
+inline constexpr std::array<std::string_view, 5> kindNames<URLKind>{"raw", "full", "regular", "small",
+                                                                    "thumb"};
 enum class PhotoLinkKind { own, html, download, downloadLocation };
+template <>
+inline constexpr std::array<std::string_view, 4> kindNames<PhotoLinkKind>{"self", "html", "download",
+                                                                          "download_location"};
 
 /// What the camera wrote, all as text.
 struct UnsplashPhotoExif {
@@ -38,5 +47,8 @@ struct UnsplashPhoto {
 
     friend bool operator==(const UnsplashPhoto&, const UnsplashPhoto&) = default;
 };
+
+/// The photos of a list, which never change.
+using Photos = std::vector<std::shared_ptr<const UnsplashPhoto>>;
 
 } // namespace tessivo::unsplash

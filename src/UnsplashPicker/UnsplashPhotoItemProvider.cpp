@@ -1,9 +1,7 @@
 #include "UnsplashPicker/UnsplashPhotoItemProvider.h"
 
 #include "Ports/HttpClient.h"
-#include "UnsplashPicker/DownloadPing.h"
 #include "UnsplashPicker/PhotoCoding.h"
-#include "UnsplashPicker/PhotoKeys.h"
 #include "UnsplashPicker/PickerServices.h"
 
 namespace tessivo::unsplash {
@@ -31,7 +29,7 @@ Result<UnsplashPhoto> UnsplashPhotoItemProvider::object(const JsonCoding& json, 
 
 std::shared_ptr<HttpTask> UnsplashPhotoItemProvider::loadData(std::string_view typeIdentifier,
                                                               Completion completion) const {
-    sendDownloadPing(services_, photo_);
+    services_.sendDownloadPing(photo_);
     if (typeIdentifier == photoType) {
         completion(services_.platform().json.write(encodePhoto(photo_)));
         return nullptr;

@@ -2,9 +2,7 @@
 
 #include "Ports/HttpClient.h"
 #include "Ports/MainQueue.h"
-#include "UnsplashPicker/DownloadPing.h"
 #include "UnsplashPicker/PhotoCell.h"
-#include "UnsplashPicker/PhotosDataSourceFactory.h"
 #include "UnsplashPicker/PickerServices.h"
 #include "UnsplashPicker/UnsplashPickerPreviewViewController.h"
 
@@ -115,8 +113,7 @@ bool UnsplashPickerViewController::hasSearchBar() const {
 }
 
 std::shared_ptr<PagedDataSource> UnsplashPickerViewController::makeSource(PhotosDataSourceFactory factory) {
-    auto source = std::make_shared<PagedDataSource>(
-        services_.platform().background, std::make_unique<PhotosDataSourceFactory>(std::move(factory)));
+    auto source = std::make_shared<PagedDataSource>(services_.platform().background, std::move(factory));
     source->delegate = weakSelf<PagedDataSourceDelegate>(this);
     return source;
 }
@@ -135,8 +132,11 @@ void UnsplashPickerViewController::screenSizeDidChange() {
     const ui::Size size = screen().size();
     const bool needsLayout = layout_.shouldInvalidateLayout(size);
     collectionView.setFrame({0, 0, size.width, size.height});
-    if (needsLayout)
-        collectionView.invalidateLayout();
+    if (!needsLayout)
+        return;
+    collectionView.invalidateLayout();
+    for (const auto& [item, cell] : collectionView.visibleCells())
+        configure(static_cast<PhotoCell&>(*cell), item);
 }
 
 void UnsplashPickerViewController::setSearchText(const std::optional<std::string>& text) {
@@ -144,7 +144,11 @@ void UnsplashPickerViewController::setSearchText(const std::optional<std::string
     const bool searches = text && !text->empty();
     dataSource_ =
         searches ? makeSource(PhotosDataSourceFactory::search(services_, *text)) : editorialDataSource_;
-    former->cancelFetch();
+    if (former != dataSource_) {
+        former->cancelFetch();
+        dataSource_->resume();
+        spinner.setAnimating(false);
+    }
     searchText_ = searches ? text : std::nullopt;
     collectionView.reloadData();
 }
@@ -201,13 +205,17 @@ std::shared_ptr<ui::CollectionViewCell>
 UnsplashPickerViewController::cellForItem(ui::CollectionView& collection, int item) {
     const auto cell =
         std::static_pointer_cast<PhotoCell>(collection.dequeueReusableCell(PhotoCell::reuseIdentifier));
+    configure(*cell, item);
+    return cell;
+}
+
+void UnsplashPickerViewController::configure(PhotoCell& cell, int item) {
     // The picture is asked for at the width of the cell, which must be settled by then.
-    cell->place(layout_.frame(item));
-    cell->layoutIfNeeded();
+    cell.place(layout_.frame(item));
+    cell.layoutIfNeeded();
     const auto items = dataSource_->items();
     if (std::cmp_less(item, items->size()))
-        cell->photoView.configure(*(*items)[static_cast<std::size_t>(item)], true);
-    return cell;
+        cell.photoView.configure(*(*items)[static_cast<std::size_t>(item)], true);
 }
 
 void UnsplashPickerViewController::willDisplayCell(ui::CollectionView&, ui::CollectionViewCell&, int item) {
@@ -258,7 +266,7 @@ void UnsplashPickerViewController::doneBarButtonTapped() {
 
 void UnsplashPickerViewController::finish(const Photos& photos) {
     for (const auto& photo : photos)
-        sendDownloadPing(services_, *photo);
+        services_.sendDownloadPing(*photo);
     if (const auto told = delegate.lock())
         told->photoPickerDidFinish(*this, photos);
 }
@@ -303,6 +311,8 @@ void UnsplashPickerViewController::dataSourceDidFetch(PagedDataSource& source, c
 }
 
 void UnsplashPickerViewController::dataSourceFetchDidFail(PagedDataSource& source, const Error& error) {
+    if (error.domain == urlErrorDomain && error.code == UrlErrorCancelled)
+        return; // a fetch that the screen itself has stopped has not failed
     onMain(source, [state = isConnectionError(error)
                                 ? EmptyViewState::noInternetConnection
                                 : EmptyViewState::serverError](auto& self) { self.showState(state); });

@@ -12,6 +12,7 @@
 
 namespace tessivo::unsplash {
 
+class PhotoCell;
 class PickerServices;
 class UnsplashPickerPreviewViewController;
 class UnsplashPickerViewController;
@@ -90,10 +91,12 @@ protected:
 private:
     void buildGrid();
     void buildSearch();
+    /// Shows the item's photo in its cell, at the width that the cell now has.
+    void configure(PhotoCell& cell, int item);
     void setSearchText(const std::optional<std::string>& text);
     void search(const std::optional<std::string>& text);
     void searchTextChanged();
-    [[nodiscard]] std::shared_ptr<PagedDataSource> makeSource(class PhotosDataSourceFactory factory);
+    [[nodiscard]] std::shared_ptr<PagedDataSource> makeSource(PhotosDataSourceFactory factory);
     void showFetched(bool hasNew);
     void showState(EmptyViewState state);
     void hideState();

@@ -2,15 +2,31 @@
 
 #include "Ports/Url.h"
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tessivo::unsplash {
 
+/// The service's words for the kinds of a map, in the order of the kinds.
+template <class Kind>
+inline constexpr std::array<std::string_view, 0> kindNames{};
+
+template <class Kind>
+[[nodiscard]] constexpr std::string_view nameOf(Kind kind) {
+    return kindNames<Kind>[static_cast<std::size_t>(kind)];
+}
+
 enum class ProfileImageSize { small, medium, large };
+template <>
+inline constexpr std::array<std::string_view, 3> kindNames<ProfileImageSize>{"small", "medium", "large"};
 enum class UserLinkKind { html, photos, likes, portfolio };
+template <>
+inline constexpr std::array<std::string_view, 4> kindNames<UserLinkKind>{"html", "photos", "likes",
+                                                                         "portfolio"};
 
 /// A photographer.
 struct UnsplashUser {

@@ -6,7 +6,6 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <span>
 #include <utility>
 
 namespace tessivo::unsplash {
@@ -31,11 +30,12 @@ double WaterfallLayout::contentWidth() const {
 void WaterfallLayout::prepare(int count, ui::Size, ui::Size bounds) {
     width_ = bounds.width;
     pagingViewFrame_.reset();
-    frames_.clear();
-    lowestEdgeUpTo_.clear();
     contentHeight_ = 0;
     const auto sizes = delegate.lock();
-    if (sizes && rawColumnCount() >= 1)
+    const bool hasColumns = sizes && rawColumnCount() >= 1;
+    frames_.resize(hasColumns ? static_cast<std::size_t>(count) : 0);
+    lowestEdgeUpTo_.resize(frames_.size());
+    if (hasColumns)
         place(count, *sizes);
 }
 
@@ -45,14 +45,13 @@ void WaterfallLayout::place(int count, WaterfallLayoutDelegate& sizes) {
     const double spacing = raw == 1 ? narrowSpacing : wideSpacing;
     const double columnWidth =
         raw == 1 ? contentWidth() : (contentWidth() - spacing * (columns - 1)) / columns;
-    std::array<double, maximumColumns> allHeights{};
-    const std::span heights(allHeights.data(), static_cast<std::size_t>(columns));
-    std::ranges::fill(heights, topInset);
+    // A column that is not there is never the shortest.
+    std::array<double, maximumColumns> heights;
+    heights.fill(std::numeric_limits<double>::infinity());
+    std::fill_n(heights.begin(), columns, topInset);
 
     const double width = std::floor(columnWidth);
     double lowestEdge = -std::numeric_limits<double>::infinity();
-    frames_.resize(static_cast<std::size_t>(count));
-    lowestEdgeUpTo_.resize(frames_.size());
     for (int item = 0; item < count; ++item) {
         const ui::Size size = sizes.waterfallSizeForItem(item);
         const auto shortest = std::ranges::min_element(heights);
@@ -64,7 +63,7 @@ void WaterfallLayout::place(int count, WaterfallLayoutDelegate& sizes) {
         frames_[static_cast<std::size_t>(item)] = frame;
         lowestEdgeUpTo_[static_cast<std::size_t>(item)] = lowestEdge;
     }
-    contentHeight_ = std::ranges::max(heights);
+    contentHeight_ = *std::max_element(heights.begin(), heights.begin() + columns);
     if (count > 0) {
         pagingViewFrame_ = ui::Rect{0, contentHeight_, width_, pagingViewHeight};
         contentHeight_ += pagingViewHeight;

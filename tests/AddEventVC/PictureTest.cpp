@@ -94,6 +94,10 @@ TEST_F(PictureTest, WhatIsInViewBecomesTheBackground) {
     const double height = preview.scrollView.bounds().height;
     EXPECT_EQ(preview.contentView.frame().size(), (ui::Size{2 * height, height}));
     EXPECT_EQ(preview.photographerButton.title(), "Ada L");
+    const ui::Rect frame = preview.cardFrame.frame(); // in the shape of the card, 358 x 200
+    EXPECT_NEAR(frame.width, 390, 0.01);
+    EXPECT_NEAR(frame.height, 390.0 * 200 / 358, 0.01);
+    EXPECT_NEAR(frame.midY(), preview.scrollView.frame().midY(), 0.01);
     preview.scrollView.scrolledTo({2 * height - 390, 0}); // to the far right
     preview.saveButton.tap();
     program.settle();

@@ -2,7 +2,6 @@
 
 #include "PhotoJson.h"
 #include "PickerFixture.h"
-#include "UnsplashPicker/PhotosDataSourceFactory.h"
 
 namespace tessivo::unsplash {
 namespace {
@@ -35,9 +34,8 @@ protected:
     }
     [[nodiscard]] const std::string& lastUrl() const { return http.exchanges().back()->request.url; }
 
-    std::shared_ptr<PagedDataSource> source = std::make_shared<PagedDataSource>(
-        work,
-        std::make_unique<PhotosDataSourceFactory>(PhotosDataSourceFactory::collection(services, "317099")));
+    std::shared_ptr<PagedDataSource> source =
+        std::make_shared<PagedDataSource>(work, PhotosDataSourceFactory::collection(services, "317099"));
     std::shared_ptr<Recorder> recorder = std::make_shared<Recorder>();
 };
 
@@ -141,8 +139,8 @@ TEST_F(PagedDataSourceTest, ASearchCarriesItsFilter) {
     UnsplashPickerConfiguration configuration;
     configuration.contentFilterLevel = ContentFilterLevel::high;
     services.setConfiguration(configuration);
-    const auto search = std::make_shared<PagedDataSource>(
-        work, std::make_unique<PhotosDataSourceFactory>(PhotosDataSourceFactory::search(services, "sea")));
+    const auto search =
+        std::make_shared<PagedDataSource>(work, PhotosDataSourceFactory::search(services, "sea"));
     search->fetchItems();
     timeline.runPosted();
     EXPECT_EQ(lastUrl(), services.configuration().apiURL() +

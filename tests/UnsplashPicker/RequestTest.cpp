@@ -1,9 +1,8 @@
 #include "PhotoJson.h"
 #include "PickerFixture.h"
-#include "UnsplashPicker/GetCollectionPhotosRequest.h"
 #include "UnsplashPicker/OperationQueue.h"
 #include "UnsplashPicker/RequestError.h"
-#include "UnsplashPicker/SearchPhotosRequest.h"
+#include "UnsplashPicker/UnsplashRequest.h"
 
 namespace tessivo::unsplash {
 namespace {
@@ -43,6 +42,8 @@ TEST_F(RequestTest, AsksForASearch) {
     EXPECT_EQ(request.method, "Get");
     EXPECT_EQ(request.headers, (HttpHeaders{{"Authorization", "Client-ID key"}}));
     EXPECT_EQ(request.timeout, Seconds(30));
+    EXPECT_EQ(request.maximumBody, 4u << 20u);
+    EXPECT_TRUE(request.reload);
 }
 
 TEST_F(RequestTest, LeavesTheMarksOfAQueryInASearchTextAlone) {
@@ -63,29 +64,39 @@ TEST_F(RequestTest, AsksForACollectionWithoutItsIdInTheQuery) {
 }
 
 TEST_F(RequestTest, TellsStatusesApart) {
-    const std::pair<int, std::optional<Error>> cases[] = {
-        {200, std::nullopt},
-        {298, std::nullopt},
-        {299, networkServiceError(299)},
-        {304, networkServiceError(304)},
-        {399, networkServiceError(399)},
-        {400, RequestError::http(400)},
-        {404, RequestError::http(404)},
-        {498, RequestError::http(498)},
-        {499, networkServiceError(499)},
-        {503, networkServiceError(503)},
+    struct Case {
+        int status;
+        std::string domain; ///< of the error; empty for none
+        int code;
     };
-    for (const auto& [status, error] : cases) {
+    const Case cases[] = {
+        {200, "", 0},
+        {298, "", 0},
+        {299, "NetworkService", 0},
+        {304, "NetworkService", 0},
+        {399, "NetworkService", 0},
+        {400, "RequestError", 400},
+        {404, "RequestError", 404},
+        {498, "RequestError", 498},
+        {499, "NetworkService", 0},
+        {503, "NetworkService", 0},
+    };
+    for (const auto& [status, domain, code] : cases) {
         const auto request = started();
         EXPECT_TRUE(request->isExecuting());
         http.answer(status, R"({"results": []})");
-        EXPECT_EQ(request->error(), error) << status;
+        const Error error = request->error().value_or(Error{});
+        EXPECT_EQ(error.domain, domain) << status;
+        EXPECT_EQ(error.code, code) << status;
+        if (domain == "NetworkService") {
+            EXPECT_EQ(error.description, "Request failed with code " + std::to_string(status));
+            EXPECT_EQ(error.failureReason, "Wrong handling logic, wrong endpoing mapping or backend bug.");
+        }
         EXPECT_TRUE(request->isFinished());
         EXPECT_FALSE(request->isExecuting());
     }
     EXPECT_EQ(completions, 10);
     EXPECT_EQ(queue.operationCount(), 0u);
-    EXPECT_EQ(networkServiceError(500).description, "Request failed with code 500");
 }
 
 TEST_F(RequestTest, PrintsWhatARefusalSays) {
@@ -125,9 +136,9 @@ TEST_F(RequestTest, ReadsSearchAnswers) {
 
 TEST_F(RequestTest, ReadsCollectionAnswers) {
     const std::tuple<std::string, std::size_t, std::string> cases[] = {
-        {photosJson(2), 2, ""},        {"[]", 0, ""},           {R"({"results": []})", 0, "Decoding"},
-        {"[{}]", 0, "Decoding"},       {"null", 0, "Decoding"}, {"[{", 0, "RequestError"},
-        {"<html>", 0, "RequestError"},
+        {photosJson(2), 2, ""},    {"[]", 0, ""},           {R"({"results": []})", 0, "Decoding"},
+        {"[{}]", 0, "Decoding"},   {"null", 0, "Decoding"}, {"[{", 0, "Decoding"},
+        {"<html>", 0, "Decoding"}, {"", 0, "Decoding"},
     };
     for (const auto& [body, items, domain] : cases) {
         const auto request = make<GetCollectionPhotosRequest>({{"id", "317099"}});

@@ -164,14 +164,59 @@ TEST_F(UnsplashPickerTest, ClearingTheSearchBringsTheEditorialListBack) {
     const auto pages = pageExchange();
     search("sea");
     EXPECT_FALSE(screen.searchController.clearButton.isHidden());
+    EXPECT_NE(pageExchange(), pages);
     screen.searchController.clearButton.tap();
     EXPECT_TRUE(screen.searchController.clearButton.isHidden());
     EXPECT_EQ(screen.searchText(), std::nullopt);
     EXPECT_EQ(screen.collectionView.numberOfItems(), 30);
+    search("sea");
     search("");
-    EXPECT_EQ(screen.collectionView.numberOfItems(), 30);
-    EXPECT_EQ(http.exchanges()[pages]->request.url.find("/search/"), std::string::npos);
-    EXPECT_FALSE(isEmptyViewShown()) << "the cancelled search has no say any more";
+    EXPECT_EQ(screen.collectionView.numberOfItems(), 30) << "so does a search for nothing";
+    EXPECT_TRUE(http.exchanges()[newest("/search/")]->isCancelled);
+}
+
+TEST_F(UnsplashPickerTest, TheSpinnerStopsWhenASearchIsCleared) {
+    auto& screen = openWith(30);
+    search("sea");
+    EXPECT_TRUE(screen.spinner.isAnimating());
+    screen.searchController.clearButton.tap();
+    timeline.runPosted();
+    EXPECT_FALSE(screen.spinner.isAnimating());
+}
+
+TEST_F(UnsplashPickerTest, ReturnInAnEmptyFieldLetsThePageThatLoadsComeIn) {
+    auto& screen = openWith(30);
+    screen.dataSource().fetchItems();
+    timeline.runPosted();
+    search("");
+    answerPage(30, 31);
+    EXPECT_FALSE(isEmptyViewShown());
+    EXPECT_EQ(screen.collectionView.numberOfItems(), 60);
+}
+
+TEST_F(UnsplashPickerTest, ASearchWhileAPageLoadsNeitherShowsAnErrorAfterwardsNorEndsPaging) {
+    auto& screen = openWith(30);
+    auto& bar = screen.searchController.searchBar;
+    const auto searchAndReturn = [&](bool beforeTheFetchStarts) {
+        screen.dataSource().fetchItems();
+        if (!beforeTheFetchStarts)
+            timeline.runPosted();
+        bar.editTo("sea");
+        bar.pressReturn(); // cancels the page, whose end comes after the return
+        screen.searchController.clearButton.tap();
+        timeline.runPosted();
+        EXPECT_FALSE(isEmptyViewShown());
+        EXPECT_TRUE(screen.dataSource().canFetchMore());
+    };
+    searchAndReturn(true);
+    searchAndReturn(false);
+    screen.dataSource().fetchItems();
+    search("sea");
+    screen.searchController.clearButton.tap(); // here its end came before the return
+    screen.dataSource().fetchItems();
+    timeline.runPosted();
+    answerPage(30, 31);
+    EXPECT_EQ(screen.collectionView.numberOfItems(), 60);
 }
 
 TEST_F(UnsplashPickerTest, SaysWhyThereIsNothingToSee) {
@@ -291,9 +336,9 @@ TEST_F(UnsplashPickerTest, ThumbnailsAreAskedForAtTheirWidthAndComeOutOfTheCache
               (std::vector<fakes::MemoryResponseCaches::Opening>{{"unsplash", 52428800, 104857600}}));
 
     mainScreen.resize({600, 600}, 2.6);
-    screen.collectionView.reloadData();
     timeline.runPosted();
     EXPECT_THAT(http.exchanges()[newest("i.test/p1")]->request.url, HasSubstr("w=189.0"));
+    EXPECT_TRUE(cell(0)->photoView.imageView.image().isSet()) << "the former one stays until it comes";
 }
 
 TEST_F(UnsplashPickerTest, ALatePictureDoesNotLandOnAReusedCell) {

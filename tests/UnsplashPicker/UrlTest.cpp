@@ -40,6 +40,21 @@ TEST(Url, NamesTheEndOfItsPath) {
         EXPECT_EQ(Url::parse(text)->lastPathComponent(), name) << text;
 }
 
+TEST(Url, NamesAFileOfAnyBytesAndFindsItAgain) {
+    for (const std::string path :
+         {"/a", "/IMG[1].jpg", "/50% #1?.jpg", "/отпуск/😀.jpg", "/latin\xE9", "/%41"}) {
+        const auto url = Url::parse(Url::ofFile(path).absoluteString());
+        ASSERT_TRUE(url) << path;
+        EXPECT_EQ(url->filePath(), path);
+    }
+    EXPECT_EQ(Url::parse("FILE://localhost/a")->filePath(), "/a");
+    for (const char* text : {"file://server/a", "file:a", "/a", "https://x.test/a", "file:///a%00b"})
+        EXPECT_EQ(Url::parse(text)->filePath(), std::nullopt) << text;
+    EXPECT_TRUE(Url::parse("HTTPS://x.test")->isWeb());
+    EXPECT_FALSE(Url::parse("ftp://x.test")->isWeb());
+    EXPECT_FALSE(Url::parse("//x.test")->isWeb());
+}
+
 TEST(Url, ReplacesAndExtendsItsParts) {
     const auto url = *Url::parse("https://x.test/a?b=1#f");
     EXPECT_EQ(url.withPath("/c d/?").absoluteString(), "https://x.test/c%20d/%3F?b=1#f");

@@ -25,21 +25,28 @@ double luminance(const QColor& color) {
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-TEST(CardPicture, WhiteTextReadsOnAnyPictureAndADarkOneStaysAsItIs) {
+TEST(CardPicture, WhiteTextReadsOnAnyPictureAndTheRestOfItKeepsItsColours) {
     const QSizeF size(358, 200);
+    const QRectF upper(230, 24, 104, 50);
+    const QRectF lower(24, 126, 150, 50);
     for (const QColor& ground : {QColor(Qt::white), QColor("#ffee58"), QColor("#7ec8e3"), QColor("#00ff00"),
                                  QColor("#9e9e9e"), QColor("#303f9f"), QColor(Qt::black)}) {
         QImage picture(100, 100, QImage::Format_RGBA8888);
         picture.fill(ground);
-        const QImage card = shell::cardPicture(picture, size, 2, 16, ui::ContentMode::AspectFill);
+        const QImage card =
+            shell::cardPicture(picture, size, 2, 16, ui::ContentMode::AspectFill, {upper, lower});
         ASSERT_EQ(card.size(), QSize(716, 400));
-        for (const int y : {60, 150, 260, 340}) { // pixels, where the four lines of text stand
-            const QColor under = card.pixelColor(358, y);
-            EXPECT_GE(1.05 / (luminance(under) + 0.05), 4.45) << ground.name().toStdString() << y;
-            if (1.05 / (luminance(ground) + 0.05) > 4.5) {
-                EXPECT_EQ(under.rgb(), ground.rgb());
+        for (const QRectF& text : {upper, lower}) {
+            for (const QPointF& point : {text.topLeft(), text.center(), text.bottomRight() - QPointF(1, 1)}) {
+                const QColor under = card.pixelColor((point * 2).toPoint());
+                EXPECT_GE(1.05 / (luminance(under) + 0.05), 4.45) << ground.name().toStdString();
+                if (1.05 / (luminance(ground) + 0.05) > 4.5) {
+                    EXPECT_EQ(under.rgb(), ground.rgb());
+                }
             }
         }
+        for (const QPoint& bare : {QPoint(60, 60), QPoint(400, 200), QPoint(660, 340)})
+            EXPECT_EQ(card.pixelColor(bare).rgb(), ground.rgb()) << "no text stands here";
         EXPECT_EQ(card.pixelColor(0, 0).alpha(), 0) << "the corners are round";
         EXPECT_EQ(card.pixelColor(715, 399).alpha(), 0);
     }
@@ -52,7 +59,9 @@ TEST(CardPicture, FitsAsItsViewSays) {
         picture.setPixelColor(0, y, Qt::red);
         picture.setPixelColor(39, y, Qt::red);
     }
-    const auto card = [&](ui::ContentMode mode) { return shell::cardPicture(picture, {80, 80}, 1, 0, mode); };
+    const auto card = [&](ui::ContentMode mode) {
+        return shell::cardPicture(picture, {80, 80}, 1, 0, mode, {});
+    };
     EXPECT_EQ(card(ui::ContentMode::AspectFill).pixelColor(1, 40), QColor(Qt::black)) << "cut at its sides";
     EXPECT_GT(card(ui::ContentMode::AspectFit).pixelColor(0, 40).red(), 80);
     EXPECT_EQ(card(ui::ContentMode::AspectFit).pixelColor(40, 5).alpha(), 0);

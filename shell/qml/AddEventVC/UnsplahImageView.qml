@@ -70,6 +70,15 @@ FocusScope {
             onWheel: event => flick.moveBy(-event.angleDelta.y)
         }
     }
+    FramePaint {
+        readonly property ViewItem card: page.screen.control("cardFrame")
+        x: flick.x
+        y: flick.y
+        width: flick.width
+        height: flick.height
+        shade: 0.3
+        frame: Qt.rect(card.x - x, card.y - y, card.width, card.height)
+    }
     PhotographerButton {
         button: page.screen.control("photographerButton") as ButtonItem
         anchors.left: parent.left

@@ -19,19 +19,26 @@ CardPaint {
     Accessible.name: informationLabel.text + ", " + timeLabel.text
 
     CardPicture {
+        id: picture
         anchors.fill: parent
         view: card.screen.control(card.parts + "photoView") as ImageItem
         radius: card.radius
+        upperText: timeText.textArea
+        lowerText: informationText.textArea
     }
     CardLabel {
+        id: timeText
         label: card.timeLabel
+        onPicture: picture.view.loaded
         anchors.top: parent.top
         anchors.right: parent.right
         anchors.margins: 24
         width: parent.width - 48
     }
     CardLabel {
+        id: informationText
         label: card.informationLabel
+        onPicture: picture.view.loaded
         anchors.left: parent.left
         anchors.bottom: parent.bottom
         anchors.margins: 24

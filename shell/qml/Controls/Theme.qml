@@ -19,6 +19,7 @@ QtObject {
     readonly property color page: named("mainBack")
     readonly property color ink: "#15171C"
     readonly property color noPicture: "#5B6475"
+    readonly property color textShadow: "#66000000" // of a text on a picture
 
     readonly property int margin: 16
     readonly property int touch: 44

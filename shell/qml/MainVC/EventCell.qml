@@ -68,16 +68,22 @@ CellScope {
             anchors.fill: parent
             view: card.photo
             radius: card.content.cornerRadius
+            upperText: timeText.textArea
+            lowerText: informationText.textArea
         }
         CardLabel {
+            id: timeText
             label: card.timeLabel
+            onPicture: card.photo.loaded
             anchors.top: parent.top
             anchors.right: parent.right
             anchors.margins: 24
             width: parent.width - 48
         }
         CardLabel {
+            id: informationText
             label: card.informationLabel
+            onPicture: card.photo.loaded
             anchors.left: parent.left
             anchors.bottom: parent.bottom
             anchors.margins: 24
