@@ -66,11 +66,12 @@ std::shared_ptr<HttpTask> QtHttpClient::start(HttpRequest request, Completion co
     auto starting = [this, exchange, request = std::move(request), completion = std::move(completion)] {
         if (!manager_)
             return; // the client is going
-        *exchange = new Exchange(*manager_, *files_, request, [this, completion](Result<HttpResponse> result) {
-            completion(std::move(result));
-            --underWay_;
-            underWay_.notify_all();
-        });
+        *exchange =
+            new Exchange(*manager_, *files_, request, [this, completion](Result<HttpResponse> result) {
+                completion(std::move(result));
+                --underWay_;
+                underWay_.notify_all();
+            });
         (*exchange)->start();
     };
     QMetaObject::invokeMethod(context_.get(), std::move(starting), Qt::QueuedConnection);
