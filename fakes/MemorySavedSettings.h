@@ -11,6 +11,7 @@ namespace tessivo::fakes {
 /// Saved settings that last as long as the object.
 class MemorySavedSettings final : public SavedSettings {
 public:
+    bool contains(std::string_view key) const override { return values_.contains(key); }
     std::optional<long> integer(std::string_view key) const override { return value<long>(key); }
     std::optional<bool> boolean(std::string_view key) const override { return value<bool>(key); }
     std::optional<std::string> text(std::string_view key) const override { return value<std::string>(key); }

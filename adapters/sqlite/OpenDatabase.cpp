@@ -1,15 +1,13 @@
 #include "sqlite/OpenDatabase.h"
 
 #include "sqlite/Database.h"
+#include "sqlite/DatabaseFile.h"
 
 #include <sqlite3.h>
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <cstring>
+#include <cstdlib>
 #include <memory>
 #include <string>
 
@@ -17,6 +15,7 @@ namespace tessivo::sqlite {
 namespace {
 
 constexpr int busyTimeoutInMilliseconds = 2000;
+constexpr const char* countOfTables = "SELECT count(*) FROM sqlite_schema";
 
 struct CloseConnection {
     void operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
@@ -27,59 +26,17 @@ Error failure(int code, std::string description) {
     return {"SQLite", code, std::move(description)};
 }
 
-Error systemFailure(const std::string& what, const std::filesystem::path& path) {
-    return failure(SQLITE_CANTOPEN, what + " \"" + path.string() + "\": " + std::strerror(errno));
-}
-
 Error inFile(const std::filesystem::path& file, Error error) {
     error.description = "\"" + file.string() + "\": " + error.description;
     return error;
 }
 
-Outcome makeFolders(const std::filesystem::path& folder) {
-    std::error_code ignored;
-    if (folder.empty() || std::filesystem::is_directory(folder, ignored))
-        return std::nullopt;
-    if (auto error = makeFolders(folder.parent_path()))
-        return error;
-    const bool made = ::mkdir(folder.c_str(), S_IRWXU) == 0;
-    if (made || (errno == EEXIST && std::filesystem::is_directory(folder, ignored)))
-        return std::nullopt;
-    return systemFailure("Cannot make the folder", folder);
+std::filesystem::path logOf(const std::filesystem::path& file) {
+    return file.string() + "-wal";
 }
 
-/// Sees that there is a plain file that can be written, in a folder that can: SQLite by itself would make the
-/// file readable for everybody, and would open what it cannot write for reading.
-Outcome makeFile(const std::filesystem::path& file) {
-    const auto folder = file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
-    if (auto error = makeFolders(folder))
-        return error;
-    if (::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) != 0)
-        return systemFailure("Cannot write to the folder", folder);
-    const int made = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (made >= 0) {
-        ::close(made);
-        return std::nullopt;
-    }
-    if (errno != EEXIST)
-        return systemFailure("Cannot make the file", file);
-    std::error_code ignored;
-    if (!std::filesystem::is_regular_file(file, ignored))
-        return failure(SQLITE_CANTOPEN, "\"" + file.string() + "\" is no file");
-    if (::faccessat(AT_FDCWD, file.c_str(), R_OK | W_OK, AT_EACCESS) != 0)
-        return systemFailure("Cannot write the file", file);
-    return std::nullopt;
-}
-
-std::uintmax_t sizeOf(const std::filesystem::path& file) {
-    std::error_code error;
-    const auto size = std::filesystem::file_size(file, error);
-    return error ? 0 : size;
-}
-
-/// A program that was killed left changes beside the file which belong to it.
-bool hasPendingChanges(const std::filesystem::path& file) {
-    return sizeOf(file.string() + "-wal") > 0 || sizeOf(file.string() + "-journal") > 0;
+std::filesystem::path journalOf(const std::filesystem::path& file) {
+    return file.string() + "-journal";
 }
 
 /// The file as an address that promises SQLite that nobody writes it: it is then read with no lock and no
@@ -166,7 +123,70 @@ Outcome examine(const std::filesystem::path& file, const Schema& schema) {
         return connection.error();
     if (auto error = expectOwn(connection.value().get(), schema))
         return error;
-    return hasPendingChanges(file) ? std::nullopt : expectWhole(connection.value().get(), schema);
+    // With a log beside it, the file alone is not the whole.
+    return sizeOf(logOf(file)) > 0 ? std::nullopt : expectWhole(connection.value().get(), schema);
+}
+
+/// A folder for copies, which goes with the object.
+class ScratchFolder final {
+public:
+    ScratchFolder() {
+        std::error_code ignored;
+        path_ = std::filesystem::temp_directory_path(ignored) / "tessivo-XXXXXX";
+        if (::mkdtemp(path_.data()) == nullptr)
+            path_.clear();
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    ~ScratchFolder() {
+        std::error_code ignored;
+        if (!path_.empty())
+            std::filesystem::remove_all(path_, ignored);
+    }
+
+    /// Empty where no folder could be made.
+    [[nodiscard]] const std::string& path() const { return path_; }
+
+private:
+    std::string path_;
+};
+
+/// Rolls a half-written transaction back on a copy, to see whether the file is ours at all. A file that was
+/// still being made ends up empty, which is fine.
+Outcome examineRolledBack(const std::filesystem::path& file, const Schema& schema) {
+    const ScratchFolder scratch;
+    const std::filesystem::path copy = std::filesystem::path(scratch.path()) / "copy";
+    std::error_code error;
+    if (!scratch.path().empty())
+        std::filesystem::copy_file(file, copy, error);
+    if (!error && !scratch.path().empty())
+        std::filesystem::copy_file(journalOf(file), journalOf(copy), error);
+    if (error || scratch.path().empty())
+        return failure(SQLITE_CANTOPEN, "an interrupted change cannot be examined: " + error.message());
+    auto connection = connect(copy.string(), SQLITE_OPEN_READWRITE);
+    if (!connection)
+        return connection.error();
+    if (auto refusal = execute(connection.value().get(), "PRAGMA synchronous=OFF"))
+        return refusal;
+    if (const auto tables = ask(connection.value().get(), countOfTables); !tables)
+        return tables.error();
+    if (sizeOf(copy) == 0)
+        return std::nullopt;
+    if (auto refusal = expectOwn(connection.value().get(), schema))
+        return refusal;
+    return expectWhole(connection.value().get(), schema);
+}
+
+/// Undoes the transaction that a killed program, or a loss of power, left half written.
+Outcome rollBack(const std::filesystem::path& file, const Schema& schema) {
+    if (auto error = examineRolledBack(file, schema))
+        return error;
+    auto connection = connect(file.string(), SQLITE_OPEN_READWRITE);
+    if (!connection)
+        return connection.error();
+    // SQLite rolls back at the first read.
+    const auto tables = ask(connection.value().get(), countOfTables);
+    return tables ? std::nullopt : Outcome(tables.error());
 }
 
 /// Takes up what a killed program left beside the file, if the whole is sound: else both stay as they are.
@@ -178,48 +198,67 @@ Outcome recover(sqlite3* connection, const Schema& schema) {
     return std::nullopt;
 }
 
-/// Makes the tables of a new file in one step, before the write-ahead log is on: so the file itself says
-/// whose it is from its first byte.
-Outcome makeTables(sqlite3* connection, const Schema& schema) {
-    if (auto error = execute(connection, "BEGIN IMMEDIATE"))
-        return error;
-    const auto tables = ask(connection, "SELECT count(*) FROM sqlite_schema");
-    if (!tables)
-        return tables.error();
-    if (tables.value() != "0") // another process was quicker
-        return execute(connection, "COMMIT");
+/// The content of a new file: empty tables, the marks that say whose it is, and the write-ahead log on.
+Result<std::string> newContent(const Schema& schema) {
+    auto connection = connect(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    if (!connection)
+        return connection.error();
     const std::string marks = "PRAGMA application_id=" + std::to_string(schema.applicationId) +
                               ";PRAGMA user_version=" + std::to_string(schema.version);
-    if (auto error = execute(connection, schema.sql))
-        return error;
-    if (auto error = execute(connection, marks.c_str()))
-        return error;
-    return execute(connection, "COMMIT");
+    for (const char* sql : {schema.sql, marks.c_str()}) {
+        if (auto error = execute(connection.value().get(), sql))
+            return *error;
+    }
+    sqlite3_int64 size = 0;
+    const std::unique_ptr<unsigned char, decltype(&sqlite3_free)> image(
+        sqlite3_serialize(connection.value().get(), "main", &size, 0), &sqlite3_free);
+    if (!image)
+        return failure(SQLITE_NOMEM, sqlite3_errstr(SQLITE_NOMEM));
+    std::string content(reinterpret_cast<const char*>(image.get()), static_cast<std::size_t>(size));
+    // The two version numbers of the file format; 2 stands for the write-ahead log.
+    constexpr std::size_t writeVersion = 18;
+    constexpr std::size_t readVersion = 19;
+    content[writeVersion] = content[readVersion] = 2;
+    return content;
+}
+
+/// The file comes into being whole, so that a kill leaves either none or a good one.
+Outcome makeNew(const std::filesystem::path& file, const Schema& schema) {
+    const auto content = newContent(schema);
+    if (!content)
+        return content.error();
+    // What lies beside a file that is gone would be played into the new one.
+    std::error_code ignored;
+    std::filesystem::remove(journalOf(file), ignored);
+    if (sizeOf(logOf(file)) > 0) {
+        if (auto error = setAside(logOf(file)))
+            return error;
+    }
+    return publish(file, content.value());
 }
 
 Outcome prepareForUse(sqlite3* connection, const Schema& schema) {
     if (auto error = execute(connection, "PRAGMA synchronous=FULL"))
         return error;
-    const auto tables = ask(connection, "SELECT count(*) FROM sqlite_schema");
-    if (!tables)
-        return tables.error();
-    if (tables.value() == "0") {
-        if (auto error = makeTables(connection, schema))
-            return error;
-    }
     if (auto error = expectOwn(connection, schema))
         return error;
     return execute(connection, "PRAGMA journal_mode=WAL");
 }
 
 Result<Connection> openExamined(const std::filesystem::path& file, const Schema& schema) {
-    if (auto error = makeFile(file))
+    if (auto error = expectWritable(file))
         return *error;
-    if (sizeOf(file) > 0) {
-        if (auto error = examine(file, schema))
+    if (sizeOf(file) > 0 && sizeOf(journalOf(file)) > 0) {
+        if (auto error = rollBack(file, schema))
             return inFile(file, *error);
     }
-    const bool recovering = hasPendingChanges(file);
+    if (sizeOf(file) == 0) {
+        if (auto error = makeNew(file, schema))
+            return *error;
+    }
+    if (auto error = examine(file, schema))
+        return inFile(file, *error);
+    const bool recovering = sizeOf(logOf(file)) > 0;
     auto connection = connect(file.string(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX);
     if (!connection)
         return inFile(file, connection.error());

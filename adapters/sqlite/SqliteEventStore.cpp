@@ -1,6 +1,7 @@
 #include "sqlite/SqliteEventStore.h"
 
 #include "sqlite/Database.h"
+#include "sqlite/DatabaseFile.h"
 #include "sqlite/EventColumns.h"
 
 #include <sqlite3.h>
@@ -42,7 +43,10 @@ int bindAttributes(Statement& statement, const EventAttributes& attributes, cons
 /// The open file and its statements, each prepared at its first use.
 class SqliteEventStore::OpenFile final {
 public:
-    explicit OpenFile(Database database) : database_(std::move(database)) {}
+    OpenFile(std::filesystem::path file, Database database)
+        : file_(std::move(file)), database_(std::move(database)) {
+        rememberFile();
+    }
 
     Outcome fetch(const std::optional<Uuid>& id, EventRowReceiver& rows) {
         const std::string select = "SELECT key, " + columnList() + " FROM events";
@@ -71,6 +75,8 @@ public:
         auto transaction = Transaction::begin(database_);
         if (!transaction)
             return transaction.error();
+        if (auto error = expectSameFile())
+            return error;
         std::vector<RowKey> keys;
         for (const EventChange& change : changes) {
             if (auto error = write(change))
@@ -80,6 +86,7 @@ public:
         }
         if (auto error = transaction.value().commit())
             return error;
+        rememberFile();
         auto key = keys.begin();
         for (EventChange& change : changes) {
             if (change.kind == EventChange::Kind::Insert)
@@ -128,8 +135,49 @@ private:
         return &statements_.emplace(sql, std::move(prepared.value())).first->second;
     }
 
+    [[nodiscard]] std::filesystem::path log() const { return file_.string() + "-wal"; }
+
+    /// SQLite goes on writing to a file that has been removed, and writes over one that has been copied into
+    /// its place: what it then calls saved is lost.
+    Outcome expectSameFile() {
+        const auto now = stateOf(file_);
+        const auto log = stateOf(this->log());
+        if (!now || !known_ || !log || !knownLog_)
+            return lost("been removed");
+        if (!now->isSameFile(*known_) || !log->isSameFile(*knownLog_))
+            return lost("been replaced");
+        if (!now->isUntouched(*known_) && foreignChanges() == knownForeignChanges_)
+            return lost("been overwritten");
+        return std::nullopt;
+    }
+
+    void rememberFile() {
+        known_ = stateOf(file_);
+        knownLog_ = stateOf(log());
+        knownForeignChanges_ = foreignChanges();
+    }
+
+    /// Rises with each change that came through another SQLite connection, which is welcome.
+    std::int64_t foreignChanges() {
+        auto prepared = statement("PRAGMA data_version");
+        if (!prepared)
+            return -1;
+        const ResetOnExit reset(*prepared.value());
+        return prepared.value()->step() == Step::Row ? prepared.value()->integer(0) : -1;
+    }
+
+    [[nodiscard]] Error lost(const char* what) const {
+        return {"SQLite", SQLITE_READONLY_DBMOVED,
+                "\"" + file_.string() + "\" has " + what +
+                    " while Tessivo was running. Nothing more can be saved until Tessivo is started again."};
+    }
+
+    std::filesystem::path file_;
     Database database_;
     std::map<std::string, Statement> statements_; ///< by text
+    std::optional<FileState> known_;              ///< as this connection left it
+    std::optional<FileState> knownLog_;
+    std::int64_t knownForeignChanges_ = 0;
 };
 
 SqliteEventStore::SqliteEventStore(std::filesystem::path file) : file_(std::move(file)) {}
@@ -144,7 +192,7 @@ std::optional<LoadFailure> SqliteEventStore::load() {
         const Error& error = database.error();
         return LoadFailure{error, {{"code", std::to_string(error.code)}, {"file", file_.string()}}};
     }
-    open_ = std::make_unique<OpenFile>(std::move(database.value()));
+    open_ = std::make_unique<OpenFile>(file_, std::move(database.value()));
     return std::nullopt;
 }
 

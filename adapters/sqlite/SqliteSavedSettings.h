@@ -21,6 +21,7 @@ class SqliteSavedSettings final : public SavedSettings {
 public:
     SqliteSavedSettings(const std::filesystem::path& file, Console& console);
 
+    bool contains(std::string_view key) const override { return values_.contains(key); }
     std::optional<long> integer(std::string_view key) const override;
     std::optional<bool> boolean(std::string_view key) const override;
     std::optional<std::string> text(std::string_view key) const override;

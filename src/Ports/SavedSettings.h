@@ -13,6 +13,9 @@ class SavedSettings {
 public:
     virtual ~SavedSettings() = default;
 
+    /// Whether the key has a value, of whatever kind.
+    [[nodiscard]] virtual bool contains(std::string_view key) const = 0;
+
     /// The value of the key, empty where there is none or where it is of another kind.
     [[nodiscard]] virtual std::optional<long> integer(std::string_view key) const = 0;
     [[nodiscard]] virtual std::optional<bool> boolean(std::string_view key) const = 0;

@@ -41,6 +41,19 @@ TEST_F(StartTest, LaterLaunchesCountAndKeepWhatWasChosen) {
     EXPECT_EQ(firstList(), ListType::Future);
 }
 
+TEST_F(StartTest, ALaunchOverwritesNoSettingThatIsThere) {
+    settings().setInteger(settingKeys::eventSize, 0); // the smallest cards
+    settings().setText(settingKeys::defaultScreen, "Future");
+    program.restart();
+    EXPECT_EQ(settings().integer(settingKeys::eventSize), 0);
+    EXPECT_EQ(settings().text(settingKeys::defaultScreen), "Future");
+}
+
+TEST_F(StartTest, ALaunchCounterOfAnotherKindStopsTheProgram) {
+    settings().setText(settingKeys::secondOpen, "2");
+    EXPECT_THROW(program.restart(), fakes::ProgramStopped);
+}
+
 TEST_F(StartTest, ALaunchMovesWhatHasPassedMeanwhile) {
     EventItem item;
     item.title = "Train";

@@ -55,6 +55,7 @@ protected:
 };
 
 TEST_P(SavedSettingsContract, WhatWasNeverSetIsAbsent) {
+    EXPECT_FALSE(settings->contains("EventSize"));
     EXPECT_EQ(settings->integer("EventSize"), std::nullopt);
     EXPECT_EQ(settings->boolean("isFirstLaunch"), std::nullopt);
     EXPECT_EQ(settings->text("rateUs"), std::nullopt);
@@ -79,6 +80,7 @@ TEST_P(SavedSettingsContract, TheLastWriteCountsAlsoOverItsKind) {
     settings->setInteger("key", 1);
     settings->setBoolean("key", true);
     for (int run = 0; run < 2; ++run) {
+        EXPECT_TRUE(settings->contains("key"));
         EXPECT_THAT(settings->boolean("key"), Optional(true));
         EXPECT_EQ(settings->integer("key"), std::nullopt);
         EXPECT_EQ(settings->text("key"), std::nullopt);

@@ -9,8 +9,8 @@ namespace tessivo {
 /// A folder of a test's own, gone with the object.
 class TemporaryFolder final {
 public:
-    TemporaryFolder() {
-        std::string pattern = std::filesystem::temp_directory_path() / "tessivo-test-XXXXXX";
+    explicit TemporaryFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
+        std::string pattern = parent / "tessivo-test-XXXXXX";
         path_ = ::mkdtemp(pattern.data());
     }
     TemporaryFolder(const TemporaryFolder&) = delete;

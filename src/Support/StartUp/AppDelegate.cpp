@@ -34,7 +34,7 @@ void AppDelegate::didFinishLaunching(ui::PresentationStack& window) {
 void AppDelegate::fillAbsentSettings() {
     SavedSettings& settings = services_.platform().settings;
     for (const auto& [key, value] : firstValues) {
-        if (!settings.integer(key))
+        if (!settings.contains(key))
             settings.setInteger(key, value);
     }
 }

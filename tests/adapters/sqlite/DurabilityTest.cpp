@@ -1,3 +1,5 @@
+#include "KilledProcess.h"
+
 #include "Event/CoreDataStack.h"
 #include "Event/EventItem.h"
 #include "fakes/RecordingConsole.h"
@@ -7,12 +9,10 @@
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
+#include <sqlite3.h>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <atomic>
-#include <csignal>
 #include <map>
 #include <random>
 
@@ -43,9 +43,8 @@ EventItem eventOf(const Uuid& id, int version) {
     return item;
 }
 
-/// Adds and updates without end; each write carries a higher version than the one before.
-[[noreturn]] void writeUntilKilled(const std::filesystem::path& file, int firstVersion, unsigned seed,
-                                   int report) {
+/// Adds and updates; each write carries a higher version than the one before.
+void write(const std::filesystem::path& file, int firstVersion, int writes, unsigned seed, int report) {
     fakes::RecordingConsole console;
     sqlite::SqliteEventStore store(file);
     CoreDataStack stack(store, console);
@@ -53,7 +52,7 @@ EventItem eventOf(const Uuid& id, int version) {
     std::vector<Uuid> known;
     for (const auto& row : stack.fetchEvents())
         known.push_back(*row->id());
-    for (int version = firstVersion;; ++version) {
+    for (int version = firstVersion; version < firstVersion + writes; ++version) {
         Acknowledgement done{numbered(version), version};
         if (known.empty() || random() % 3 == 0) {
             stack.addEvent(eventOf(done.id, version));
@@ -69,29 +68,18 @@ EventItem eventOf(const Uuid& id, int version) {
 
 class DurabilityTest : public testing::Test {
 protected:
-    /// Lets the program run for `writes` acknowledged writes and a random part of the next ones, and kills
-    /// it.
-    void runAndKill(int writes) {
+    /// Starts the program, lets it write, and kills it at that system call; false if it was never reached.
+    bool runAndKill(int systemCall, int writes) {
         int ends[2];
-        ASSERT_EQ(::pipe(ends), 0);
-        const pid_t child = ::fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            ::close(ends[0]);
-            writeUntilKilled(file, nextVersion, static_cast<unsigned>(random()), ends[1]);
-        }
+        EXPECT_EQ(::pipe(ends), 0);
+        const auto seed = static_cast<unsigned>(random());
+        const bool ended =
+            runUntilSystemCall(systemCall, [&] { write(file, nextVersion, writes, seed, ends[1]); });
         ::close(ends[1]);
-        for (int write = 0; write < writes && readReport(ends[0]); ++write) {
-        }
-        for (std::atomic<unsigned long> moment = random() % 400'000 + 1; --moment > 0;) {
-        }
-        ::kill(child, SIGKILL);
         while (readReport(ends[0])) {
         }
         ::close(ends[0]);
-        int status = 0;
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status)) << "the program ended by itself";
+        return !ended;
     }
 
     bool readReport(int end) {
@@ -130,7 +118,8 @@ protected:
         ++nextVersion;
     }
 
-    TemporaryFolder folder;
+    // In memory: a kill is no loss of power, and a disk would flush ten thousand times.
+    TemporaryFolder folder{"/dev/shm"};
     std::filesystem::path file = folder / "events.db";
     std::mt19937 random{20261122};
     std::map<Uuid, int> acknowledged; ///< the last version reported
@@ -138,10 +127,68 @@ protected:
     int reports = 0;
 };
 
+TEST_F(DurabilityTest, AKillAtAnySystemCallOfAFirstStartLeavesAStoreThatOpens) {
+    int systemCall = 0;
+    for (bool killed = true; killed;) {
+        SCOPED_TRACE("killed at system call " + std::to_string(++systemCall));
+        killed = runAndKill(systemCall, 1);
+        ASSERT_NO_FATAL_FAILURE(expectSound());
+        ASSERT_NO_FATAL_FAILURE(expectNothingLost());
+        std::filesystem::remove_all(file.parent_path());
+        acknowledged.clear();
+    }
+    EXPECT_GT(systemCall, 50);
+}
+
+/// Makes the tables in the file itself, or writes a row, with a rollback journal beside it.
+void writeWithJournal(const std::filesystem::path& file) {
+    ::sqlite3* connection = nullptr;
+    const std::string marks = "PRAGMA application_id=" + std::to_string(sqlite::eventSchema.applicationId) +
+                              ";PRAGMA user_version=" + std::to_string(sqlite::eventSchema.version);
+    const bool isNew = !std::filesystem::exists(file);
+    if (sqlite3_open(file.c_str(), &connection) != SQLITE_OK)
+        ::_exit(1);
+    for (const std::string& sql : {std::string("PRAGMA cache_size=1; PRAGMA journal_mode=DELETE; BEGIN"),
+                                   isNew ? sqlite::eventSchema.sql + marks : std::string(),
+                                   std::string("UPDATE events SET title = title || 'x'; COMMIT")}) {
+        if (sqlite3_exec(connection, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+            ::_exit(1);
+    }
+}
+
+TEST_F(DurabilityTest, WhatIsLeftOfATransactionWithARollbackJournalIsRolledBack) {
+    const auto original = folder / "original.db";
+    for (const bool isNew : {true, false}) {
+        bool killed = true;
+        for (int systemCall = 1; killed; ++systemCall) {
+            SCOPED_TRACE((isNew ? "creation" : "update") + std::string(", system call ") +
+                         std::to_string(systemCall));
+            if (!isNew)
+                std::filesystem::copy_file(original, file);
+            killed = !runUntilSystemCall(systemCall, [&] { writeWithJournal(file); });
+            ASSERT_NO_FATAL_FAILURE(expectSound());
+            ASSERT_NO_FATAL_FAILURE(expectNothingLost());
+            for (const char* part : {"", "-journal", "-wal", "-shm"})
+                std::filesystem::remove(file.string() + part);
+        }
+        // The second round begins with rows on many pages.
+        fakes::RecordingConsole console;
+        sqlite::SqliteEventStore store(original);
+        CoreDataStack stack(store, console);
+        for (int row = 1; row < 20; ++row)
+            stack.addEvent(eventOf(numbered(row), acknowledged[numbered(row)] = row * 200));
+    }
+}
+
 TEST_F(DurabilityTest, NoAcknowledgedWriteIsLostToAKillAtAnyMoment) {
-    for (int kill = 0; kill < 200; ++kill) {
-        SCOPED_TRACE("kill " + std::to_string(kill));
-        ASSERT_NO_FATAL_FAILURE(runAndKill(static_cast<int>(random() % 6)));
+    int kills = 0;
+    while (kills < 1000) {
+        SCOPED_TRACE("kill " + std::to_string(kills));
+        if (kills % 100 == 0) { // a store's life from its first start on
+            std::filesystem::remove_all(file.parent_path());
+            acknowledged.clear();
+        }
+        kills += runAndKill(static_cast<int>(random() % 200) + 1, 4) ? 1 : 0;
         ASSERT_NO_FATAL_FAILURE(expectSound());
         ASSERT_NO_FATAL_FAILURE(expectNothingLost());
     }

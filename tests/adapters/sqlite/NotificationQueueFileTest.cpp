@@ -44,7 +44,7 @@ protected:
         ASSERT_EQ(queue.setAuthorization(AuthorizationStatus::Denied), std::nullopt);
     }
 
-    TemporaryFolder folder;
+    TemporaryFolder folder{"/dev/shm"}; // what competes here are locks, not the disk
     std::filesystem::path file = folder / "queue.sqlite";
     fakes::RecordingConsole console;
 };

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <functional>
+
+namespace tessivo {
+
+/// Runs `work` in a process of its own and kills it as it enters its `calls`-th system call, counted from 1.
+/// True if `work` came to its end before that; a work that fails ends the process with `_exit(1)`, and the
+/// test with a failure.
+[[nodiscard]] bool runUntilSystemCall(int calls, const std::function<void()>& work);
+
+} // namespace tessivo
