@@ -12,8 +12,11 @@ Composition::Composition(const Machine::Settings& settings, Clock& clock, Consol
     : machine_(settings, clock, console,
                [this](std::function<void(bool)> answer) { permission_.ask(std::move(answer)); }),
       program_(machine_.platform(), machine_.frameClock(), screen_),
-      permission_(stack(), machine_.notificationCenter(), services().platform().mainQueue,
+      permission_(pendingScreens_, stack().window(), machine_.notificationCenter(),
+                  services().platform().mainQueue,
                   [this](bool allowed) { machine_.notificationCenter().setAuthorization(allowed); }),
+      saveFailureAlert_(services().coreDataStack(), pendingScreens_, stack().window(),
+                        machine_.machineTexts()),
       shell_(stack(), services().platform().colors, console, machine_.snapshots()) {
     if (!settings.photoService.empty())
         services().photoPicker().setConfiguration(

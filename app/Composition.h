@@ -1,7 +1,9 @@
 #pragma once
 
 #include "Support/StartUp/NotificationPermission.h"
+#include "Support/StartUp/PendingScreens.h"
 #include "Support/StartUp/RunningProgram.h"
+#include "Support/StartUp/SaveFailureAlert.h"
 #include "app/Machine.h"
 #include "shell/Shell.h"
 
@@ -31,7 +33,9 @@ private:
     Machine machine_;
     ui::MainScreen screen_;
     RunningProgram program_;
+    PendingScreens pendingScreens_{stack()};
     NotificationPermission permission_;
+    SaveFailureAlert saveFailureAlert_;
     shell::Shell shell_;
 };
 

@@ -62,6 +62,8 @@ public:
     [[nodiscard]] QtFrameClock& frameClock() { return frameClock_; }
     [[nodiscard]] shell::QuickSnapshots& snapshots() { return snapshots_; }
     [[nodiscard]] QueuedNotificationCenter& notificationCenter() { return notificationCenter_; }
+    /// What the machine's side tells the user.
+    [[nodiscard]] const LocalizedTexts& machineTexts() const { return machineTexts_; }
 
     /// Waits until no thread has anything left to do for the program, so that all of their answers wait on
     /// the main queue: where time is virtual, nothing else would wait for a thread.
@@ -84,6 +86,7 @@ private:
     JsonNamedColors colors_;
     JsonLocalizedTexts texts_;
     JsonLocalizedTexts photoTexts_;
+    JsonLocalizedTexts machineTexts_;
     sqlite::SqliteSavedSettings savedSettings_;
     sqlite::SqliteEventStore eventStore_;
     sqlite::SqliteNotificationQueue notificationQueue_;

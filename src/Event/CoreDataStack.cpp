@@ -57,8 +57,7 @@ EventContext& CoreDataStack::viewContext() {
 }
 
 void CoreDataStack::addEvent(const EventItem& item) {
-    viewContext().insert(recordOf(item, console_));
-    save();
+    save(viewContext().insert(recordOf(item, console_)));
 }
 
 void CoreDataStack::updateTitle(const Uuid& id, const std::string& title) {
@@ -66,7 +65,7 @@ void CoreDataStack::updateTitle(const Uuid& id, const std::string& title) {
     if (!event)
         return;
     event->setTitle(title);
-    save();
+    save(event);
 }
 
 void CoreDataStack::updateDate(const Uuid& id, const std::string& dateEvent) {
@@ -74,7 +73,7 @@ void CoreDataStack::updateDate(const Uuid& id, const std::string& dateEvent) {
     if (!event)
         return;
     event->setDateEvent(dateEvent);
-    save();
+    save(event);
 }
 
 void CoreDataStack::updateDateAndTime(const Uuid& id, const std::optional<std::string>& dateEvent,
@@ -88,7 +87,7 @@ void CoreDataStack::updateDateAndTime(const Uuid& id, const std::optional<std::s
     event->setTimeFormat(timeFormat);
     event->setRepEvent(repEvent);
     event->setEventType(eventType);
-    save();
+    save(event);
 }
 
 void CoreDataStack::updateReminder(const Uuid& id, const std::optional<std::string>& remMess,
@@ -99,7 +98,7 @@ void CoreDataStack::updateReminder(const Uuid& id, const std::optional<std::stri
     event->setRemMess(remMess);
     event->setAlertReminder(alertReminder);
     event->setRepReminder(repReminder);
-    save();
+    save(event);
 }
 
 void CoreDataStack::updateBackground(const Uuid& id, std::int16_t color, std::int16_t gradient,
@@ -112,7 +111,7 @@ void CoreDataStack::updateBackground(const Uuid& id, std::int16_t color, std::in
     event->setGradient(gradient);
     event->setUnsplashPath(unsplashPath);
     event->setPhotoPath(photoPath);
-    save();
+    save(event);
 }
 
 EventRows CoreDataStack::fetchEvents() {
@@ -132,7 +131,7 @@ void CoreDataStack::deleteEvent(const Uuid& id) {
     if (!event)
         return;
     viewContext().deleteObject(*event);
-    save();
+    save(event);
 }
 
 std::shared_ptr<EventCoreData> CoreDataStack::firstRow(const Uuid& id) {
@@ -140,13 +139,14 @@ std::shared_ptr<EventCoreData> CoreDataStack::firstRow(const Uuid& id) {
     return rows && !rows.value().empty() ? rows.value().front() : nullptr;
 }
 
-void CoreDataStack::save() {
-    if (const auto error = viewContext().save()) {
+void CoreDataStack::save(const std::shared_ptr<EventCoreData>& event) {
+    const auto error = viewContext().save();
+    if (error)
         console_.print("Error: " + error->description);
-        return;
-    }
-    if (const auto listener = delegate.lock())
+    else if (const auto listener = delegate.lock())
         listener->dataDidChange();
+    if (saveListener)
+        saveListener(event, error);
 }
 
 } // namespace tessivo

@@ -3,6 +3,7 @@
 #include "Event/EventContext.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,6 +31,9 @@ public:
 
     /// Told once of each write of this stack, after it is on disk.
     std::weak_ptr<DataChangeDelegate> delegate;
+
+    /// Called at the end of each save with the event it was for, and with the error if it failed.
+    std::function<void(const std::shared_ptr<EventCoreData>&, const Outcome&)> saveListener;
 
     /// Loads the store at the first call; a store that does not load stops the program.
     [[nodiscard]] PersistentContainer& persistentContainer();
@@ -60,9 +64,12 @@ public:
 
     void deleteEvent(const Uuid& id);
 
+    /// Saves all changes that are not saved yet, on behalf of `event`. The operations above do this
+    /// themselves; it is for what they could not save.
+    void save(const std::shared_ptr<EventCoreData>& event);
+
 private:
     [[nodiscard]] std::shared_ptr<EventCoreData> firstRow(const Uuid& id);
-    void save();
 
     EventStore& store_;
     Console& console_;

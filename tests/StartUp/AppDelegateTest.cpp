@@ -43,10 +43,8 @@ TEST_F(StartTest, LaterLaunchesCountAndKeepWhatWasChosen) {
 
 TEST_F(StartTest, ALaunchOverwritesNoSettingThatIsThere) {
     settings().setInteger(settingKeys::eventSize, 0); // the smallest cards
-    settings().setText(settingKeys::defaultScreen, "Future");
     program.restart();
     EXPECT_EQ(settings().integer(settingKeys::eventSize), 0);
-    EXPECT_EQ(settings().text(settingKeys::defaultScreen), "Future");
 }
 
 TEST_F(StartTest, ALaunchCounterOfAnotherKindStopsTheProgram) {

@@ -3,6 +3,7 @@
 #include "Extension/TabBar/CustomTabBarController.h"
 #include "Interface/AlertController.h"
 #include "SettingVC/NotificationSettingsController.h"
+#include "Support/StartUp/PendingScreens.h"
 #include "support/Program.h"
 
 #include <gmock/gmock.h>
@@ -16,8 +17,9 @@ class PermissionTest : public testing::Test {
 protected:
     Program program;
     std::vector<bool> answers;
-    NotificationPermission permission{program.stack(), program.notifications, program.timeline,
-                                      [this](bool allowed) { answers.push_back(allowed); }};
+    PendingScreens pending{program.stack()};
+    NotificationPermission permission{pending, program.stack().window(), program.notifications,
+                                      program.timeline, [this](bool allowed) { answers.push_back(allowed); }};
 };
 
 TEST_F(PermissionTest, TheQuestionWaitsForTheSlideToEnd) {

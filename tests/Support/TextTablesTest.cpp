@@ -16,8 +16,8 @@ namespace {
 using testing::UnorderedElementsAre;
 using testing::UnorderedElementsAreArray;
 
-std::string contentsOf(const char* language) {
-    return resource("texts/" + std::string(language) + ".json");
+std::string contentsOf(const std::string& language, const std::string& folder = "texts") {
+    return resource(folder + "/" + language + ".json");
 }
 
 /// Notes the keys that are asked for, and answers with the key in brackets.
@@ -70,6 +70,21 @@ TEST_P(EveryLanguage, KeepsTheShapesThatScreensLeanOn) {
         EXPECT_EQ(oneLine.find('\n'), std::string::npos) << oneLine;
     EXPECT_NE(shown.alertYes, shown.alertNo);
     EXPECT_TRUE(shown.share.ends_with(' ') || shown.share.ends_with("：")) << "an address follows at once";
+}
+
+TEST_P(EveryLanguage, TellsTroubleWithTheSameParticularsAsEnglish) {
+    const auto english = readTextTable(contentsOf("en", "machine-texts"));
+    const auto table = readTextTable(contentsOf(GetParam(), "machine-texts"));
+    ASSERT_TRUE(table) << table.error().description;
+    EXPECT_EQ(table.value().size(), english.value().size());
+    for (const auto& [key, text] : english.value()) {
+        const auto found = table.value().find(key);
+        ASSERT_NE(found, table.value().end()) << key;
+        for (const char* particular : {"%1", "%2"})
+            EXPECT_EQ(found->second.find(particular) == std::string::npos,
+                      text.find(particular) == std::string::npos)
+                << key << " " << particular;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, EveryLanguage, testing::Values("en", "de", "fr", "es", "ru", "ja", "ar"),
