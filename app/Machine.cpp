@@ -1,6 +1,7 @@
 #include "app/Machine.h"
 
 #include "Ports/Console.h"
+#include "icu/DeviceLocale.h"
 
 #include <QDBusConnection>
 #include <QFile>
@@ -45,7 +46,7 @@ Machine::Machine(const Settings& settings, Clock& clock, Console& console,
       photoTexts_(table<JsonLocalizedTexts>("unsplash-texts/" + settings.language + ".json", console)),
       machineTexts_(table<JsonLocalizedTexts>("machine-texts/" + settings.language + ".json", console)),
       savedSettings_(settings.data / "settings.sqlite", console),
-      eventStore_(settings.data / "events.sqlite"),
+      eventStore_(settings.data / "events.sqlite", [] { return deviceLocale(LocalePurpose::Dates); }),
       notificationQueue_(settings.data / "reminders.sqlite", console),
       notificationCenter_({notificationQueue_, calendar_, queueCalendar_, mainQueue_, clock},
                           std::make_unique<ThreadWorkQueue>(), std::move(ask), settings.tellReminderHelper),

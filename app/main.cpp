@@ -1,5 +1,6 @@
 #include "Support/StartUp/LaunchAction.h"
 #include "app/Composition.h"
+#include "app/stop/StopWindow.h"
 #include "freedesktop/DataFolder.h"
 #include "freedesktop/ReminderService.h"
 #include "icu/DeviceLocale.h"
@@ -12,8 +13,41 @@
 #include <QLocale>
 #include <QStandardPaths>
 
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
+namespace {
+
+constexpr const char* help = "Usage: tessivo [--version] [--help]\n"
+                             "Counts the time to, or since, the dates that matter to you.\n";
+
+/// Answers the options that every program has; all others are ignored.
+bool answerOptions(int argc, char** argv) {
+    const auto has = [&](std::string_view option) {
+        return std::any_of(argv + 1, argv + argc, [&](const char* argument) { return argument == option; });
+    };
+    if (has("--help"))
+        std::fputs(help, stdout);
+    else if (has("--version"))
+        std::puts("Tessivo " TESSIVO_VERSION);
+    else
+        return false;
+    return true;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     using namespace tessivo;
+
+    if (isStopWindow(argc, argv))
+        return runStopWindow(argc, argv);
+    if (answerOptions(argc, argv))
+        return 0;
+    StandardConsole console(becomeStopWindow);
+    if (!hasDisplay())
+        console.stopProgram("There is no display: neither WAYLAND_DISPLAY nor DISPLAY is set.");
 
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tessivo"));
@@ -22,7 +56,6 @@ int main(int argc, char** argv) {
     font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Noto Color Emoji")});
     QGuiApplication::setFont(font);
 
-    StandardConsole console;
     SystemClock clock;
     const std::string language = languageFor(deviceLocale(LocalePurpose::Texts), Machine::languages());
     QGuiApplication::setLayoutDirection(QLocale(QString::fromStdString(language)).textDirection());

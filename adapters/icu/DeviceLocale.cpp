@@ -1,6 +1,7 @@
 #include "icu/DeviceLocale.h"
 
 #include <unicode/locid.h>
+#include <unicode/unistr.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -26,6 +27,21 @@ std::string deviceLocale(LocalePurpose purpose) {
     if (beforeEncoding.empty() || beforeEncoding == "C" || beforeEncoding == "POSIX")
         return "en_US_POSIX";
     return icu::Locale::createCanonical(std::string(name).c_str()).getName();
+}
+
+std::string localeVariable(const std::string& localeName) {
+    if (localeName == "en_US_POSIX")
+        return "C.UTF-8";
+    const auto keywords = localeName.find('@');
+    const std::string rest = keywords == std::string::npos ? "" : localeName.substr(keywords);
+    return localeName.substr(0, keywords) + ".UTF-8" + rest;
+}
+
+std::string localeDisplayName(const std::string& localeName, const std::string& language) {
+    icu::UnicodeString name;
+    icu::Locale(localeName.c_str()).getDisplayName(icu::Locale(language.c_str()), name);
+    std::string text;
+    return name.toUTF8String(text);
 }
 
 std::string languageFor(std::string_view localeName, std::span<const std::string_view> available) {

@@ -14,6 +14,12 @@ enum class LocalePurpose { Dates, Texts };
 /// for the "C" locale.
 [[nodiscard]] std::string deviceLocale(LocalePurpose purpose);
 
+/// The value of LC_ALL with which the device's locale is that one.
+[[nodiscard]] std::string localeVariable(const std::string& localeName);
+
+/// What speakers of `language` call that locale: "German (Germany)".
+[[nodiscard]] std::string localeDisplayName(const std::string& localeName, const std::string& language);
+
 /// The one of `available` (language codes such as "de") that serves `localeName`; "en" where none does.
 [[nodiscard]] std::string languageFor(std::string_view localeName,
                                       std::span<const std::string_view> available);

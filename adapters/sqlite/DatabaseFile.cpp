@@ -112,10 +112,15 @@ Outcome publish(const fs::path& file, std::string_view content) {
     return outcome;
 }
 
+fs::path freeName(const std::string& start) {
+    int number = 1;
+    while (fs::exists(start + std::to_string(number)))
+        ++number;
+    return start + std::to_string(number);
+}
+
 Outcome setAside(const fs::path& file) {
-    fs::path aside;
-    for (int number = 1; aside.empty() || fs::exists(aside); ++number)
-        aside = file.string() + ".left-" + std::to_string(number);
+    const auto aside = freeName(file.string() + ".left-");
     if (::rename(file.c_str(), aside.c_str()) != 0)
         return systemFailure("Cannot set aside the file", file);
     return std::nullopt;

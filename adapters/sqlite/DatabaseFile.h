@@ -8,6 +8,7 @@
 #include <ctime>
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace tessivo::sqlite {
@@ -22,6 +23,9 @@ namespace tessivo::sqlite {
 /// Puts `content` on disk as the file (mode 0600) in one step: at no moment is there a part of it. An empty
 /// file is replaced; one with content, which another process has made meanwhile, stays.
 [[nodiscard]] Outcome publish(const std::filesystem::path& file, std::string_view content);
+
+/// The first of "<start>1", "<start>2" and so on that no file has.
+[[nodiscard]] std::filesystem::path freeName(const std::string& start);
 
 /// Renames the file to the first free name of the form "<file>.left-1".
 [[nodiscard]] Outcome setAside(const std::filesystem::path& file);

@@ -61,6 +61,15 @@ WHERE repEvent NOT BETWEEN -32768 AND 32767 OR alertReminder NOT BETWEEN -32768 
    OR eventType NOT IN (0, 1) OR length(id) <> 16
 )"};
 
+Outcome noteDateLocale(Database& database, RowKey event, std::string_view locale) {
+    auto prepared = database.prepare("INSERT OR REPLACE INTO dateLocales(event, locale) VALUES(?, ?)");
+    if (!prepared)
+        return prepared.error();
+    prepared.value().bindInteger(1, event);
+    prepared.value().bindText(2, locale);
+    return prepared.value().run();
+}
+
 void bindAttribute(Statement& statement, int parameter, EventAttribute attribute, const EventRecord& values) {
     switch (attribute) {
     case EventAttribute::title:

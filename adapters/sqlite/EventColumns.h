@@ -4,6 +4,7 @@
 #include "sqlite/Database.h"
 
 #include <array>
+#include <string_view>
 
 namespace tessivo::sqlite {
 
@@ -13,6 +14,14 @@ inline constexpr std::array<const char*, eventAttributeCount> eventColumns{
     "timeFormat", "color",     "gradient",  "photoPath", "unsplashPath",  "eventType",   "id"};
 
 extern const Schema eventSchema;
+
+/// Makes the table beside the events which tells in which locale each one's dates were written, where there
+/// is none yet. The program never asks for it: it helps out when the dates can no longer be parsed.
+inline constexpr const char* makeDateLocales =
+    "CREATE TABLE IF NOT EXISTS dateLocales(event INTEGER PRIMARY KEY, locale TEXT NOT NULL) STRICT";
+
+/// Notes the locale, an ICU name, in which the dates of that event have just been written.
+[[nodiscard]] Outcome noteDateLocale(Database& database, RowKey event, std::string_view locale);
 
 /// Binds one attribute.
 void bindAttribute(Statement& statement, int parameter, EventAttribute attribute, const EventRecord& values);

@@ -43,8 +43,8 @@ int bindAttributes(Statement& statement, const EventAttributes& attributes, cons
 /// The open file and its statements, each prepared at its first use.
 class SqliteEventStore::OpenFile final {
 public:
-    OpenFile(std::filesystem::path file, Database database)
-        : file_(std::move(file)), database_(std::move(database)) {
+    OpenFile(std::filesystem::path file, Database database, const DateLocale& dateLocale)
+        : file_(std::move(file)), database_(std::move(database)), dateLocale_(dateLocale) {
         rememberFile();
     }
 
@@ -81,8 +81,11 @@ public:
         for (const EventChange& change : changes) {
             if (auto error = write(change))
                 return error;
-            if (change.kind == EventChange::Kind::Insert)
+            const bool inserts = change.kind == EventChange::Kind::Insert;
+            if (inserts)
                 keys.push_back(database_.lastInsertedKey());
+            if (auto error = noteLocale(change, inserts ? keys.back() : change.key))
+                return error;
         }
         if (auto error = transaction.value().commit())
             return error;
@@ -109,6 +112,18 @@ private:
         if (change.kind != EventChange::Kind::Insert)
             writing.bindInteger(parameter + 1, change.key);
         return writing.run();
+    }
+
+    Outcome noteLocale(const EventChange& change, RowKey event) {
+        static const auto dates = [] {
+            EventAttributes attributes;
+            attributes.set(static_cast<std::size_t>(EventAttribute::dateEvent));
+            return attributes.set(static_cast<std::size_t>(EventAttribute::timeEvent));
+        }();
+        const bool writesDates =
+            change.kind == EventChange::Kind::Insert ||
+            (change.kind == EventChange::Kind::Update && (change.attributes & dates).any());
+        return dateLocale_ && writesDates ? noteDateLocale(database_, event, dateLocale_()) : std::nullopt;
     }
 
     static std::string textOf(const EventChange& change) {
@@ -174,13 +189,15 @@ private:
 
     std::filesystem::path file_;
     Database database_;
+    const DateLocale& dateLocale_;
     std::map<std::string, Statement> statements_; ///< by text
     std::optional<FileState> known_;              ///< as this connection left it
     std::optional<FileState> knownLog_;
     std::int64_t knownForeignChanges_ = 0;
 };
 
-SqliteEventStore::SqliteEventStore(std::filesystem::path file) : file_(std::move(file)) {}
+SqliteEventStore::SqliteEventStore(std::filesystem::path file, DateLocale dateLocale)
+    : file_(std::move(file)), dateLocale_(std::move(dateLocale)) {}
 
 SqliteEventStore::~SqliteEventStore() = default;
 
@@ -188,12 +205,16 @@ std::optional<LoadFailure> SqliteEventStore::load() {
     if (open_)
         return std::nullopt;
     auto database = Database::open(file_, eventSchema);
-    if (!database) {
-        const Error& error = database.error();
-        return LoadFailure{error, {{"code", std::to_string(error.code)}, {"file", file_.string()}}};
-    }
-    open_ = std::make_unique<OpenFile>(file_, std::move(database.value()));
+    if (!database)
+        return failure(database.error());
+    if (const auto error = database.value().execute(makeDateLocales))
+        return failure(*error);
+    open_ = std::make_unique<OpenFile>(file_, std::move(database.value()), dateLocale_);
     return std::nullopt;
+}
+
+LoadFailure SqliteEventStore::failure(const Error& error) const {
+    return {error, {{"code", std::to_string(error.code)}, {"file", file_.string()}}};
 }
 
 Outcome SqliteEventStore::fetch(std::optional<std::string_view> predicate, EventRowReceiver& rows) {

@@ -3,7 +3,9 @@
 #include "Ports/EventStore.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <string>
 
 namespace tessivo::sqlite {
 
@@ -11,7 +13,11 @@ namespace tessivo::sqlite {
 /// it is left.
 class SqliteEventStore final : public EventStore {
 public:
-    explicit SqliteEventStore(std::filesystem::path file);
+    /// The locale, an ICU name, in which the program writes dates at that moment. It is noted with every date
+    /// that is saved, so that one which can no longer be parsed can be rewritten.
+    using DateLocale = std::function<std::string()>;
+
+    explicit SqliteEventStore(std::filesystem::path file, DateLocale dateLocale = {});
     ~SqliteEventStore() override;
 
     std::optional<LoadFailure> load() override;
@@ -21,7 +27,10 @@ public:
 private:
     class OpenFile;
 
+    [[nodiscard]] LoadFailure failure(const Error& error) const;
+
     std::filesystem::path file_;
+    DateLocale dateLocale_;          ///< empty: nothing is noted
     std::unique_ptr<OpenFile> open_; ///< none until the store is loaded
 };
 

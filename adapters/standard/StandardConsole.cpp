@@ -4,7 +4,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <string>
+#include <utility>
 
 namespace tessivo {
 namespace {
@@ -31,7 +31,8 @@ std::string escaped(std::string_view line) {
 
 } // namespace
 
-StandardConsole::StandardConsole() {
+StandardConsole::StandardConsole(std::function<void(const std::string&)> lastAct)
+    : lastAct_(std::move(lastAct)) {
     std::signal(SIGPIPE, SIG_IGN);
 }
 
@@ -42,6 +43,8 @@ void StandardConsole::print(std::string_view line) {
 
 void StandardConsole::stop(std::string_view text) {
     print(text);
+    if (lastAct_)
+        lastAct_(std::string(text));
     std::_Exit(1);
 }
 

@@ -4,18 +4,10 @@
 #include "Event/EventCoreData.h"
 #include "Interface/AlertController.h"
 #include "Ports/LocalizedTexts.h"
+#include "Support/FilledText.h"
 #include "Support/StartUp/PendingScreens.h"
 
 namespace tessivo {
-namespace {
-
-/// The text with the first "%1" replaced.
-std::string filled(std::string text, const std::string& value) {
-    const auto place = text.find("%1");
-    return place == std::string::npos ? text : text.replace(place, 2, value);
-}
-
-} // namespace
 
 SaveFailureAlert::SaveFailureAlert(CoreDataStack& events, PendingScreens& pending, ui::WindowContext& window,
                                    const LocalizedTexts& texts)
@@ -35,8 +27,8 @@ SaveFailureAlert::~SaveFailureAlert() {
 void SaveFailureAlert::tell(const std::shared_ptr<EventCoreData>& event, const Error& error) {
     const auto alert = std::make_shared<ui::AlertController>(
         window_, ui::AlertStyle::Alert,
-        filled(texts_.localizedString("notSaved.title"), event->title().value_or("")),
-        filled(texts_.localizedString("notSaved.message"), error.description));
+        filledText(texts_.localizedString("notSaved.title"), event->title().value_or("")),
+        filledText(texts_.localizedString("notSaved.message"), error.description));
     alert->addAction({texts_.localizedString("close"), ui::AlertActionStyle::Cancel, {}});
     alert->addAction(
         {texts_.localizedString("notSaved.tryAgain"), ui::AlertActionStyle::Default, [this, event] {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -24,6 +26,12 @@ TEST(StandardConsoleTest, WhatALineQuotesCannotSteerTheTerminal) {
 TEST(StandardConsoleTest, StoppingWritesTheReasonAndEndsTheProcess) {
     EXPECT_EXIT(StandardConsole().stopProgram("The date does not read"), testing::ExitedWithCode(1),
                 "The date does not read\n");
+}
+
+TEST(StandardConsoleTest, TheLastActComesAfterTheReasonIsOut) {
+    const auto lastAct = [](const std::string& text) { std::fprintf(stderr, "act on %s\n", text.c_str()); };
+    EXPECT_EXIT(StandardConsole(lastAct).stopProgram("a fault"), testing::ExitedWithCode(1),
+                "a fault\nact on a fault\n");
 }
 
 TEST(StandardConsoleTest, AConsoleThatIsGoneIsIgnored) {

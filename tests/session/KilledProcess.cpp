@@ -1,4 +1,4 @@
-#include "KilledProcess.h"
+#include "session/KilledProcess.h"
 
 #include <gtest/gtest.h>
 
