@@ -52,6 +52,14 @@ TEST(DeviceLocale, TheFirstVariableThatSaysSomethingDecides) {
     }
 }
 
+TEST(DeviceLocale, IsTheOneThatItsVariableWasMadeFor) {
+    for (const char* locale : {"de_DE", "zh_Hans_CN", "fa_IR", "th_TH@calendar=buddhist",
+                               "ca_ES@currency=eur", "en_US_POSIX", "ja"}) {
+        const Environment set({{"LANG", "fr_FR"}, {"LC_ALL", localeVariable(locale)}});
+        EXPECT_EQ(deviceLocale(LocalePurpose::Dates), locale) << localeVariable(locale);
+    }
+}
+
 TEST(LanguageFor, IsTheLocalesOwnWhereThereAreTextsAndElseEnglish) {
     constexpr std::array<std::string_view, 7> available{"en", "de", "fr", "es", "ru", "ja", "ar"};
     for (const auto& [locale, language] : std::map<std::string, std::string>{{"de_AT", "de"},
