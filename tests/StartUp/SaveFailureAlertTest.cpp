@@ -5,6 +5,7 @@
 #include "Interface/AlertController.h"
 #include "Support/StartUp/PendingScreens.h"
 #include "support/Program.h"
+#include "json/JsonLocalizedTexts.h"
 
 #include <gmock/gmock.h>
 
