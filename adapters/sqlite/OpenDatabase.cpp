@@ -7,7 +7,10 @@
 
 #include <unistd.h>
 
+#include <array>
+#include <cstdint>
 #include <cstdlib>
+#include <fstream>
 #include <memory>
 #include <string>
 
@@ -116,15 +119,30 @@ Outcome expectOwn(sqlite3* connection, const Schema& schema) {
     return std::nullopt;
 }
 
+/// Whose the file is by its first bytes alone. A checkpoint that was cut short leaves a file which SQLite
+/// opens only together with its log.
+Outcome expectMark(const std::filesystem::path& file, const Schema& schema) {
+    constexpr std::size_t markOffset = 68; // of the file format; the most significant byte comes first
+    std::array<char, markOffset + 4> head{};
+    std::ifstream(file, std::ios::binary).read(head.data(), head.size());
+    std::uint32_t mark = 0;
+    for (std::size_t index = markOffset; index < head.size(); ++index)
+        mark = mark << 8 | static_cast<unsigned char>(head[index]);
+    if (mark != static_cast<std::uint32_t>(schema.applicationId))
+        return failure(SQLITE_NOTADB, "the file does not belong to this program");
+    return std::nullopt;
+}
+
 /// Looks at a file that is not known to be ours, without leaving a trace.
 Outcome examine(const std::filesystem::path& file, const Schema& schema) {
+    if (sizeOf(logOf(file)) > 0)
+        return expectMark(file, schema);
     auto connection = connect(immutableAddress(file), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
     if (!connection)
         return connection.error();
     if (auto error = expectOwn(connection.value().get(), schema))
         return error;
-    // With a log beside it, the file alone is not the whole.
-    return sizeOf(logOf(file)) > 0 ? std::nullopt : expectWhole(connection.value().get(), schema);
+    return expectWhole(connection.value().get(), schema);
 }
 
 /// A folder for copies, which goes with the object.
@@ -192,6 +210,8 @@ Outcome rollBack(const std::filesystem::path& file, const Schema& schema) {
 /// Takes up what a killed program left beside the file, if the whole is sound: else both stay as they are.
 Outcome recover(sqlite3* connection, const Schema& schema) {
     sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    if (auto error = expectOwn(connection, schema))
+        return error;
     if (auto error = expectWhole(connection, schema))
         return error;
     sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
