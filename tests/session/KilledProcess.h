@@ -4,9 +4,9 @@
 
 namespace tessivo {
 
-/// Runs `work` in a process of its own and kills it as it enters its `calls`-th system call, counted from 1.
-/// True if `work` came to its end before that; a work that fails ends the process with `_exit(1)`, and the
-/// test with a failure.
-[[nodiscard]] bool runUntilSystemCall(int calls, const std::function<void()>& work);
+/// Runs `work` in a process of its own and kills it as it enters the `calls`-th of its system calls that
+/// write (open, write, truncate, sync, unlink, rename), counted from 1. True if `work` came to its end before
+/// that; a work that fails ends the process with `_exit(1)`, and the test with a failure.
+[[nodiscard]] bool runUntilWrite(int calls, const std::function<void()>& work);
 
 } // namespace tessivo

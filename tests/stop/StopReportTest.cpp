@@ -116,12 +116,12 @@ INSTANTIATE_TEST_SUITE_P(Locales, EachLocale, testing::ValuesIn(locales),
 
 TEST_F(StoredDatesTest, AKillInTheMiddleOfTheRewritingLeavesAllDatesInOneLocale) {
     bool killed = true;
-    for (int systemCall = 1; killed; systemCall += 3) {
-        SCOPED_TRACE(systemCall);
+    for (int write = 1; killed; ++write) {
+        SCOPED_TRACE(write);
         fs::remove_all(folder.path());
         makeEventsIn("de_DE");
         const auto original = momentsIn("de_DE");
-        killed = !runUntilSystemCall(systemCall, [&] {
+        killed = !runUntilWrite(write, [&] {
             if (rewriteDates(folder.path(), "ru_RU"))
                 ::_exit(1);
         });

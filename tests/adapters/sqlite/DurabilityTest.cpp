@@ -43,7 +43,8 @@ EventItem eventOf(const Uuid& id, int version) {
 }
 
 /// Adds and updates; each write carries a higher version than the one before.
-void write(const std::filesystem::path& file, int firstVersion, int writes, unsigned seed, int report) {
+void addAndUpdate(const std::filesystem::path& file, int firstVersion, int writes, unsigned seed,
+                  int report) {
     fakes::RecordingConsole console;
     sqlite::SqliteEventStore store(file);
     CoreDataStack stack(store, console);
@@ -67,13 +68,13 @@ void write(const std::filesystem::path& file, int firstVersion, int writes, unsi
 
 class DurabilityTest : public testing::Test {
 protected:
-    /// Starts the program, lets it write, and kills it at that system call; false if it was never reached.
-    bool runAndKill(int systemCall, int writes) {
+    /// Starts the program, lets it write, and kills it at that write; false if it was never reached.
+    bool runAndKill(int write, int writes) {
         int ends[2];
         EXPECT_EQ(::pipe(ends), 0);
         const auto seed = static_cast<unsigned>(random());
         const bool ended =
-            runUntilSystemCall(systemCall, [&] { write(file, nextVersion, writes, seed, ends[1]); });
+            runUntilWrite(write, [&] { addAndUpdate(file, nextVersion, writes, seed, ends[1]); });
         ::close(ends[1]);
         while (readReport(ends[0])) {
         }
@@ -126,17 +127,17 @@ protected:
     int reports = 0;
 };
 
-TEST_F(DurabilityTest, AKillAtAnySystemCallOfAFirstStartLeavesAStoreThatOpens) {
-    int systemCall = 0;
+TEST_F(DurabilityTest, AKillAtAnyWriteOfAFirstStartLeavesAStoreThatOpens) {
+    int write = 0;
     for (bool killed = true; killed;) {
-        SCOPED_TRACE("killed at system call " + std::to_string(++systemCall));
-        killed = runAndKill(systemCall, 1);
+        SCOPED_TRACE("killed at write " + std::to_string(++write));
+        killed = runAndKill(write, 1);
         ASSERT_NO_FATAL_FAILURE(expectSound());
         ASSERT_NO_FATAL_FAILURE(expectNothingLost());
         std::filesystem::remove_all(file.parent_path());
         acknowledged.clear();
     }
-    EXPECT_GT(systemCall, 50);
+    EXPECT_GT(write, 15);
 }
 
 /// Makes the tables in the file itself, or writes a row, with a rollback journal beside it.
@@ -159,12 +160,11 @@ TEST_F(DurabilityTest, WhatIsLeftOfATransactionWithARollbackJournalIsRolledBack)
     const auto original = folder / "original.db";
     for (const bool isNew : {true, false}) {
         bool killed = true;
-        for (int systemCall = 1; killed; ++systemCall) {
-            SCOPED_TRACE((isNew ? "creation" : "update") + std::string(", system call ") +
-                         std::to_string(systemCall));
+        for (int write = 1; killed; ++write) {
+            SCOPED_TRACE((isNew ? "creation" : "update") + std::string(", write ") + std::to_string(write));
             if (!isNew)
                 std::filesystem::copy_file(original, file);
-            killed = !runUntilSystemCall(systemCall, [&] { writeWithJournal(file); });
+            killed = !runUntilWrite(write, [&] { writeWithJournal(file); });
             ASSERT_NO_FATAL_FAILURE(expectSound());
             ASSERT_NO_FATAL_FAILURE(expectNothingLost());
             for (const char* part : {"", "-journal", "-wal", "-shm"})
@@ -187,7 +187,7 @@ TEST_F(DurabilityTest, NoAcknowledgedWriteIsLostToAKillAtAnyMoment) {
             std::filesystem::remove_all(file.parent_path());
             acknowledged.clear();
         }
-        kills += runAndKill(static_cast<int>(random() % 200) + 1, 4) ? 1 : 0;
+        kills += runAndKill(static_cast<int>(random() % 60) + 1, 4) ? 1 : 0;
         ASSERT_NO_FATAL_FAILURE(expectSound());
         ASSERT_NO_FATAL_FAILURE(expectNothingLost());
     }
