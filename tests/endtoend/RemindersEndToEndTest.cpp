@@ -1,8 +1,15 @@
 #include "AddEventVC/EventBackgroundViewController.h"
 #include "AddEventVC/EventDateAndTimeViewController.h"
 #include "AddEventVC/ReminderViewController.h"
+#include "EditEventVC/EditEventDateAndTimeViewController.h"
+#include "EditEventVC/EditEventTitleViewController.h"
+#include "EditEventVC/EditReminderViewController.h"
+#include "Event/CoreDataStack.h"
+#include "Event/EventDate.h"
+#include "Event/EventItem.h"
 #include "Reminders/QueuedNotificationCenter.h"
 #include "SelectValueVC/TableViewController.h"
+#include "Support/ScreenFactory.h"
 #include "fakes/RecordingConsole.h"
 #include "fakes/Timeline.h"
 #include "freedesktop/BusNames.h"
@@ -217,6 +224,62 @@ TEST_F(RemindersEndToEndTest, AnEventOfTheWizardReminds) {
         center->finish();
         EXPECT_TRUE(program.console.printed("уведомление создано"));
     }
+}
+
+// Edits reach the desktop: another title arrives, a date moved ahead does not arrive at the old time, and
+// what was turned off while it was pending arrives once more.
+TEST_F(RemindersEndToEndTest, EditsOfAnEventMoveItsReminder) {
+    session->startDaemon();
+    startHelper();
+    Program program(*center);
+    program.timeline.setWall(clock.now());
+    const auto store = [&](const char* title) {
+        EventItem item;
+        item.title = title;
+        item.dateEvent = program.dateFormatters.make(dateFormat)->string(clock.now() + Seconds(9 * 86400));
+        item.repEvent = item.timeFormat = item.color = item.alertReminder = item.repReminder = 0;
+        item.gradient = NO_VALUE;
+        item.eventType = true;
+        item.id = program.services().platform().uuids.random();
+        program.services().coreDataStack().addEvent(item);
+        std::promise<Outcome> added;
+        const auto soon = calendar.components(clock.now() + Seconds(4));
+        center->add({item.id->uuidString(), {title, "soon", true}, {soon, false}},
+                    [&](const Outcome& error) { added.set_value(error); });
+        EXPECT_EQ(added.get_future().get(), std::nullopt);
+        return *item.id;
+    };
+    const auto open = [&](EditScreen kind, const Uuid& id) -> WizardScreen& {
+        program.stack().top()->present(program.services().screens().makeEdit(
+                                           kind, program.services().makeCoreDataStack()->fetchEvent(id)),
+                                       false);
+        return program.top<WizardScreen>();
+    };
+    const auto save = [&](WizardScreen& screen) {
+        screen.nextButton.tap();
+        program.settle();
+    };
+    auto& title = static_cast<EditEventTitleViewController&>(open(EditScreen::Title, store("old")));
+    title.textField.editTo("new");
+    save(title);
+    const Uuid movedId = store("moved");
+    auto& date = static_cast<EditEventDateAndTimeViewController&>(open(EditScreen::DateAndTime, movedId));
+    const Instant day = program.timeline.now() + Seconds(20 * 86400);
+    date.datePicker.pick(day);
+    save(date);
+    auto& reminder = static_cast<EditReminderViewController&>(open(EditScreen::Reminder, store("off")));
+    reminder.toggleSwitch.setOn(false);
+    save(reminder);
+
+    EXPECT_TRUE(arrives("new", "soon"));
+    EXPECT_TRUE(arrives("off", "soon"));
+    EXPECT_FALSE(session->hasShown("old", "soon"));
+    EXPECT_FALSE(session->hasShown("moved", "soon"));
+    center->finish();
+    const auto pending = *queue->pending().value();
+    ASSERT_EQ(pending.size(), 1U);
+    EXPECT_EQ(pending.front().request.identifier, movedId.uuidString());
+    EXPECT_EQ(pending.front().request.trigger.dateComponents.day, calendar.components(day).day);
 }
 
 TEST(RemindersWithoutBusTest, TheHelperEndsAndTheProgramGoesOn) {
