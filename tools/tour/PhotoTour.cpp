@@ -107,6 +107,11 @@ void Tour::showPictureCards() {
         hand_.drag(center + reach, center - reach);
     picture("picture-cards");
     const int last = cards().numberOfItems() - 1;
+    hand_.tapAt(middleOfCard(last));
+    picture("full-library");
+    goBack();
+    for (int pull = 0; pull < 3; ++pull)
+        hand_.drag(center + reach, center - reach);
     swipeCard(last);
     picture("picture-card-open");
     const QPointF middle = middleOfCard(last);

@@ -52,6 +52,7 @@ void Tour::run() {
     hand_.tap(QStringLiteral("Future"));
     picture("future");
     useCards();
+    openEvent();
     showPictureCards();
     addEvent({"First Day at Work", 0, -1, -2, 4, -1, 13, false});
     addEvent({"Moved House", -2, -1, 0, 1, 22, -1, false});
@@ -112,6 +113,31 @@ void Tour::useCards() {
     holdAt(middleOfCard(0));
     picture("menu");
     hand_.press(Qt::Key_Escape);
+}
+
+void Tour::openEvent() {
+    hand_.tapAt(middleOfCard(0));
+    picture("full");
+    hand_.tap(nameOf("fillterButton"));
+    picture("full-menu");
+    hand_.press(Qt::Key_Escape);
+    goBack();
+    const std::pair<const char*, const char*> edits[] = {{"Edit Title", "edit-title"},
+                                                         {"Edit Day & Time", "edit-date"},
+                                                         {"Edit Reminder", "edit-reminder"},
+                                                         {"Edit Background", "edit-background"}};
+    for (const auto& [title, name] : edits) {
+        swipeCard(0);
+        hand_.tap(QStringLiteral("Edit"));
+        hand_.tap(QString::fromUtf8(title));
+        picture(name);
+        goBack();
+    }
+}
+
+void Tour::goBack() {
+    hand_.tap(nameOf("prevButton"));
+    hand_.tap(QStringLiteral("Future")); // the lists are made anew, on the tab of the user's choice
 }
 
 void Tour::addEvent(const Wish& wish) {

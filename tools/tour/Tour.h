@@ -42,7 +42,11 @@ private:
 
     /// Opens cards, and looks at what their buttons and their menu lead to.
     void useCards();
-    /// Scrolls to the cards with pictures, and opens the last one.
+    /// Opens an event over the whole screen, and each screen that changes it.
+    void openEvent();
+    /// Leaves the screen on top for the list of what lies ahead.
+    void goBack();
+    /// Scrolls to the cards with pictures, opens the event of the last one, and swipes it open.
     void showPictureCards();
     /// Swipes a card open, with a picture on the way if it is named.
     void swipeCard(int item, const char* halfWay = nullptr);
