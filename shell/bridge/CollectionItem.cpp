@@ -50,6 +50,11 @@ void CellItem::become(int item, bool seen) {
     Q_EMIT itemChanged();
 }
 
+void CellItem::setHovered(bool hovered) {
+    if (std::exchange(hovered_, hovered) != hovered)
+        Q_EMIT hoveredChanged();
+}
+
 QStringList CellItem::actionNames() const {
     QStringList names;
     for (const auto& name : cell_->accessibilityActionNames())
@@ -74,6 +79,11 @@ QVariant CellModel::data(const QModelIndex& index, int role) const {
 
 QHash<int, QByteArray> CellModel::roleNames() const {
     return {{Cell, "cell"}};
+}
+
+void CellModel::hover(const ui::CollectionViewCell* cell) {
+    for (CellItem* row : rows_)
+        row->setHovered(&row->cell() == cell);
 }
 
 void CellModel::update() {
@@ -140,10 +150,15 @@ CollectionItem::CollectionItem(ui::CollectionView& collection, const BridgeConte
           cells_.update();
       })),
       scrollRequests_(collection.onScrollRequest(
-          [this](ui::Point offset) { Q_EMIT scrollRequested(offset.x, offset.y); })) {}
+          [this](ui::Point offset) { Q_EMIT scrollRequested(offset.x, offset.y); })),
+      menus_(collection.onMenu([this](const ui::Menu& menu, ui::Point point) {
+          menu_ = std::make_unique<MenuItem>(menu, this);
+          Q_EMIT menuOpened(menu_.get(), point.x, point.y);
+      })) {}
 
-void CollectionItem::setSurroundings(double top, double sides) {
+void CollectionItem::setSurroundings(double top, double bottom, double sides) {
     collection_.setSafeAreaInsets({top, 0, 0, 0});
+    collection_.setRoomAtEnds(top, bottom);
     const ui::Insets margins{0, sides, 0, sides};
     if (collection_.layout().layoutMargins() == margins)
         return;
@@ -169,21 +184,15 @@ void CollectionItem::scrollEnded() {
     collection_.panGestureRecognizer()->end({});
 }
 
-void CollectionItem::closeSwipes() {
-    scrollBegan();
-    scrollEnded();
-}
-
-bool CollectionItem::openMenu(int item, double x, double y) {
-    const auto delegate = collection_.delegate.lock();
-    if (!delegate || !collection_.takesActs())
-        return false;
-    auto menu = delegate->contextMenuForItem(collection_, item, {x, y});
-    if (!menu)
-        return delegate->didHoldItem(collection_, item);
-    menu_ = std::make_unique<MenuItem>(std::move(*menu), this);
-    Q_EMIT menuOpened(menu_.get(), x, y);
-    return true;
+bool CollectionItem::hover(double x, double y) {
+    for (const auto& [item, cell] : collection_.visibleCells()) {
+        if (cell->drawnFrame().contains({x, y})) {
+            cells_.hover(cell.get());
+            return true;
+        }
+    }
+    cells_.hover(nullptr);
+    return false;
 }
 
 } // namespace tessivo::shell

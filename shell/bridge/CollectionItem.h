@@ -22,6 +22,8 @@ class CellItem final : public ViewItem {
     Q_PROPERTY(bool seen READ seen NOTIFY itemChanged FINAL)
     Q_PROPERTY(bool selected READ selected NOTIFY contentChanged FINAL)
     Q_PROPERTY(bool highlighted READ highlighted NOTIFY contentChanged FINAL)
+    Q_PROPERTY(bool lifted READ lifted NOTIFY contentChanged FINAL)
+    Q_PROPERTY(bool hovered READ hovered NOTIFY hoveredChanged FINAL)
     Q_PROPERTY(QList<tessivo::shell::LooseViewItem*> attached READ attached NOTIFY attachedChanged FINAL)
 
 public:
@@ -36,6 +38,10 @@ public:
     [[nodiscard]] bool seen() const { return seen_; }
     [[nodiscard]] bool selected() const { return cell_->isSelected(); }
     [[nodiscard]] bool highlighted() const { return cell_->isHighlighted(); }
+    [[nodiscard]] bool lifted() const { return cell_->isLifted(); }
+    /// The mouse is over the cell.
+    [[nodiscard]] bool hovered() const { return hovered_; }
+    void setHovered(bool hovered);
     /// What can be done with the cell besides tapping it, by name.
     [[nodiscard]] QStringList actionNames() const;
     /// Does the first of that name; nothing where there is none.
@@ -53,6 +59,7 @@ public:
 Q_SIGNALS:
     void itemChanged();
     void attachedChanged();
+    void hoveredChanged();
 
 private:
     std::shared_ptr<ui::CollectionViewCell> cell_;
@@ -64,6 +71,7 @@ private:
     Subscription contentChanges_;
     int item_ = none;
     bool seen_ = false;
+    bool hovered_ = false;
 };
 
 /// The cells on the screen, in the order of their items: the keyboard walks through them. Before them, and so
@@ -82,6 +90,9 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    /// The mouse is over that cell, which may be null, and over no other.
+    void hover(const ui::CollectionViewCell* cell);
 
     /// Makes the rows those of the cells on the screen now.
     void update();
@@ -121,8 +132,8 @@ public:
     /// What the program keeps free under the content.
     [[nodiscard]] double footInset() const { return collection_.contentInset().bottom; }
 
-    /// What lies over the collection's upper edge, and what its items keep away from at the sides.
-    Q_INVOKABLE void setSurroundings(double top, double sides);
+    /// What lies over the collection's upper and lower edge, and what its items keep away from at the sides.
+    Q_INVOKABLE void setSurroundings(double top, double bottom, double sides);
     /// How large the collection is drawn.
     Q_INVOKABLE void resize(double width, double height);
     /// Where the user has scrolled to.
@@ -133,9 +144,13 @@ public:
     Q_INVOKABLE void scrollBegan();
     Q_INVOKABLE void scrollEnded();
     /// The user turns to something else: what a swipe has left open closes, as it does for a scroll.
-    Q_INVOKABLE void closeSwipes();
-    /// The user rests on an item, at a place of the content. Says whether a menu or anything else came of it.
-    Q_INVOKABLE bool openMenu(int item, double x, double y);
+    Q_INVOKABLE void closeSwipes() { collection_.closeOpenCells(); }
+    /// The user rests on an item, at a place of the content: its menu opens, or whatever else comes of it.
+    Q_INVOKABLE void openMenu(int item, double x, double y) { collection_.holdItem(item, {x, y}); }
+    Q_INVOKABLE void menuClosed() { collection_.menuClosed(); }
+    /// The mouse is at a place of the content, or has left it. Says whether there is a cell.
+    bool hover(double x, double y);
+    void leaveHover() { cells_.hover(nullptr); }
 
 Q_SIGNALS:
     /// The program scrolls.
@@ -149,6 +164,7 @@ private:
     std::unique_ptr<MenuItem> menu_;
     Subscription visibleCells_;
     Subscription scrollRequests_;
+    Subscription menus_;
 };
 
 } // namespace tessivo::shell

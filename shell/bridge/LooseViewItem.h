@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Interface/Button.h"
+#include "Interface/ButtonLook.h"
 #include "bridge/ViewItem.h"
 
 #include <QList>
@@ -19,6 +20,10 @@ class LooseViewItem final : public ViewItem {
     Q_PROPERTY(bool clips READ clips NOTIFY appearanceChanged FINAL)
     Q_PROPERTY(QString image READ image NOTIFY contentChanged FINAL)
     Q_PROPERTY(QString title READ title NOTIFY contentChanged FINAL)
+    Q_PROPERTY(bool pressable READ pressable CONSTANT FINAL)
+    Q_PROPERTY(tessivo::shell::TextPiece look READ look NOTIFY contentChanged FINAL)
+    Q_PROPERTY(QRectF titleRect READ titleRect NOTIFY geometryChanged FINAL)
+    Q_PROPERTY(QRectF imageRect READ imageRect NOTIFY geometryChanged FINAL)
 
 public:
     LooseViewItem(ui::View& view, const BridgeContext& context, QObject* parent);
@@ -27,9 +32,13 @@ public:
     [[nodiscard]] QList<LooseViewItem*> children() const { return children_; }
     [[nodiscard]] double boundsX() const { return view_.drawnBoundsOrigin().x; }
     [[nodiscard]] bool clips() const { return view_.clipsToBounds(); }
-    /// Of a button; empty for other views.
+    [[nodiscard]] bool pressable() const { return look_ != nullptr; }
+    // Of a button, in its present state; empty for other views.
     [[nodiscard]] QString image() const;
     [[nodiscard]] QString title() const;
+    [[nodiscard]] TextPiece look() const;
+    [[nodiscard]] QRectF titleRect() const;
+    [[nodiscard]] QRectF imageRect() const;
 
     /// A tap that comes by the keyboard or from a screen reader.
     Q_INVOKABLE void activate();
@@ -37,6 +46,7 @@ public:
 private:
     ui::View& view_;
     ui::Button* button_;
+    ui::ButtonLook* look_;
     QList<LooseViewItem*> children_;
 };
 

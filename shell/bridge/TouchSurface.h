@@ -1,19 +1,21 @@
 #pragma once
 
-#include "bridge/CellTouch.h"
+#include "Interface/Touch.h"
 #include "bridge/CollectionItem.h"
 
 #include <QBasicTimer>
+#include <QHoverEvent>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QQuickItem>
+#include <QWheelEvent>
 
-#include <optional>
+#include <memory>
 
 namespace tessivo::shell {
 
-/// Lies over the cells of a collection in its scrolling content, and hands each finger to the program. A
-/// finger that the cell does not want stays with the list below.
+/// Lies over the cells of a collection in its scrolling content, and feeds the program's touches. A finger
+/// that no cell wants stays with the list below.
 class TouchSurface : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -35,17 +37,26 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     /// Comes after the press of a second quick tap, which is a tap like any other.
     void mouseDoubleClickEvent(QMouseEvent* event) override { event->accept(); }
-    void mouseUngrabEvent() override;
+    void mouseUngrabEvent() override { finish(); }
+    void hoverMoveEvent(QHoverEvent* event) override { hover(event->position()); }
+    void hoverLeaveEvent(QHoverEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    void askForMenu();
+    void hover(QPointF point);
+    [[nodiscard]] bool swipe(const QWheelEvent& event);
+    void endSwipe();
     void finish();
+    void forget();
 
     QPointer<CollectionItem> collection_;
-    std::optional<CellTouch> touch_;
-    QBasicTimer hold_;
-    QPointF place_; ///< of the finger
+    std::shared_ptr<ui::Touch> touch_;
+    std::shared_ptr<ui::Touch> last_; ///< a tap is seen for a moment after it
+    std::shared_ptr<ui::Touch> scroll_;
+    ui::Point scrolled_;
+    Seconds scrollTime_{0};
+    QBasicTimer scrollEnd_;
 };
 
 } // namespace tessivo::shell

@@ -10,6 +10,8 @@ namespace {
 /// What is left of the way when a curve counts as arrived: less than a pixel on any screen.
 constexpr double restThreshold = 0.001;
 
+constexpr Seconds usualFrame{1.0 / 60};
+
 /// Position of a spring at rest at 0 that is pulled to 1, by its natural frequency and damping ratio.
 double springPosition(double frequency, double ratio, double velocity, double time) {
     if (ratio < 1) {
@@ -115,6 +117,8 @@ Animations::~Animations() {
 }
 
 void Animations::run(std::shared_ptr<PropertyAnimator> animator) {
+    if (lastFrame_)
+        animator->startedAt_ = lastFrame_;
     running_.push_back(std::move(animator));
     if (!listening_.isActive())
         listening_ = frames_.listen([this](Seconds timestamp) { step(timestamp); });
@@ -122,11 +126,14 @@ void Animations::run(std::shared_ptr<PropertyAnimator> animator) {
 
 void Animations::leave(const PropertyAnimator& animator) {
     std::erase_if(running_, [&](const auto& running) { return running.get() == &animator; });
-    if (running_.empty())
+    if (running_.empty()) {
         listening_.end();
+        lastFrame_.reset();
+    }
 }
 
 void Animations::step(Seconds timestamp) {
+    lastFrame_ = timestamp;
     const auto running = running_;
     for (const auto& animator : running) {
         if (animator->isRunning())
@@ -187,8 +194,9 @@ void PropertyAnimator::runBlock(const std::function<void()>& changes) {
 }
 
 void PropertyAnimator::step(Seconds timestamp, bool toTheEnd) {
+    // What starts from rest starts at the frame before: a first picture of the start would be a standstill.
     if (!startedAt_)
-        startedAt_ = timestamp;
+        startedAt_ = timestamp - usualFrame;
     const auto elapsed = timestamp - *startedAt_;
     if (toTheEnd || elapsed >= lengthOf(timing_)) {
         end(AnimatingPosition::End);

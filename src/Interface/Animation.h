@@ -65,6 +65,8 @@ public:
     /// With reduced motion an animation applies its final values in its first frame.
     void setReducedMotion(bool reduced) { reducedMotion_ = reduced; }
     [[nodiscard]] bool isAnimating() const { return !running_.empty(); }
+    /// The steady time of this window.
+    [[nodiscard]] Timers& timers() const { return timers_; }
 
 private:
     friend class PropertyAnimator;
@@ -79,6 +81,7 @@ private:
     std::vector<std::shared_ptr<PropertyAnimator>> running_;
     PropertyAnimator* block_ = nullptr; ///< whose block is being run
     Subscription listening_;
+    std::optional<Seconds> lastFrame_; ///< while listening
     bool reducedMotion_ = false;
 };
 
@@ -120,7 +123,7 @@ private:
     std::vector<std::function<void()>> changes_;
     std::vector<std::function<void(AnimatingPosition)>> completions_;
     std::vector<View*> views_;
-    std::optional<Seconds> startedAt_; ///< stamp of the first frame
+    std::optional<Seconds> startedAt_; ///< stamp of the frame before the first
     Subscription delay_;
     bool running_ = false;
 };

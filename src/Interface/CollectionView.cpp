@@ -21,9 +21,10 @@ void CollectionView::registerCell(std::string reuseIdentifier, CellFactory make)
 }
 
 std::shared_ptr<CollectionViewCell> CollectionView::dequeueReusableCell(const std::string& reuseIdentifier) {
-    if (auto& pool = pools_[reuseIdentifier]; !pool.empty()) {
-        const auto cell = pool.front();
-        pool.pop_front();
+    auto& pool = pools_[reuseIdentifier];
+    if (const auto found = pooledCell(pool); found != pool.end()) {
+        const auto cell = *found;
+        pool.erase(found);
         cell->prepareForReuse();
         return cell;
     }
@@ -32,14 +33,38 @@ std::shared_ptr<CollectionViewCell> CollectionView::dequeueReusableCell(const st
     return cell;
 }
 
+/// The cell that the item has had; else the first that no other item keeps.
+CollectionView::Pool::iterator CollectionView::pooledCell(Pool& pool) {
+    if (const auto own = former_.extract(itemShown_)) {
+        const auto found = std::ranges::find(pool, own.mapped(), &std::shared_ptr<CollectionViewCell>::get);
+        if (found != pool.end())
+            return found;
+    }
+    const ItemRange staying = layout_->itemsIn(bounds());
+    return std::ranges::find_if(pool, [&](const auto& cell) {
+        return std::ranges::none_of(former_, [&](const auto& kept) {
+            return kept.second == cell.get() && staying.contains(kept.first);
+        });
+    });
+}
+
 void CollectionView::reloadData() {
+    reloadWaits_ = isTouched();
+    if (!reloadWaits_)
+        reload();
+}
+
+void CollectionView::reload() {
     selected_.clear();
-    for (auto& [item, cell] : std::exchange(visible_, {}))
+    for (auto& [item, cell] : std::exchange(visible_, {})) {
+        former_.emplace(item, cell.get());
         retire(std::move(cell));
+    }
     const auto source = dataSource.lock();
     count_ = source ? source->numberOfItems(*this) : 0;
     prepareLayout();
     showVisibleCells();
+    former_.clear();
     visibleCellsChanges_.emit();
 }
 
@@ -127,11 +152,19 @@ void CollectionView::invalidateLayout() {
     visibleCellsChanges_.emit();
 }
 
+/// Before any cell is asked for: past the end of content that has become shorter there is nothing to show.
 void CollectionView::prepareLayout() {
+    const Point end = lastOffset();
     const auto asked = delegate.lock();
     const Size size = asked && count_ > 0 ? asked->sizeForItem(*this, 0) : Size{};
     layout_->prepare(count_, size, bounds().size());
     setContentSize(layout_->contentSize());
+    const auto now = contentOffset();
+    const auto held = nearestOffset(now);
+    const Point kept{lastOffset().x < end.x ? std::min(now.x, held.x) : now.x,
+                     lastOffset().y < end.y ? std::min(now.y, held.y) : now.y};
+    if (kept != now)
+        setContentOffset(kept);
 }
 
 void CollectionView::showVisibleCells() {
@@ -148,6 +181,9 @@ void CollectionView::showVisibleCells() {
     }
     for (int item = range.begin; item < range.end; ++item) {
         if (!visible_.contains(item)) {
+            // What the list has at this item now does not go with the cells of before.
+            if (std::exchange(reloadWaits_, false))
+                return reload();
             show(item);
             changed = true;
         }
@@ -160,6 +196,7 @@ void CollectionView::show(int item) {
     const auto source = dataSource.lock();
     if (!source)
         return;
+    itemShown_ = item;
     const auto cell = source->cellForItem(*this, item);
     visible_.emplace(item, cell);
     addSubview(*cell);
@@ -227,6 +264,44 @@ void CollectionView::tapItem(int item) {
     selectItem(item);
     if (told)
         told->didSelectItem(*this, item);
+}
+
+bool CollectionView::holdItem(int item, Point point) {
+    const auto asked = delegate.lock();
+    if (!asked || item < 0 || item >= count_ || !takesActs())
+        return false;
+    const auto menu = asked->contextMenuForItem(*this, item, point);
+    if (!menu)
+        return asked->didHoldItem(*this, item);
+    menuClosed();
+    lifted_ = cellForItem(item);
+    if (lifted_)
+        lifted_->setLifted(true);
+    menus_.emit(*menu, point);
+    return true;
+}
+
+void CollectionView::menuClosed() {
+    if (const auto cell = std::exchange(lifted_, nullptr))
+        cell->setLifted(false);
+}
+
+void CollectionView::tapCell(CollectionViewCell& cell) {
+    if (const auto item = itemFor(cell))
+        tapItem(*item);
+}
+
+bool CollectionView::holdCell(CollectionViewCell& cell, Point point) {
+    const auto item = itemFor(cell);
+    return item && holdItem(*item, point);
+}
+
+void CollectionView::fingerGoes(const std::function<void()>& act) {
+    const auto alive = lifetime();
+    --fingers_;
+    act();
+    if (!alive.expired() && !isTouched() && std::exchange(reloadWaits_, false))
+        reload();
 }
 
 } // namespace tessivo::ui

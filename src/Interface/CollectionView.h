@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Interface/CellList.h"
 #include "Interface/CollectionLayout.h"
 #include "Interface/CollectionViewCell.h"
 #include "Interface/Menu.h"
@@ -46,10 +47,10 @@ public:
 
 /// Items laid out by a layout, of which only those on the screen have a cell.
 ///
-/// Cells that leave the screen, and all cells at a reload, go to the pool of their kind and come out of it in
-/// the order in which they went in, so that a reload gives each item of an unmoved list the very cell that it
-/// had. A cell is told `prepareForReuse` as it comes out. Main thread.
-class CollectionView final : public ScrollView {
+/// Cells that leave the screen go to the pool of their kind and come out of it in the order in which they
+/// went in. At a reload all do, and each item that stays on the screen gets the very cell that it had. A cell
+/// is told `prepareForReuse` as it comes out. Main thread.
+class CollectionView final : public ScrollView, public CellList {
 public:
     CollectionView(ControlRegistry& registry, std::string name, std::unique_ptr<CollectionLayout> layout);
 
@@ -62,8 +63,11 @@ public:
     std::weak_ptr<CollectionViewDelegate> delegate;
     bool allowsMultipleSelection = false;
 
-    /// Asks anew for the count and for the cells on the screen. The selection is forgotten.
+    /// Asks anew for the count and for the cells on the screen. The selection is forgotten. While a finger is
+    /// on a cell it waits until that goes, or until scrolling needs further cells.
     void reloadData();
+    /// A finger is on a cell.
+    [[nodiscard]] bool isTouched() const { return fingers_ > 0; }
     /// The items are in the data source already; those behind them move on. Cells on the screen stay theirs.
     void insertItems(int first, int count);
     /// The item is out of the data source already. Cells on the screen stay theirs. On a screen the item's
@@ -97,6 +101,20 @@ public:
     /// The user taps the item: it becomes selected, or, where several may be, changes over. The delegate
     /// hears it.
     void tapItem(int item);
+    /// The user rests on the item, at `point` of the content: its menu opens and its cell is lifted, or,
+    /// where there is no menu, the delegate hears it. Says whether anything came of it.
+    bool holdItem(int item, Point point);
+    /// The user has closed the menu, or chosen of it.
+    void menuClosed();
+    /// Hears what menu to open, and where in the content.
+    [[nodiscard]] Subscription onMenu(std::function<void(const Menu& menu, Point point)> opened) {
+        return menus_.subscribe(std::move(opened));
+    }
+
+    void tapCell(CollectionViewCell& cell) override;
+    bool holdCell(CollectionViewCell& cell, Point point) override;
+    void fingerCame() override { ++fingers_; }
+    void fingerGoes(const std::function<void()>& act) override;
 
     /// Hears when other cells are on the screen or leaving it, or when they lie elsewhere.
     [[nodiscard]] Subscription onVisibleCellsChange(std::function<void()> changed) {
@@ -108,7 +126,10 @@ protected:
     void layoutSubviews() override { invalidateLayout(); }
 
 private:
+    void reload();
     void prepareLayout();
+    using Pool = std::deque<std::shared_ptr<CollectionViewCell>>;
+    [[nodiscard]] Pool::iterator pooledCell(Pool& pool);
     void showVisibleCells();
     void show(int item);
     void retire(std::shared_ptr<CollectionViewCell> cell);
@@ -119,13 +140,20 @@ private:
 
     std::unique_ptr<CollectionLayout> layout_;
     std::map<std::string, CellFactory> factories_;
-    std::map<std::string, std::deque<std::shared_ptr<CollectionViewCell>>> pools_;
+    std::map<std::string, Pool> pools_;
     std::map<const CollectionViewCell*, std::string> kinds_;
     std::map<int, std::shared_ptr<CollectionViewCell>> visible_;
     std::vector<std::shared_ptr<CollectionViewCell>> leaving_;
     std::set<int> selected_;
+    std::map<int, const CollectionViewCell*>
+        former_; ///< the cells that items had, while a reload is under way
+    std::shared_ptr<CollectionViewCell> lifted_;
     int count_ = 0;
+    int itemShown_ = 0; ///< the item that a cell is asked for
+    int fingers_ = 0;
+    bool reloadWaits_ = false;
     Signal<> visibleCellsChanges_;
+    Signal<const Menu&, Point> menus_;
 };
 
 } // namespace tessivo::ui

@@ -21,6 +21,7 @@ public:
     virtual void prepareForReuse() {
         setSelected(false);
         setHighlighted(false);
+        setLifted(false);
     }
     /// Before the cell leaves the screen for the pool, or for good.
     virtual void willLeaveWindow() {}
@@ -36,6 +37,18 @@ public:
         notify(ViewChange::Content);
     }
 
+    /// The cell is held up while its menu is open.
+    [[nodiscard]] bool isLifted() const { return lifted_; }
+    void setLifted(bool lifted) {
+        lifted_ = lifted;
+        notify(ViewChange::Content);
+    }
+
+    /// A finger has come onto the cell: what moves stops where it is drawn. Says whether anything did.
+    virtual bool holdStill() { return false; }
+    /// The finger has gone: what has been stopped, and not been put elsewhere since, goes on.
+    virtual void moveOn() {}
+
     /// What assistive technology may do with the cell besides pressing it, by name.
     [[nodiscard]] virtual std::vector<std::string> accessibilityActionNames() { return {}; }
     /// Does the first of that name; false where there is none.
@@ -50,6 +63,7 @@ protected:
 private:
     bool selected_ = false;
     bool highlighted_ = false;
+    bool lifted_ = false;
 };
 
 } // namespace tessivo::ui

@@ -49,15 +49,6 @@ bool TapGestureRecognizer::recognize(Point point) {
     return true;
 }
 
-bool LongPressGestureRecognizer::recognize(Point point) {
-    setLocation(point);
-    if (!mayBegin())
-        return false;
-    enter(GestureState::Began);
-    enter(GestureState::Ended);
-    return true;
-}
-
 bool PanGestureRecognizer::begin(Point location, Point translation, Point velocity) {
     setLocation(location);
     raw_ = translation;

@@ -75,12 +75,6 @@ public:
     bool recognize(Point point);
 };
 
-class LongPressGestureRecognizer final : public GestureRecognizer {
-public:
-    /// A long press at `point` of its view's space: began, then ended.
-    bool recognize(Point point);
-};
-
 /// A finger that moves. Translation counts from where it began, or from the last `setTranslation`; velocity
 /// is in points per second.
 class PanGestureRecognizer final : public GestureRecognizer {

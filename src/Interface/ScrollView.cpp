@@ -47,11 +47,18 @@ void ScrollView::zoomedTo(double scale, Point anchor) {
 }
 
 Point ScrollView::nearestOffset(Point offset) const {
-    const auto within = [](double value, double content, double frame) {
-        return std::clamp(value, 0.0, std::max(0.0, content - frame));
-    };
-    return {within(offset.x, contentSize_.width, bounds().width),
-            within(offset.y, contentSize_.height, bounds().height)};
+    const Point last = lastOffset();
+    return {std::clamp(offset.x, 0.0, last.x), std::clamp(offset.y, -roomAbove_, last.y)};
+}
+
+Point ScrollView::lastOffset() const {
+    return {std::max(0.0, contentSize_.width - bounds().width),
+            std::max(-roomAbove_, contentSize_.height + roomBelow_ - bounds().height)};
+}
+
+void ScrollView::setRoomAtEnds(double top, double bottom) {
+    roomAbove_ = top;
+    roomBelow_ = bottom;
 }
 
 void ScrollView::scrolledTo(Point offset) {

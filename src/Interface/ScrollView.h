@@ -31,14 +31,25 @@ public:
     /// content under `anchor` (in the frame, from its upper left corner) stays there, as far as the content
     /// reaches.
     void zoomedTo(double scale, Point anchor);
-    /// The offset nearest to `offset` at which the content fills the frame.
+    /// The offset nearest to `offset` at which the content, with the room at its ends, fills the frame.
     [[nodiscard]] Point nearestOffset(Point offset) const;
+    /// Where scrolling ends.
+    [[nodiscard]] Point lastOffset() const;
+    /// How far the window scrolls beyond the content's upper and lower end.
+    void setRoomAtEnds(double top, double bottom);
 
     /// The safe area as it falls on this view.
     [[nodiscard]] Insets safeAreaInsets() const { return safeAreaInsets_; }
     void setSafeAreaInsets(Insets insets) { safeAreaInsets_ = insets; }
     /// The pan that scrolls. The window reports its states; it moves nothing by itself.
     [[nodiscard]] const std::shared_ptr<PanGestureRecognizer>& panGestureRecognizer() const { return pan_; }
+
+    /// The user scrolls without a finger, by a wheel or by keys, or turns to something else: what the cells
+    /// hold open closes, as it does under a finger that scrolls.
+    void closeOpenCells() { closings_.emit(); }
+    [[nodiscard]] Subscription onCloseOpenCells(std::function<void()> closed) {
+        return closings_.subscribe(std::move(closed));
+    }
 
     /// Hears the program's own scrolling, so that the window can follow.
     [[nodiscard]] Subscription onScrollRequest(std::function<void(Point offset)> requested) {
@@ -57,8 +68,11 @@ private:
     double maximumZoomScale_ = 1;
     Insets contentInset_;
     Insets safeAreaInsets_;
+    double roomAbove_ = 0;
+    double roomBelow_ = 0;
     std::shared_ptr<PanGestureRecognizer> pan_ = std::make_shared<PanGestureRecognizer>();
     Signal<Point> scrollRequests_;
+    Signal<> closings_;
 };
 
 } // namespace tessivo::ui

@@ -41,6 +41,11 @@ void TableView::deleteItem(int row) {
     layoutIfNeeded();
 }
 
+void TableView::tapCell(TableViewCell& cell) {
+    if (const auto row = itemFor(cell))
+        selectItem(*row);
+}
+
 void TableView::selectItem(int row) {
     if (!has(row))
         return;

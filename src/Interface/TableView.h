@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Interface/CellList.h"
 #include "Interface/CollectionViewCell.h"
 #include "Interface/ScrollView.h"
 
@@ -14,7 +15,7 @@ namespace tessivo::ui {
 using TableViewCell = CollectionViewCell;
 
 /// A short table: full-width rows one under the other, all of which stand at a time. Main thread.
-class TableView final : public ScrollView {
+class TableView final : public ScrollView, public CellList {
 public:
     using ScrollView::ScrollView;
 
@@ -25,6 +26,8 @@ public:
     [[nodiscard]] std::optional<int> itemFor(const TableViewCell& cell) const;
     /// The rows behind move up. A row that is not there is ignored.
     void deleteItem(int row);
+
+    void tapCell(TableViewCell& cell) override;
 
     // Selection by the program.
     void selectItem(int row);

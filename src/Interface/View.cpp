@@ -5,6 +5,7 @@
 #include "Interface/Gestures.h"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 namespace tessivo::ui {
@@ -220,11 +221,15 @@ void View::layoutIfNeeded() {
 }
 
 View* View::hitTest(Point point) {
-    if (hidden_ || !interactionEnabled_ || alpha() < invisibleBelow || !pointInside(point))
+    const auto alive = lifetime();
+    if (hidden_ || !interactionEnabled_ || alpha() < invisibleBelow || !pointInside(point) || alive.expired())
         return nullptr;
-    for (std::size_t index = subviews_.size(); index > 0; --index) {
-        View& subview = *subviews_[index - 1];
-        if (View* hit = subview.hitTest(convertTo(subview, point)))
+    const auto asked = subviews_;
+    for (View* subview : asked | std::views::reverse) {
+        if (std::ranges::find(subviews_, subview) == subviews_.end())
+            continue;
+        View* const hit = subview->hitTest(convertTo(*subview, point));
+        if (hit || alive.expired())
             return hit;
     }
     return this;

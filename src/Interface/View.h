@@ -83,7 +83,7 @@ public:
     // Touch.
     /// The deepest view under `point` (in this view's space) that takes touches; null where there is none.
     /// Hidden views, views of alpha below 0.01 and views with interaction off are passed over with all they
-    /// hold.
+    /// hold. A view that is asked may take others away, or itself.
     [[nodiscard]] virtual View* hitTest(Point point);
     /// Whether `point` (in this view's space) is on this view.
     [[nodiscard]] virtual bool pointInside(Point point);
@@ -139,6 +139,8 @@ public:
 
     /// The animations of the screen that this view is the root of; the screen sets it.
     void setAnimations(Animations* animations) { animations_ = animations; }
+    /// The animations of the screen that holds this view; null in none.
+    [[nodiscard]] Animations* animations() const;
 
 protected:
     /// Places the subviews. Called by the layout pass with the frame settled.
@@ -148,8 +150,6 @@ protected:
 
     void setValue(AnimatableProperty property, double value);
     void notify(ViewChange change) { changes_.emit(change); }
-    /// The animations of the screen that holds this view; null in none.
-    [[nodiscard]] Animations* animations() const;
 
 private:
     friend class PropertyAnimator;

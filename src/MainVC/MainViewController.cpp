@@ -88,7 +88,8 @@ void MainViewController::timerFired() {
 
 void MainViewController::refreshAndReload() {
     services().fetchEventDataType().refreshEvents();
-    records = EventRows();
+    if (!collection.isTouched()) // or a finger would find no row for the card that it is on
+        records = EventRows();
     collection.reloadData();
 }
 

@@ -45,6 +45,7 @@ void SwipeActionButton::setHighlighted(bool highlighted) {
         setBackgroundColor(*highlightedBackgroundColor);
     else
         setBackgroundColor(ui::ColorRef::clear());
+    notify(ui::ViewChange::Content);
 }
 
 const ui::ColorRef& SwipeActionButton::presentTitleColor() const {
@@ -55,6 +56,10 @@ const ui::ColorRef& SwipeActionButton::presentTitleColor() const {
 
 const std::optional<ActionImage>& SwipeActionButton::presentImage() const {
     return highlighted_ ? highlightedImage_ : image_;
+}
+
+std::string SwipeActionButton::presentImageName() const {
+    return presentImage() ? presentImage()->image.name : std::string();
 }
 
 ui::Size SwipeActionButton::textSize(ui::Size box) const {

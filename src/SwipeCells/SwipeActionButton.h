@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Interface/Button.h"
+#include "Interface/ButtonLook.h"
 #include "SwipeCells/SwipeAction.h"
 #include "SwipeCells/SwipeOptions.h"
 
@@ -11,7 +12,7 @@ class TextMeasuring;
 namespace tessivo::swipe {
 
 /// One button of a row: a picture above a centred text of any number of lines.
-class SwipeActionButton final : public ui::Button {
+class SwipeActionButton final : public ui::Button, public ui::ButtonLook {
 public:
     SwipeActionButton(const SwipeAction& action, const TextMeasuring& texts);
 
@@ -25,13 +26,14 @@ public:
     /// The button's own width, no more than `maximum` where that is above 0.
     [[nodiscard]] double preferredWidth(double maximum) const;
     [[nodiscard]] double intrinsicHeight() const;
-    [[nodiscard]] ui::Rect titleRect() const;
-    [[nodiscard]] ui::Rect imageRect() const;
+    [[nodiscard]] ui::Rect titleRect() const override;
+    [[nodiscard]] ui::Rect imageRect() const override;
 
     [[nodiscard]] bool isHighlighted() const { return highlighted_; }
     /// The text's colour and the picture in the present state.
-    [[nodiscard]] const ui::ColorRef& presentTitleColor() const;
+    [[nodiscard]] const ui::ColorRef& presentTitleColor() const override;
     [[nodiscard]] const std::optional<ActionImage>& presentImage() const;
+    [[nodiscard]] std::string presentImageName() const override;
 
 private:
     void setHighlighted(bool highlighted);

@@ -29,9 +29,10 @@ public:
 /// The ground of a button that has an effect.
 class VisualEffectView final : public ui::View {
 public:
-    explicit VisualEffectView(VisualEffect kind) : effect(kind) {}
-
-    const VisualEffect effect;
+    explicit VisualEffectView(VisualEffect effect) {
+        const double shade = effect == VisualEffect::Light ? 1 : 0;
+        setBackgroundColor(ui::ColorRef::of({shade, shade, shade, 0.6}));
+    }
 
 protected:
     void layoutSubviews() override {

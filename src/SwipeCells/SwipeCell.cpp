@@ -52,6 +52,8 @@ void SwipeCell::layoutSubviews() {
             contentView.setFrame({present.x, 0, bounds().width, bounds().height});
     }
     controller_->layoutActionsView();
+    if (std::exchange(laidOutSize_, bounds().size()) != bounds().size())
+        controller_->traitsDidChange();
 }
 
 void SwipeCell::didMoveToSuperview() {
@@ -65,12 +67,14 @@ void SwipeCell::didMoveToSuperview() {
         if (pan.state() == ui::GestureState::Began)
             hideSwipe(true);
     });
+    listClosings_ = scroll->onCloseOpenCells([this] { hideSwipe(true); });
 }
 
 void SwipeCell::leaveList() {
     if (const auto pan = listPan_.lock())
         pan->removeTarget(this);
     listPan_.reset();
+    listClosings_.end();
 }
 
 void SwipeCell::setHighlighted(bool highlighted) {

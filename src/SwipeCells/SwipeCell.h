@@ -38,7 +38,7 @@ public:
     void setSwipeOffset(double offset, bool animated, SwipeController::Completion completion = {}) {
         controller_->setSwipeOffset(offset, animated, std::move(completion));
     }
-    /// To be called when the screen has turned or its margins have changed.
+    /// The screen has turned or its margins have changed. A cell of another size sees to it by itself.
     void traitsDidChange() { controller_->traitsDidChange(); }
 
     /// While the cell is moved its margins stay those of before.
@@ -50,6 +50,9 @@ public:
     void place(const ui::Rect& frame) override;
     /// Ignored but for a cell at rest.
     void setHighlighted(bool highlighted) override;
+    /// An open cell, or one on its way, can be caught in its motion; one whose row fills cannot.
+    bool holdStill() override { return controller_->holdStill(); }
+    void moveOn() override { controller_->moveOn(); }
     [[nodiscard]] ui::View* hitTest(ui::Point point) override;
     /// The first cell that is asked about a touch beside an open cell closes all cells, and is not touched.
     [[nodiscard]] bool pointInside(ui::Point point) override;
@@ -110,6 +113,8 @@ private:
     Container container_;
     std::shared_ptr<SwipeController> controller_;
     std::weak_ptr<ui::PanGestureRecognizer> listPan_;
+    Subscription listClosings_;
+    ui::Size laidOutSize_;
     ui::Insets layoutMargins_;
     bool isPreviouslySelected_ = false;
 };

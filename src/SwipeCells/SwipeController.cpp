@@ -131,6 +131,30 @@ void SwipeController::stopAnimator() {
         animator_->stopAnimation(true);
 }
 
+bool SwipeController::isFilling() const {
+    const auto* actionsView = swipeable_->actionsView();
+    const auto carrier = actionsView ? actionsView->expansionCarrier() : nullptr;
+    return deletionMask_ || (carrier && carrier->completionHandler);
+}
+
+bool SwipeController::holdStill() {
+    if (!swipeable_ || !swipeable_->actionsView() || !isSettling() || isFilling())
+        return false;
+    stopAnimator();
+    giveVisibleWidth();
+    heldStill_ = true;
+    return true;
+}
+
+void SwipeController::moveOn() {
+    if (!std::exchange(heldStill_, false) || !swipeable_ || !swipeable_->actionsView() || isSettling())
+        return;
+    if (isOpen(swipeable_->state()))
+        animateTo(targetCenter(true), settleDuration, 0, {});
+    else if (swipeable_->state() != SwipeState::Dragging)
+        goBack({});
+}
+
 void SwipeController::animateTo(double centerX, Seconds duration, double velocity, Completion completion) {
     stopAnimator();
     cell().layoutIfNeeded();

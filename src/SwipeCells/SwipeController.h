@@ -71,6 +71,11 @@ public:
     /// Another item may take the cell: whatever moves stops, so that nothing of this item's swipe is left
     /// over.
     void abandon();
+    /// A finger comes onto the cell: a settling stops where it is drawn. Says whether there was one. A fill
+    /// goes on, since its action waits for its end.
+    bool holdStill();
+    /// The finger has gone. What it has stopped settles after all, where nothing else has moved it since.
+    void moveOn();
     /// After a change of the screen's traits: an open cell settles anew, at once.
     void traitsDidChange();
     /// Hangs the row on the container's edge, in the cell's present size.
@@ -89,6 +94,7 @@ private:
 
     void panBegan(double velocity);
     [[nodiscard]] bool givesWay() const;
+    [[nodiscard]] bool isFilling() const;
     void panChanged();
     void panReleased(double velocity);
     void stretch(const SwipeExpansionStyle& style, double offset);
@@ -121,6 +127,7 @@ private:
     std::shared_ptr<SwipeAnimator> animator_;
     double originalCenter_ = 0;
     double scrollRatio_ = 1;
+    bool heldStill_ = false;
     bool ignoresPan_ = false; ///< the present pan began while another cell was under a finger
     ui::Insets originalLayoutMargins_;
     std::shared_ptr<ui::PanGestureRecognizer> panGestureRecognizer_ =

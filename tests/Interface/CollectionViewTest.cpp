@@ -103,9 +103,40 @@ TEST_F(CollectionTest, AReloadGivesEachItemItsCellBack) {
     collection.reloadData();
     EXPECT_EQ(collection.visibleCells(), before);
     EXPECT_EQ(static_cast<NumberedCell&>(*before.at(0)).reuses, 1);
+    // Also where the pool holds others, and where some items come and go.
+    show(100);
+    collection.scrolledTo({0, 500});
+    collection.scrolledTo({0, 700});
+    const auto scrolled = collection.visibleCells();
+    collection.reloadData();
+    EXPECT_EQ(collection.visibleCells(), scrolled);
+    show(16);
+    for (const auto& [item, cell] : collection.visibleCells()) {
+        if (scrolled.contains(item)) {
+            EXPECT_EQ(cell, scrolled.at(item)) << item;
+        }
+    }
     show(0);
     EXPECT_THAT(visible(), IsEmpty());
     EXPECT_EQ(collection.contentSize().height, 0);
+}
+
+TEST_F(CollectionTest, ContentThatShrinksIsScrolledBackBeforeAnyCellIsMade) {
+    std::vector<double> requests;
+    const auto scrolling = collection.onScrollRequest([&](Point offset) { requests.push_back(offset.y); });
+    collection.setRoomAtEnds(0, 30);
+    show(100);
+    collection.scrolledTo({0, 4830}); // the end, with its room
+    collection.reloadData();
+    EXPECT_THAT(requests, IsEmpty());
+    collection.scrolledTo({0, 4850}); // beyond it, as a finger pulls
+    collection.reloadData();
+    EXPECT_THAT(requests, IsEmpty());
+    numbers->made = 0;
+    show(10);
+    EXPECT_THAT(visible(), ElementsAre(6, 7, 8, 9));
+    EXPECT_THAT(requests, ElementsAre(10 * 50 + 30 - 200));
+    EXPECT_EQ(numbers->made, 0);
 }
 
 TEST_F(CollectionTest, ADeletedItemTakesOnlyItsOwnCell) {

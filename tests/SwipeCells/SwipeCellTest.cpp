@@ -54,16 +54,16 @@ TEST_F(SwipeCellTest, ForReuseACellIsClosedAndItsItemSelectedAgain) {
     list->open(1);
     ASSERT_THAT(list->collection.selectedItems(), testing::IsEmpty());
     cell.contentView.setClipsToBounds(true);
-    const auto press = std::make_shared<ui::LongPressGestureRecognizer>();
-    list->collection.addGestureRecognizer(press);
-    press->setEnabled(false);
+    const auto tap = std::make_shared<ui::TapGestureRecognizer>();
+    list->collection.addGestureRecognizer(tap);
+    tap->setEnabled(false);
     list->collection.panGestureRecognizer()->setEnabled(false);
     cell.prepareForReuse();
     EXPECT_EQ(cell.state(), SwipeState::Center);
     EXPECT_EQ(cell.actionsView(), nullptr);
     EXPECT_FALSE(cell.contentView.clipsToBounds());
     EXPECT_THAT(list->collection.selectedItems(), ElementsAre(1));
-    EXPECT_TRUE(press->isEnabled());
+    EXPECT_TRUE(tap->isEnabled());
     EXPECT_FALSE(list->collection.panGestureRecognizer()->isEnabled())
         << "scrolling is the list's own matter";
     list->collection.deselectItem(1);

@@ -179,9 +179,9 @@ TEST(SwipeControllerDelegateTest, OnlyItsOwnPanIsHeldToGoAcross) {
     NotingCell cell;
     ui::PanGestureRecognizer stray;
     (void)stray.begin({}, {1, 50}, {});
-    ui::LongPressGestureRecognizer press;
+    ui::TapGestureRecognizer tap;
     EXPECT_TRUE(cell.controller->gestureRecognizerShouldBegin(stray));
-    EXPECT_TRUE(cell.controller->gestureRecognizerShouldBegin(press));
+    EXPECT_TRUE(cell.controller->gestureRecognizerShouldBegin(tap));
     EXPECT_FALSE(cell.controller->panGestureRecognizer()->begin({160, 50}, {1, 50}, {}));
 }
 

@@ -1,3 +1,4 @@
+#include "Interface/Touch.h"
 #include "SwipeCells/SwipeList.h"
 
 #include <gtest/gtest.h>
@@ -154,6 +155,78 @@ TEST_F(SwipeSettlingTest, ACellPutInPlaceOnItsWayBackStaysThere) {
     EXPECT_EQ(list->cell(1).state(), SwipeState::Right);
     EXPECT_NE(list->cell(1).actionsView(), nullptr);
     EXPECT_DOUBLE_EQ(drawnCenterX(), 60);
+}
+
+TEST_F(SwipeSettlingTest, AFingerCatchesAMovingCellWhichGoesOnWhenItHasDoneNothing) {
+    for (const bool opens : {true, false}) {
+        startAnew();
+        auto& cell = list->cell(1);
+        cell.showSwipe(Side::Right, opens);
+        if (!opens)
+            cell.hideSwipe(true);
+        list->line.advance(Seconds(0.1));
+        const double caught = drawnCenterX();
+        const auto finger = ui::Touch::begin(list->collection, {20, 150}, Seconds(1));
+        list->line.advance(Seconds(1));
+        EXPECT_DOUBLE_EQ(drawnCenterX(), caught);
+        finger->cancel();
+        list->line.advance(Seconds(2));
+        EXPECT_DOUBLE_EQ(drawnCenterX(), opens ? 12 : 160);
+        EXPECT_EQ(cell.state(), opens ? SwipeState::Right : SwipeState::Center);
+        EXPECT_EQ(cell.actionsView() != nullptr, opens);
+    }
+}
+
+TEST_F(SwipeSettlingTest, AFlickBackClosesAndTheFirstMoveAfterARestOpensItsOwnSide) {
+    Seconds time{1};
+    auto finger = ui::Touch::begin(list->collection, {300, 150}, time);
+    const auto moveTo = [&](double x, double after) { finger->moveTo({x, 150}, time += Seconds(after)); };
+    for (double x = 296; x > 180; x -= 4)
+        moveTo(x, 0.008);
+    for (const double x : {184, 190, 196, 202})
+        moveTo(x, 0.008);
+    finger->release(time);
+    list->line.advance(Seconds(3));
+    EXPECT_EQ(list->cell(1).state(), SwipeState::Center);
+    finger = ui::Touch::begin(list->collection, {100, 150}, time);
+    moveTo(115, 0.6);
+    moveTo(160, 0.016);
+    finger->release(time += Seconds(0.2));
+    list->line.advance(Seconds(3));
+    EXPECT_EQ(list->cell(1).state(), SwipeState::Left);
+}
+
+TEST_F(SwipeSettlingTest, TheFirstTouchBesideAnOpenRowIsTakenByAnyCell) {
+    for (const int item : {2, 4}) {
+        startAnew();
+        list->cell(0).showSwipe(Side::Right, false);
+        Seconds time{1};
+        const double y = item * 100 + 50;
+        const auto finger = ui::Touch::begin(list->collection, {300, y}, time);
+        EXPECT_EQ(list->cell(0).state(), SwipeState::AnimatingToCenter);
+        for (double x = 280; x > 200; x -= 20)
+            finger->moveTo({x, y}, time += Seconds(0.016));
+        EXPECT_EQ(list->cell(item).state(), SwipeState::Dragging) << item;
+    }
+}
+
+TEST_F(SwipeSettlingTest, ScrollingByWheelOrKeysClosesAndANewSizeSettlesAnew) {
+    list->cell(1).showSwipe(Side::Right, false);
+    list->width = 400;
+    list->collection.setFrame({0, 0, 400, 600});
+    list->collection.layoutIfNeeded();
+    EXPECT_DOUBLE_EQ(list->centerX(1), 200 - 148);
+    list->collection.closeOpenCells();
+    EXPECT_EQ(list->cell(1).state(), SwipeState::AnimatingToCenter);
+}
+
+TEST_F(SwipeSettlingTest, TheFirstFrameAfterAReleaseMoves) {
+    list->begin(1, -100);
+    list->change(1, -60, -100);
+    list->line.advance(Seconds(1));
+    list->pan(1).end({-600, 0});
+    list->line.advance(Seconds(1.01 / 60));
+    EXPECT_LT(drawnCenterX(), 95);
 }
 
 TEST_F(SwipeSettlingTest, TheContainerGivesWayFreelyUpToTheLimitAndByTheRatioBeyond) {

@@ -1,5 +1,6 @@
 #include "SwipeCells/SwipeTableViewCell.h"
 
+#include "Interface/Touch.h"
 #include "SwipeCells/SwipeTable.h"
 
 #include <gmock/gmock.h>
@@ -141,6 +142,30 @@ TEST_F(SwipeTableViewCellTest, TheOwnerMayEmptyTheTableAsAnotherCellOpens) {
     for (const auto& row : rows)
         EXPECT_EQ(static_cast<SwipeTableViewCell&>(*row).state(), SwipeState::Center);
     EXPECT_EQ(rows[2]->frame().x, 0);
+}
+
+TEST_F(SwipeTableViewCellTest, ATouchBesideAnOpenRowMayEmptyTheTable) {
+    owner->cell(1).showSwipe(SwipeActionsOrientation::Right, false);
+    owner->ended = [this] { owner->table.setRows({}, 100); };
+    EXPECT_EQ(owner->table.hitTest({100, 350}), &owner->table);
+    EXPECT_EQ(owner->count(), 0);
+}
+
+TEST_F(SwipeTableViewCellTest, AFingerTapsSwipesAndPressesItsRows) {
+    Seconds time{1};
+    const auto dragged = ui::Touch::begin(owner->table, {300, 150}, time);
+    for (double x = 290; x > 150; x -= 10)
+        dragged->moveTo({x, 150}, time += Seconds(0.016));
+    dragged->release(time += Seconds(0.2));
+    owner->line.advance(Seconds(3));
+    ASSERT_EQ(owner->cell(1).state(), SwipeState::Right);
+    ui::Touch::begin(owner->table, {315, 150}, time)->release(time);
+    EXPECT_THAT(owner->heard, testing::Contains("Delete 1"));
+    ui::Touch::begin(owner->table, {100, 350}, time)->release(time); // closes the open row, no more
+    owner->line.advance(Seconds(3));
+    EXPECT_THAT(owner->table.selectedItems(), testing::IsEmpty());
+    ui::Touch::begin(owner->table, {100, 350}, time)->release(time);
+    EXPECT_THAT(owner->table.selectedItems(), ElementsAre(3));
 }
 
 TEST_F(SwipeTableViewCellTest, WithoutATableNothingHappens) {

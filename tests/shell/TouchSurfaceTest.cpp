@@ -3,8 +3,6 @@
 #include "Interface/Gestures.h"
 #include "shell/ControlWindow.h"
 
-#include <QGuiApplication>
-#include <QStyleHints>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -86,7 +84,7 @@ public:
 
 class TouchSurfaceTest : public ControlWindow {
 protected:
-    TouchSurfaceTest() : usualHold_(hints().mousePressAndHoldInterval()) {
+    TouchSurfaceTest() {
         collection.registerCell("cell", [] {
             auto cell = std::make_shared<NotingCell>();
             cell->follow(cell);
@@ -110,18 +108,15 @@ protected:
                 }
             })");
     }
-    ~TouchSurfaceTest() override { hints().setMousePressAndHoldInterval(usualHold_); }
-
     [[nodiscard]] NotingCell& cell(int item) {
         return dynamic_cast<NotingCell&>(*collection.cellForItem(item));
     }
     [[nodiscard]] static QPointF inItem(int item, double x = 100) { return {x, item * cellHeight + 50}; }
-    static QStyleHints& hints() { return *QGuiApplication::styleHints(); }
 
     /// A finger comes down and stays, long enough for a menu to open.
     void hold(QPointF point) {
-        hints().setMousePressAndHoldInterval(1);
         QTest::touchEvent(&window, finger_).press(0, point.toPoint());
+        timeline.advance(Seconds(0.6));
     }
     void letGo(QPointF point) { QTest::touchEvent(&window, finger_).release(0, point.toPoint()); }
 
@@ -130,7 +125,6 @@ protected:
                                   std::make_unique<ui::LineLayout>(ui::LineLayout::Axis::Vertical, 0.0)};
 
 private:
-    int usualHold_;
     QPointingDevice* finger_ = QTest::createTouchDevice();
 };
 
@@ -197,6 +191,8 @@ TEST_F(TouchSurfaceTest, ACellIsHighlightedUntilItsFingerGoesOrDrags) {
     const QPointF start = inItem(1);
     QPointingDevice* finger = QTest::createTouchDevice();
     QTest::touchEvent(&window, finger).press(0, start.toPoint());
+    EXPECT_FALSE(cell(1).isHighlighted()) << "it may yet be a scroll";
+    timeline.advance(Seconds(0.2));
     EXPECT_TRUE(cell(1).isHighlighted());
     QTest::touchEvent(&window, finger).move(0, (start + QPointF(30, 0)).toPoint());
     // A window gathers the moves of a touch and hands them on with its next picture.
@@ -245,7 +241,6 @@ TEST_F(TouchSurfaceTest, EscapeClosesTheMenuAndChoosesNothing) {
 TEST_F(TouchSurfaceTest, WithoutAMenuALongPressIsATap) {
     list->hasMenu = false;
     hold(inItem(3));
-    QCoreApplication::processEvents();
     letGo(inItem(3));
     EXPECT_THAT(list->tapped, ElementsAre(3));
 }

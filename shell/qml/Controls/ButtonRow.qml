@@ -1,7 +1,8 @@
 import QtQuick
 import Tessivo
 
-// A row of buttons that the program hangs on a cell: its ground, the ground of each button, the buttons.
+// A row of buttons that the program hangs on a cell, drawn as the program has laid it out: grounds, and on them
+// the buttons, each with its picture and its text in their places.
 Rectangle {
     id: row
 
@@ -14,48 +15,67 @@ Rectangle {
     color: view.fill.color
     clip: view.clips
 
-    Repeater {
-        model: row.view.children
+    component Face: Item {
+        id: face
+        required property LooseViewItem button
+        readonly property rect imageRect: button.imageRect
+        readonly property rect titleRect: button.titleRect
+        readonly property textPiece look: button.look
+        width: button.width
+        height: button.height
+        Accessible.role: Accessible.Button
+        Accessible.name: button.accessibleName
+        Accessible.onPressAction: button.activate()
+        Icon {
+            x: face.imageRect.x
+            y: face.imageRect.y
+            name: face.button.image
+            side: face.imageRect.width
+        }
+        Text {
+            x: face.titleRect.x
+            y: face.titleRect.y
+            width: face.titleRect.width
+            height: face.titleRect.height
+            visible: text.length > 0
+            text: face.look.text
+            color: face.look.color
+            font.pixelSize: face.look.size
+            font.weight: face.look.weight
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignHCenter
+            Accessible.ignored: true
+        }
+    }
+    Component {
+        id: piece
         Rectangle {
-            id: ground
+            id: drawn
             required property LooseViewItem modelData
-            x: modelData.x - row.view.boundsX
+            property real scrolled: 0
+            x: modelData.x - scrolled
             y: modelData.y
             width: modelData.width
             height: modelData.height
             color: modelData.fill.color
-            Repeater {
-                model: ground.modelData.children
-                Item {
-                    id: button
-                    required property LooseViewItem modelData
-                    x: modelData.x
-                    y: modelData.y
-                    width: modelData.width
-                    height: modelData.height
-                    opacity: modelData.alpha
-                    scale: modelData.scale
-                    Accessible.role: Accessible.Button
-                    Accessible.name: modelData.accessibleName
-                    Accessible.onPressAction: modelData.activate()
-                    Icon {
-                        anchors.centerIn: parent
-                        name: button.modelData.image
-                        side: Math.min(button.width, button.height) - 16
-                    }
-                    Text {
-                        anchors.bottom: parent.bottom
-                        width: parent.width
-                        text: button.modelData.title
-                        color: "white"
-                        font.pixelSize: 15
-                        font.weight: Font.Medium
-                        wrapMode: Text.Wrap
-                        horizontalAlignment: Text.AlignHCenter
-                        visible: text.length > 0
-                    }
-                }
+            opacity: modelData.alpha
+            scale: modelData.scale
+            Loader {
+                active: drawn.modelData.pressable
+                sourceComponent: Face { button: drawn.modelData }
             }
+            Repeater {
+                model: drawn.modelData.children
+                delegate: piece
+            }
+        }
+    }
+    Repeater {
+        model: row.view.children
+        delegate: piece
+        onItemAdded: (index, item) => {
+            item.scrolled = Qt.binding(() => row.view.boundsX);
         }
     }
 }

@@ -42,6 +42,7 @@ Flickable {
             collection.scrollEnded();
     }
     onTopMarginChanged: tellSurroundings()
+    onBottomMarginChanged: tellSurroundings()
     onSideRoomChanged: tellSurroundings()
     Component.onCompleted: {
         tellSurroundings();
@@ -51,7 +52,7 @@ Flickable {
 
     function tellSurroundings() {
         if (collection)
-            collection.setSurroundings(topMargin, sideRoom);
+            collection.setSurroundings(topMargin, bottomMargin, sideRoom);
     }
     // Scrolls as far as it takes for all of a cell to be seen, and a piece of the next: the keyboard goes on to it.
     function reveal(cell: Item) {
@@ -59,7 +60,11 @@ Flickable {
         const highest = cell.y + cell.height + peek - height + bottomMargin;
         const lowest = cell.y - peek - topMargin;
         const end = Math.max(-topMargin, contentHeight + bottomMargin - height);
-        contentY = Math.max(-topMargin, Math.min(Math.max(contentY, highest), lowest, end));
+        const place = Math.max(-topMargin, Math.min(Math.max(contentY, highest), lowest, end));
+        if (place === contentY)
+            return;
+        collection.closeSwipes();
+        contentY = place;
     }
     // The keyboard goes to the cell of an item; the one beside it has made sure that it is drawn.
     function goTo(item: int) {
@@ -85,8 +90,10 @@ Flickable {
     }
     Loader {
         id: menu
+        readonly property bool opened: (item as ContextMenu)?.opened ?? false
         active: false
         source: "ContextMenu.qml"
+        onOpenedChanged: if (!opened) flick.collection?.menuClosed()
     }
     Connections {
         target: flick.collection

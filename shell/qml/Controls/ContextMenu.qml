@@ -7,6 +7,7 @@ Item {
     id: place
 
     property MenuItem menu
+    readonly property bool opened: overlay.visible
 
     function open() {
         let pane = place;

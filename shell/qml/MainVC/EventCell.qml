@@ -49,7 +49,7 @@ CellScope {
         y: card.content.y
         width: card.content.width
         height: card.content.height
-        scale: card.cell.highlighted ? 0.985 : 1
+        scale: card.cell.lifted ? 1.03 : card.cell.highlighted ? 0.985 : 1
         Behavior on scale { NumberAnimation { duration: Theme.quick } }
         SoftShadow { radius: card.cell.cornerRadius }
         Rectangle { // a picture that is not there leaves a calm ground for the text
