@@ -296,7 +296,10 @@ TEST_F(PhotosTest, TheTabKeyWalksThroughThePhotosAndScrollsAlong) {
 TEST_F(PhotosTest, AFingerThatRestsShowsThePhotoLarge) {
     showPhotos(2);
     answer("i.test/p1?", "red");
-    hand.hold(middleOfPhoto(0), [&] { return stack.top() != picker.get(); });
+    hand.hold(middleOfPhoto(0), [&] {
+        timeline.advance(Seconds(0.6));
+        return stack.top() != picker.get();
+    });
     EXPECT_EQ(stack.top()->screenName(), "UnsplashPickerPreviewViewController");
     EXPECT_TRUE(host->chosen.empty());
     draw(*stack.top(), "ScreenContent { anchors.fill: parent; screen: root.screen }");
