@@ -15,6 +15,12 @@ Flickable {
     contentHeight: collection.contentHeight
     flickableDirection: sideways ? Flickable.HorizontalFlick : Flickable.VerticalFlick
     boundsBehavior: Flickable.DragAndOvershootBounds
+    // Thrown content goes half as far as its speed would take it in a second, however fast it was.
+    flickDeceleration: Math.max(600, Math.abs(sideways ? horizontalVelocity : verticalVelocity))
+    maximumFlickVelocity: 7000
+    rebound: Transition {
+        NumberAnimation { properties: "x,y"; duration: Theme.calm * 1.6; easing.type: Easing.OutQuint }
+    }
     clip: true
     // A strip begins where the language begins: it is turned over, and each of its cells turned back.
     transform: Scale {
@@ -83,6 +89,7 @@ Flickable {
             item.opacity = Qt.binding(() => item.cell?.alpha ?? 1);
         }
     }
+    ScrollMark { list: flick }
     TouchSurface {
         width: Math.max(flick.contentWidth, flick.width)
         height: flick.contentHeight

@@ -98,5 +98,16 @@ CellScope {
             }
         }
     }
+    Rectangle { // under the mouse; no part of the card's picture
+        parent: pane.held
+        x: face.x
+        y: face.y
+        width: face.width
+        height: face.height
+        radius: card.content.cornerRadius
+        color: "white"
+        opacity: card.cell.hovered ? 0.08 : 0
+        Behavior on opacity { NumberAnimation { duration: Theme.quick } }
+    }
     FocusRing { target: card; radius: card.cell.cornerRadius + 3 }
 }
