@@ -13,7 +13,7 @@
 // drawn starts where it was and the animator takes the difference (the lag) to zero along its timing curve.
 // Several animators may move one number at a time: their lags add up, so that nothing ever jumps. Animators
 // are stepped with the time stamps of the frame clock and read no clock themselves: the same stamps give the
-// same picture.
+// same picture. What starts from rest has moved by its first frame, as if it had begun with the frame before.
 //
 //   Inactive --start--> Running --curve ends--> Inactive, completion(End)
 //                          |------stop--------> Inactive; model := drawn, no completion
