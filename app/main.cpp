@@ -5,11 +5,15 @@
 #include "freedesktop/ReminderService.h"
 #include "icu/DeviceLocale.h"
 #include "qtdesktop/DesktopActivation.h"
+#include "qtdesktop/DesktopPortal.h"
 #include "standard/StandardConsole.h"
 #include "standard/SystemClock.h"
 
+#include <QDBusConnection>
+#include <QFile>
 #include <QFont>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QLocale>
 #include <QStandardPaths>
 
@@ -19,7 +23,7 @@
 
 namespace {
 
-constexpr const char* help = "Usage: tessivo [--version] [--help]\n"
+constexpr const char* help = "Usage: tessivo [--new-event] [--version] [--help]\n"
                              "Counts the time to, or since, the dates that matter to you.\n";
 
 /// Answers the options that every program has; all others are ignored.
@@ -52,6 +56,8 @@ int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tessivo"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tessivo.Tessivo"));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(
+        QStringLiteral("org.tessivo.Tessivo"), QIcon(QStringLiteral(":/tessivo/org.tessivo.Tessivo.svg"))));
     QFont font;
     font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Noto Color Emoji")});
     QGuiApplication::setFont(font);
@@ -61,15 +67,27 @@ int main(int argc, char** argv) {
     QGuiApplication::setLayoutDirection(QLocale(QString::fromStdString(language)).textDirection());
 
     Composition* running = nullptr;
-    DesktopActivation activation([&](const DesktopActivation::Request& request) {
+    const auto bus = QDBusConnection::sessionBus();
+    DesktopActivation activation(bus, [&](const DesktopActivation::Request& request) {
         if (!running)
             return;
         running->shell().raise(request.activationToken);
         performLaunchAction(request.action.toStdString(), request.parameter.toStdString(),
                             running->services(), running->stack());
     });
-    if (!activation.claim())
+    const bool addsEvent = QGuiApplication::arguments().contains(QStringLiteral("--new-event"));
+    if (!activation.claim(addsEvent ? QStringLiteral("new-event") : QString()))
         return 0;
+
+    desktop::DesktopPortal portal(bus);
+    // A sandbox has no autostart entry.
+    if (QFile::exists(QStringLiteral("/.flatpak-info")))
+        portal.startAtLogin(QStringLiteral("Show reminders while the window is closed"),
+                            {QStringLiteral("tessivo-reminders")},
+                            [&](desktop::DesktopPortal::Answer answer) {
+                                if (answer == desktop::DesktopPortal::Answer::Absent)
+                                    console.print("The reminder helper cannot be started at login.");
+                            });
 
     const auto caches = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation).toStdString();
     Composition composition(

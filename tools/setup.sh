@@ -6,9 +6,7 @@ build=(g++ cmake ninja-build pkg-config ccache mold
        qt6-base-dev qt6-declarative-dev qt6-svg-dev libgl-dev
        libicu-dev libsqlite3-dev nlohmann-json3-dev libsystemd-dev)
 run=(libqt6svg6 qt6-image-formats-plugins qt6-wayland dbus xdg-utils zenity ca-certificates python3
-     qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtqml qml6-module-qtqml-models
-     qml6-module-qtqml-workerscript
-     qml6-module-qtquick-layouts qml6-module-qtquick-shapes
+     qml6-module-qtquick qml6-module-qtqml-workerscript
      fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji)
 test=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev qml6-module-qttest
       xvfb xauth libgl1-mesa-dri dunst desktop-file-utils appstream clang libclang-rt-dev clang-format tzdata locales)

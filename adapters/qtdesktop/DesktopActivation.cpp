@@ -1,6 +1,5 @@
 #include "qtdesktop/DesktopActivation.h"
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
 
@@ -25,21 +24,38 @@ QString text(const QVariant& parameter) {
 
 } // namespace
 
-bool DesktopActivation::claim() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
+bool DesktopActivation::claim(const QString& action) {
+    if (!takePlace()) {
+        passOn(action);
+        return false;
+    }
+    if (!action.isEmpty())
+        QMetaObject::invokeMethod(
+            this,
+            [this, action] {
+                activated_({{}, action, {}});
+            },
+            Qt::QueuedConnection);
+    return true;
+}
+
+bool DesktopActivation::takePlace() {
+    if (!bus_.isConnected())
         return true;
-    bus.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
-    if (bus.registerService(applicationId))
-        return true;
+    bus_.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
+    return bus_.registerService(applicationId);
+}
+
+void DesktopActivation::passOn(const QString& action) {
     QVariantMap platformData;
     if (const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN"); !token.isEmpty())
         platformData.insert(QStringLiteral("activation-token"), QString::fromUtf8(token));
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(applicationId, objectPath, interfaceName, QStringLiteral("Activate"));
+    const QString method = action.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("ActivateAction");
+    QDBusMessage call = QDBusMessage::createMethodCall(applicationId, objectPath, interfaceName, method);
+    if (!action.isEmpty())
+        call << action << QVariantList();
     call << platformData;
-    bus.call(call);
-    return false;
+    bus_.call(call);
 }
 
 void DesktopActivation::Activate(const QVariantMap& platformData) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -23,11 +24,13 @@ public:
     };
     using Activated = std::function<void(const Request& request)>;
 
-    explicit DesktopActivation(Activated activated) : activated_(std::move(activated)) {}
+    DesktopActivation(const QDBusConnection& bus, Activated activated)
+        : bus_(bus), activated_(std::move(activated)) {}
 
-    /// Takes the place. False where another window has it: that one has been asked to come to the front.
-    /// Without a session bus the answer is true, and nobody finds this window.
-    [[nodiscard]] bool claim();
+    /// Takes the place. False where another window has it: that one has been asked to come to the front, and
+    /// for `action` unless it is empty. Otherwise the action is asked of this program, in a later turn of the
+    /// main loop. Without a session bus the answer is true, and nobody finds this window.
+    [[nodiscard]] bool claim(const QString& action);
 
 public Q_SLOTS:
     void Activate(const QVariantMap& platformData);
@@ -35,6 +38,10 @@ public Q_SLOTS:
     void ActivateAction(const QString& name, const QVariantList& parameters, const QVariantMap& platformData);
 
 private:
+    [[nodiscard]] bool takePlace();
+    void passOn(const QString& action);
+
+    QDBusConnection bus_;
     Activated activated_;
 };
 

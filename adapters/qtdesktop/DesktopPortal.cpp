@@ -47,6 +47,15 @@ void DesktopPortal::composeMail(const QString& attachment, Answered answered) {
          withoutResults(std::move(answered)));
 }
 
+void DesktopPortal::startAtLogin(const QString& reason, const QStringList& command, Answered answered) {
+    call("org.freedesktop.portal.Background", "RequestBackground", {QString::fromLatin1(noParentWindow)},
+         {{QStringLiteral("reason"), reason},
+          {QStringLiteral("autostart"), true},
+          {QStringLiteral("commandline"), command},
+          {QStringLiteral("dbus-activatable"), false}},
+         withoutResults(std::move(answered)));
+}
+
 QObject* DesktopPortal::chooseFile(const QString& title, const QString& kind, const QStringList& mediaTypes,
                                    Chosen chosen) {
     registerFileFilters();

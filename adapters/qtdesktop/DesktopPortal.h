@@ -26,6 +26,9 @@ public:
     void openFile(const QString& path, Answered answered);
     /// Begins a mail with the file attached.
     void composeMail(const QString& attachment, Answered answered);
+    /// Asks that `command`, a program of this sandbox, be started at each login, and gives the user `reason`
+    /// for it. Outside a sandbox an autostart entry does that.
+    void startAtLogin(const QString& reason, const QStringList& command, Answered answered);
     /// Lets the user choose a file of these media types. The question is closed, unanswered, when what comes
     /// back is deleted; it deletes itself once it is answered.
     QObject* chooseFile(const QString& title, const QString& kind, const QStringList& mediaTypes,

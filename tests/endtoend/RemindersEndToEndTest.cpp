@@ -190,6 +190,21 @@ TEST_F(RemindersEndToEndTest, AHelperWhoseProgramIsReplacedGoesOnAsTheNewOne) {
     EXPECT_EQ(code, 0);
 }
 
+// As the package does it after an upgrade, whose old file is gone by then.
+TEST_F(RemindersEndToEndTest, AHelperThatIsHungUpBeginsAnewAsTheSameProcessAndStillReminds) {
+    session->startDaemon();
+    startHelper();
+    const auto before = PrivateSession::ownerOf(remindersName);
+    ASSERT_EQ(add("Upgraded", "meanwhile", 3), std::nullopt);
+    helper.hangUp();
+    ASSERT_TRUE(eventually([&] {
+        const auto now = PrivateSession::ownerOf(remindersName);
+        return !now.empty() && now != before;
+    }));
+    EXPECT_EQ(helper.exitCode(), std::nullopt);
+    EXPECT_TRUE(arrives("Upgraded", "meanwhile"));
+}
+
 // The whole road: through the wizard's screens into the store and the queue, and from there to the desktop.
 TEST_F(RemindersEndToEndTest, AnEventOfTheWizardReminds) {
     session->startDaemon();

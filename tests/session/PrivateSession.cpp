@@ -101,6 +101,12 @@ bool PrivateSession::isOnBus(const std::string& name) {
     return reply && sd_bus_message_read(reply.get(), "b", &has) >= 0 && has != 0;
 }
 
+std::string PrivateSession::ownerOf(const std::string& name) {
+    const char* owner = nullptr;
+    const auto reply = callBus("GetNameOwner", name.c_str());
+    return reply && sd_bus_message_read(reply.get(), "s", &owner) >= 0 ? owner : "";
+}
+
 void PrivateSession::addService(const std::string& name, const std::string& program) {
     std::ofstream(folder_ / "added.service")
         << "[D-BUS Service]\nName=" << name << "\nExec=" << program << '\n';

@@ -24,6 +24,8 @@ public:
     [[nodiscard]] bool hasShown(const std::string& title, const std::string& body) const;
 
     [[nodiscard]] static bool isOnBus(const std::string& name);
+    /// The connection that has the name, which no other connection ever bears; empty where none has it.
+    [[nodiscard]] static std::string ownerOf(const std::string& name);
 
     /// From now on the bus starts `program` when somebody calls `name`.
     void addService(const std::string& name, const std::string& program);

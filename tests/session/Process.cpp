@@ -42,6 +42,11 @@ void Process::terminate() const {
         ::kill(id_, SIGTERM);
 }
 
+void Process::hangUp() const {
+    if (id_ > 0)
+        ::kill(id_, SIGHUP);
+}
+
 std::optional<int> Process::exitCode() {
     int status = 0;
     if (id_ <= 0 || ::waitpid(id_, &status, WNOHANG) != id_)

@@ -28,6 +28,8 @@ public:
     /// Sends SIGKILL and waits for the end.
     void kill();
     void terminate() const;
+    /// Sends SIGHUP.
+    void hangUp() const;
 
     /// The exit code, once it has ended by itself; -1 for one that died of a signal or cannot be started.
     [[nodiscard]] std::optional<int> exitCode();

@@ -33,6 +33,8 @@ QStringList mediaTypesOf(const QVariantMap& options) {
 QDBusUnixFileDescriptor handedOver(const QDBusMessage& message, const QVariantMap& options) {
     if (message.arguments().size() == 3)
         return message.arguments().at(1).value<QDBusUnixFileDescriptor>();
+    if (!options.contains(QStringLiteral("attachment_fds")))
+        return {};
     const auto list = options.value(QStringLiteral("attachment_fds")).value<QDBusArgument>();
     QList<QDBusUnixFileDescriptor> attachments;
     list >> attachments;
@@ -62,7 +64,7 @@ bool StandInPortal::handleMessage(const QDBusMessage& message, const QDBusConnec
     const bool chooses = message.interface().endsWith(QLatin1String("FileChooser"));
     asked.push_back({message.interface().toStdString(), message.member().toStdString(),
                      chooses ? std::string() : contentsOf(handedOver(message, options)),
-                     options.value(QStringLiteral("ask")).toBool(), mediaTypesOf(options)});
+                     options.value(QStringLiteral("ask")).toBool(), mediaTypesOf(options), options});
 
     const QString sender = message.service().mid(1).replace(u'.', u'_');
     const QString token = options.value(QStringLiteral("handle_token")).toString();

@@ -24,6 +24,7 @@ public:
         std::string contents;     ///< of the file handed over
         bool ask = false;         ///< whether the user is to choose
         QStringList mediaTypes{}; ///< of the files that can be chosen
+        QVariantMap options{};
     };
 
     bool refuses = false; ///< fails each call, as a portal without that interface does
