@@ -13,4 +13,13 @@ void QtLinkOpener::open(const std::string& url) {
         QDesktopServices::openUrl(QUrl(QString::fromStdString(url)));
 }
 
+bool QtLinkOpener::canOpen(const std::string& url) const {
+    const QUrl address(QString::fromStdString(url), QUrl::StrictMode);
+    const QString scheme = address.scheme();
+    if (scheme == QLatin1String("mailto"))
+        return address.isValid();
+    return address.isValid() && !address.host().isEmpty() &&
+           (scheme == QLatin1String("https") || scheme == QLatin1String("http"));
+}
+
 } // namespace tessivo

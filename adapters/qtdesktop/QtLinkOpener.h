@@ -8,6 +8,7 @@ namespace tessivo {
 class QtLinkOpener final : public LinkOpener {
 public:
     void open(const std::string& url) override;
+    [[nodiscard]] bool canOpen(const std::string& url) const override;
 };
 
 } // namespace tessivo

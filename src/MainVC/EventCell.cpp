@@ -3,7 +3,7 @@
 #include "Event/EventCoreData.h"
 #include "Extension/EventCardText.h"
 #include "Interface/ViewController.h"
-#include "MainVC/CardSize.h"
+#include "Support/CardSize.h"
 #include "Ports/Clock.h"
 #include "Ports/Console.h"
 

@@ -3,7 +3,7 @@
 #include "Event/CoreDataStack.h"
 #include "Event/FetchEventDataType.h"
 #include "Extension/TabTitleColors.h"
-#include "MainVC/CardSize.h"
+#include "Support/CardSize.h"
 #include "MainVC/EventCell.h"
 #include "Ports/Calendar.h"
 #include "Ports/Clock.h"
@@ -98,11 +98,7 @@ std::shared_ptr<MainViewController> MainViewController::self() {
 }
 
 void MainViewController::settingButtonTapped() {
-    auto settings = services().screens().makeSettings([list = std::weak_ptr(self())] {
-        if (const auto standing = list.lock())
-            standing->collection.reloadData();
-    });
-    if (settings)
+    if (auto settings = services().screens().makeSettings(weakSelf<SettingControllerDelegate>(this)))
         present(std::move(settings));
 }
 

@@ -6,6 +6,7 @@
 #include "Interface/CollectionView.h"
 #include "Interface/Label.h"
 #include "Interface/TabBarController.h"
+#include "SettingVC/SettingControllerDelegate.h"
 #include "Support/Screen.h"
 #include "Support/ScreenFactory.h"
 #include "SwipeCells/SwipeCollectionViewCell.h"
@@ -27,7 +28,8 @@ class MainViewController final : public Screen,
                                  public ui::CollectionViewDataSource,
                                  public ui::CollectionViewDelegate,
                                  public swipe::SwipeCollectionViewCellDelegate,
-                                 public ui::TabBarControllerDelegate {
+                                 public ui::TabBarControllerDelegate,
+                                 public SettingControllerDelegate {
 public:
     MainViewController(SharedServices& services, ListType type);
     ~MainViewController() override;
@@ -61,6 +63,7 @@ public:
     [[nodiscard]] swipe::SwipeOptions editActionsOptions(ui::CollectionView& collectionView, int item,
                                                          swipe::SwipeActionsOrientation side) override;
     void didSelectViewController(ui::TabBarController& tabs, ui::ViewController& selected) override;
+    void reloadEvents() override { collection.reloadData(); }
 
     // What can be done with a card. An item without a row stops the program.
     void showEditSheet(int item);

@@ -5,7 +5,6 @@
 #include "Interface/ActivityViewController.h"
 #include "Interface/AlertController.h"
 #include "Interface/ViewSnapshots.h"
-#include "MainVC/CardSize.h"
 #include "MainVC/EventActions.h"
 #include "MainVC/EventCell.h"
 #include "Ports/Console.h"

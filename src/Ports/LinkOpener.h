@@ -13,6 +13,9 @@ public:
     /// ignored: a link that came from the network must not start any other program. Failures are not
     /// reported.
     virtual void open(const std::string& url) = 0;
+
+    /// Whether `url` is an address that `open` hands on: http, https or mailto.
+    [[nodiscard]] virtual bool canOpen(const std::string& url) const = 0;
 };
 
 } // namespace tessivo

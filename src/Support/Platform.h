@@ -18,6 +18,7 @@ class NamedColors;
 class NotificationCenter;
 class PhotoLibrary;
 class PictureSharing;
+class ResourceFiles;
 class ResponseCaches;
 class SavedSettings;
 class TextCounting;
@@ -57,6 +58,7 @@ struct Platform {
     PictureSharing& pictureSharing;
     PhotoLibrary& photoLibrary;
     const LocalizedTexts* photoTexts; ///< the photo browser's own; null where they were not found
+    const ResourceFiles& resources;
 };
 
 } // namespace tessivo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Interface/ViewController.h"
+#include "Ports/LocalizedTexts.h"
 #include "Support/SharedServices.h"
 
 namespace tessivo {
@@ -14,6 +15,10 @@ protected:
     [[nodiscard]] SharedServices& services() const { return services_; }
     [[nodiscard]] const Platform& platform() const { return services_.platform(); }
     [[nodiscard]] const LocalizationVariables& texts() const { return services_.localizationVariables(); }
+    /// A text of the tables that stands under its English words.
+    [[nodiscard]] std::string localized(std::string_view text) const {
+        return platform().texts.localizedString(text);
+    }
 
 private:
     SharedServices& services_;

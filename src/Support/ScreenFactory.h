@@ -1,11 +1,11 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 
 namespace tessivo {
 
 class EventCoreData;
+class SettingControllerDelegate;
 
 namespace ui {
 class ViewController;
@@ -30,9 +30,11 @@ public:
     /// The screen that changes `eventData`, which both hold.
     [[nodiscard]] virtual std::shared_ptr<ui::ViewController>
     makeEdit(EditScreen kind, std::shared_ptr<EventCoreData> eventData) = 0;
-    /// `sizeChanged` is called when the user has chosen another card size.
+    /// `delegate` hears when the user has chosen another card size.
     [[nodiscard]] virtual std::shared_ptr<ui::ViewController>
-    makeSettings(std::function<void()> sizeChanged) = 0;
+    makeSettings(std::weak_ptr<SettingControllerDelegate> delegate) = 0;
+    /// The tour of the first run, which ends in the tabs.
+    [[nodiscard]] virtual std::shared_ptr<ui::ViewController> makeOnboarding() = 0;
 
     /// Opens the machine's page on which the user may allow notifications; quietly does nothing where it has
     /// none.

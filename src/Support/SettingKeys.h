@@ -12,5 +12,7 @@ inline constexpr std::string_view eventSize = "EventSize";
 inline constexpr std::string_view secondOpen = "SecondOpen";
 /// True once the tabs have been shown: the first-run tour is over.
 inline constexpr std::string_view isFirstLaunch = "isFirstLaunch";
+/// Which way of rating is asked for, as text: "0" or "1". Absent counts as "0".
+inline constexpr std::string_view rateUs = "rateUs";
 
 } // namespace tessivo::settingKeys

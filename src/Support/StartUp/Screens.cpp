@@ -7,6 +7,8 @@
 #include "EditEventVC/EditReminderViewController.h"
 #include "Extension/TabBar/CustomTabBarController.h"
 #include "MainVC/FullEventViewController.h"
+#include "OnBordingVC/OnboardingViewController.h"
+#include "SettingVC/SettingController.h"
 
 namespace tessivo {
 namespace {
@@ -49,8 +51,15 @@ std::shared_ptr<ui::ViewController> Screens::makeEdit(EditScreen kind,
     return nullptr;
 }
 
-std::shared_ptr<ui::ViewController> Screens::makeSettings(std::function<void()>) {
-    return nullptr;
+std::shared_ptr<ui::ViewController>
+Screens::makeSettings(std::weak_ptr<SettingControllerDelegate> delegate) {
+    auto settings = std::make_shared<SettingController>(*services_);
+    settings->delegateSettting = std::move(delegate);
+    return settings;
+}
+
+std::shared_ptr<ui::ViewController> Screens::makeOnboarding() {
+    return std::make_shared<OnboardingViewController>(*services_);
 }
 
 void Screens::openNotificationSettings() {

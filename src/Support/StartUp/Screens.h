@@ -2,6 +2,8 @@
 
 #include "Support/ScreenFactory.h"
 
+#include <functional>
+
 namespace tessivo {
 
 class SharedServices;
@@ -19,7 +21,8 @@ public:
     [[nodiscard]] std::shared_ptr<ui::ViewController>
     makeEdit(EditScreen kind, std::shared_ptr<EventCoreData> eventData) override;
     [[nodiscard]] std::shared_ptr<ui::ViewController>
-    makeSettings(std::function<void()> sizeChanged) override;
+    makeSettings(std::weak_ptr<SettingControllerDelegate> delegate) override;
+    [[nodiscard]] std::shared_ptr<ui::ViewController> makeOnboarding() override;
     void openNotificationSettings() override;
 
     /// What `openNotificationSettings` does.

@@ -2,7 +2,7 @@
 
 #include "Interface/Geometry.h"
 #include "Interface/MainScreen.h"
-#include "Support/SharedServices.h"
+#include "Support/Platform.h"
 
 namespace tessivo {
 

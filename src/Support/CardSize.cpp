@@ -1,4 +1,4 @@
-#include "MainVC/CardSize.h"
+#include "Support/CardSize.h"
 
 #include "Ports/Console.h"
 #include "Ports/SavedSettings.h"
