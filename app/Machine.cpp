@@ -81,7 +81,8 @@ Platform Machine::platform() {
             .snapshots = snapshots_,
             .pictureSharing = pictureSharing_,
             .photoLibrary = photoLibrary_,
-            .photoTexts = &photoTexts_};
+            .photoTexts = &photoTexts_,
+            .resources = resources_};
 }
 
 void Machine::waitForThreads() {

@@ -13,6 +13,7 @@
 #include "qtdesktop/QtLinkOpener.h"
 #include "qtdesktop/QtPhotoLibrary.h"
 #include "qtdesktop/QtPictureSharing.h"
+#include "qtdesktop/QtResourceFiles.h"
 #include "qtimage/QtImageCoding.h"
 #include "qtnetwork/QtHttpClient.h"
 #include "qtnetwork/QtResponseCaches.h"
@@ -97,6 +98,7 @@ private:
     QtResponseCaches responseCaches_;
     FolderDocumentFiles documentFiles_;
     QtLinkOpener links_;
+    QtResourceFiles resources_;
     // Their threads use what stands above.
     ThreadWorkQueue background_;
     QtHttpClient http_;

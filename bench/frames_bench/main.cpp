@@ -4,6 +4,8 @@
 //
 // Run it on a display of its own: xvfb-run -a -s "-screen 0 1280x1024x24" frames_bench
 
+#include "Ports/SavedSettings.h"
+#include "Support/SettingKeys.h"
 #include "app/Composition.h"
 #include "bench/EventFolder.h"
 #include "bench/ScrollingList.h"
@@ -133,6 +135,8 @@ void fling(QQuickWindow& window, FrameTimes& times) {
     Composition program(
         {.data = data, .caches = data + "/caches", .language = "en", .tellReminderHelper = [] {}}, clock,
         console);
+    program.services().platform().settings.setBoolean(settingKeys::isFirstLaunch,
+                                                      true); // straight to the lists
     program.start();
     program.shell().window()->resize(390, 844);
     measure(*program.shell().window(), act);

@@ -4,6 +4,8 @@
 // the medians count.
 
 #include "DemoPhotos.h"
+#include "Ports/SavedSettings.h"
+#include "Support/SettingKeys.h"
 #include "UnsplashPicker/PickerServices.h"
 #include "UnsplashPicker/UnsplashPicker.h"
 #include "app/Composition.h"
@@ -110,6 +112,8 @@ int measure(QGuiApplication& application, int photos) {
                          .tellReminderHelper = [] {},
                          .photoService = service.address()},
                         clock, console);
+    program.services().platform().settings.setBoolean(settingKeys::isFirstLaunch,
+                                                      true); // straight to the lists
     program.start();
     auto configuration = program.services().photoPicker().configuration();
     configuration.accessKey = "any key";

@@ -3,6 +3,8 @@
 // list scrolls, against a short one. Each measurement has a process of its own; the kinds take turns, so that
 // a busy machine hits them alike, and the medians count.
 
+#include "Ports/SavedSettings.h"
+#include "Support/SettingKeys.h"
 #include "app/Composition.h"
 #include "bench/EventFolder.h"
 #include "bench/ProcessCost.h"
@@ -59,6 +61,8 @@ int measureProgram(QGuiApplication& application, const QString& folder, bool scr
     Composition program(
         {.data = data, .caches = data + "/caches", .language = "en", .tellReminderHelper = [] {}}, clock,
         console);
+    program.services().platform().settings.setBoolean(settingKeys::isFirstLaunch,
+                                                      true); // straight to the lists
     program.start();
     QQuickWindow* const window = program.shell().window();
     QObject::connect(

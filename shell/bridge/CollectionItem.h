@@ -118,6 +118,7 @@ class CollectionItem final : public ViewItem {
     Q_PROPERTY(double contentWidth READ contentWidth NOTIFY contentChanged FINAL)
     Q_PROPERTY(double contentHeight READ contentHeight NOTIFY contentChanged FINAL)
     Q_PROPERTY(int itemCount READ itemCount NOTIFY contentChanged FINAL)
+    Q_PROPERTY(bool paging READ paging CONSTANT FINAL)
     Q_PROPERTY(double footInset READ footInset NOTIFY contentChanged FINAL)
 
 public:
@@ -131,6 +132,9 @@ public:
 
     /// What the program keeps free under the content.
     [[nodiscard]] double footInset() const { return collection_.contentInset().bottom; }
+
+    /// Whether scrolling comes to rest at whole pages only.
+    [[nodiscard]] bool paging() const { return collection_.isPagingEnabled; }
 
     /// What lies over the collection's upper and lower edge, and what its items keep away from at the sides.
     Q_INVOKABLE void setSurroundings(double top, double bottom, double sides);
@@ -154,7 +158,7 @@ public:
 
 Q_SIGNALS:
     /// The program scrolls.
-    void scrollRequested(double x, double y);
+    void scrollRequested(double x, double y, bool animated);
     /// The menu stays until the next one opens.
     void menuOpened(tessivo::shell::MenuItem* menu, double x, double y);
 

@@ -242,13 +242,14 @@ void CollectionView::deselectItem(int item) {
         cell->setSelected(false);
 }
 
-void CollectionView::scrollToItem(int item) {
+void CollectionView::scrollToItem(int item, bool animated) {
     const Rect frame = layout_->frame(item);
     const auto centred = [](double middle, double window, double content) {
         return std::clamp(middle - window / 2, 0.0, std::max(content - window, 0.0));
     };
     setContentOffset({centred(frame.midX(), bounds().width, contentSize().width),
-                      centred(frame.midY(), bounds().height, contentSize().height)});
+                      centred(frame.midY(), bounds().height, contentSize().height)},
+                     animated);
 }
 
 void CollectionView::tapItem(int item) {

@@ -96,7 +96,7 @@ public:
     void deselectItem(int item);
     [[nodiscard]] const std::set<int>& selectedItems() const { return selected_; }
     /// Scrolls so that the item stands in the middle, as far as the content allows.
-    void scrollToItem(int item);
+    void scrollToItem(int item, bool animated = false);
 
     /// The user taps the item: it becomes selected, or, where several may be, changes over. The delegate
     /// hears it.

@@ -14,7 +14,12 @@ public:
     }
     ~NavigationController() override { content_->setParent(nullptr); }
 
+    [[nodiscard]] std::string screenName() const override { return content_->screenName(); }
     [[nodiscard]] ViewController& topViewController() const { return *content_; }
+
+    /// The bar stands until it is hidden. It holds nothing, so that a window draws the same either way.
+    void setNavigationBarHidden(bool hidden) { barHidden_ = hidden; }
+    [[nodiscard]] bool isNavigationBarHidden() const { return barHidden_; }
 
 protected:
     void childrenWillAppear() override { content_->beginAppearing(); }
@@ -23,6 +28,7 @@ protected:
 
 private:
     std::shared_ptr<ViewController> content_;
+    bool barHidden_ = false;
 };
 
 } // namespace tessivo::ui

@@ -22,9 +22,10 @@ void ScrollView::setContentInset(Insets insets) {
     notify(ViewChange::Content);
 }
 
-void ScrollView::setContentOffset(Point offset) {
-    scrolledTo(offset);
-    scrollRequests_.emit(offset);
+void ScrollView::setContentOffset(Point offset, bool animated) {
+    if (!animated || !scrollRequests_.hasSubscribers())
+        scrolledTo(offset);
+    scrollRequests_.emit(offset, animated);
 }
 
 void ScrollView::setZoomedContent(Size size, double maximumScale) {

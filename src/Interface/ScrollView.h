@@ -16,10 +16,14 @@ public:
     [[nodiscard]] Insets contentInset() const { return contentInset_; }
     void setContentInset(Insets insets);
     [[nodiscard]] Point contentOffset() const { return bounds().origin(); }
-    /// The program scrolls. The window follows.
-    void setContentOffset(Point offset);
+    /// The program scrolls. The window follows; animated, it goes there over time and reports its way.
+    /// Without a window it is done at once.
+    void setContentOffset(Point offset, bool animated = false);
     /// The window has been scrolled by the user.
     void scrolledTo(Point offset);
+
+    /// Whether scrolling comes to rest only at whole multiples of the frame. The window sees to it.
+    bool isPagingEnabled = false;
 
     // Zooming: one view fills the content and is enlarged with it.
     /// Nothing before `setZoomedContent`. Not owned.
@@ -52,7 +56,7 @@ public:
     }
 
     /// Hears the program's own scrolling, so that the window can follow.
-    [[nodiscard]] Subscription onScrollRequest(std::function<void(Point offset)> requested) {
+    [[nodiscard]] Subscription onScrollRequest(std::function<void(Point offset, bool animated)> requested) {
         return scrollRequests_.subscribe(std::move(requested));
     }
 
@@ -71,7 +75,7 @@ private:
     double roomAbove_ = 0;
     double roomBelow_ = 0;
     std::shared_ptr<PanGestureRecognizer> pan_ = std::make_shared<PanGestureRecognizer>();
-    Signal<Point> scrollRequests_;
+    Signal<Point, bool> scrollRequests_;
     Signal<> closings_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "Ports/Subscription.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -29,6 +30,10 @@ public:
     /// Subscribes for as long as the signal lives.
     void add(Slot slot) {
         state_->slots.emplace_back(++state_->lastIdentifier, std::make_shared<Slot>(std::move(slot)));
+    }
+
+    [[nodiscard]] bool hasSubscribers() const {
+        return std::ranges::any_of(state_->slots, [](const auto& slot) { return slot.second != nullptr; });
     }
 
     void emit(Arguments... arguments) const {

@@ -3,9 +3,9 @@
 #include "Event/EventCoreData.h"
 #include "Extension/EventCardText.h"
 #include "Interface/ViewController.h"
-#include "Support/CardSize.h"
 #include "Ports/Clock.h"
 #include "Ports/Console.h"
+#include "Support/CardSize.h"
 
 namespace tessivo {
 namespace {

@@ -3,12 +3,12 @@
 #include "Event/CoreDataStack.h"
 #include "Event/FetchEventDataType.h"
 #include "Extension/TabTitleColors.h"
-#include "Support/CardSize.h"
 #include "MainVC/EventCell.h"
 #include "Ports/Calendar.h"
 #include "Ports/Clock.h"
 #include "Ports/Console.h"
 #include "Ports/Timers.h"
+#include "Support/CardSize.h"
 #include "Support/LocalizationVariables.h"
 #include "Support/ScreenFactory.h"
 

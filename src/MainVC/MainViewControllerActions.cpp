@@ -9,6 +9,7 @@
 #include "MainVC/EventCell.h"
 #include "Ports/Console.h"
 #include "Ports/MainQueue.h"
+#include "Support/CardSize.h"
 
 #include <algorithm>
 

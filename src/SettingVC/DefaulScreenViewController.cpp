@@ -31,8 +31,7 @@ OptionCell::OptionCell() {
 
 DefaulScreenViewController::DefaulScreenViewController(SharedServices& services)
     : Screen(services),
-      tableView(controls, "tableView",
-                std::make_unique<ui::LineLayout>(ui::LineLayout::Axis::Vertical, 0)) {
+      tableView(controls, "tableView", std::make_unique<ui::LineLayout>(ui::LineLayout::Axis::Vertical, 0)) {
     modalPresentationStyle = ui::PresentationStyle::Sheet;
 }
 
@@ -101,8 +100,8 @@ int DefaulScreenViewController::numberOfItems(ui::CollectionView&) {
     return static_cast<int>(dataArray.size());
 }
 
-std::shared_ptr<ui::CollectionViewCell> DefaulScreenViewController::cellForItem(ui::CollectionView& collection,
-                                                                                int item) {
+std::shared_ptr<ui::CollectionViewCell>
+DefaulScreenViewController::cellForItem(ui::CollectionView& collection, int item) {
     const auto cell = std::static_pointer_cast<OptionCell>(collection.dequeueReusableCell(reuseIdentifier));
     cell->label.setText(dataArray[static_cast<std::size_t>(item)]);
     cell->setAccessibilityName(cell->label.text());

@@ -39,20 +39,6 @@ const char* nameOf(Kind kind) {
     return "";
 }
 
-const char* headingOf(Kind kind) {
-    switch (kind) {
-    case Kind::ourApplications:
-        return "More Apps";
-    case Kind::feedback:
-        return "General";
-    case Kind::other:
-        return "Feedback";
-    case Kind::publicDocuments:
-        return "Help and Legal";
-    }
-    return "";
-}
-
 std::unique_ptr<ui::CollectionLayout> layoutFor(Kind kind) {
     if (kind == Kind::ourApplications)
         return std::make_unique<ApplicationsLayout>();
@@ -86,9 +72,9 @@ void SettingController::viewDidLoad() {
     view().setBackgroundColor(ui::ColorRef::named("mainBack"));
     buildBar();
     for (const SettingSection& section : sections) {
-        auto& added =
-            *views_.emplace_back(std::make_unique<SectionViews>(controls, nameOf(section.kind), section.kind));
-        added.header.label.setText(localized(headingOf(section.kind)));
+        auto& added = *views_.emplace_back(
+            std::make_unique<SectionViews>(controls, nameOf(section.kind), section.kind));
+        added.header.label.setText(headingOf(section.kind));
         added.rows.setAccessibilityName(added.header.label.text());
         added.rows.registerCell("SettingCell", [] { return std::make_shared<SettingCell>(); });
         added.rows.registerCell("SpecialCell", [] { return std::make_shared<SpecialCell>(); });
@@ -101,6 +87,20 @@ void SettingController::viewDidLoad() {
     placeSections();
     for (const auto& section : views_)
         section->rows.reloadData();
+}
+
+std::string SettingController::headingOf(Kind kind) const {
+    switch (kind) {
+    case Kind::ourApplications:
+        return texts().ourApplications;
+    case Kind::feedback:
+        return localized("General");
+    case Kind::other:
+        return localized("Feedback");
+    case Kind::publicDocuments:
+        return localized("Help and Legal");
+    }
+    return {};
 }
 
 void SettingController::buildBar() {
@@ -185,8 +185,7 @@ std::string SettingController::savedValue(int row) const {
 
 ui::Size SettingController::sizeForItem(ui::CollectionView& collection, int) {
     if (sectionOf(collection) == 0)
-        return {collection.bounds().width * columnShare,
-                screen().height() / stripDivisor * applicationShare};
+        return {collection.bounds().width * columnShare, screen().height() / stripDivisor * applicationShare};
     return {collection.bounds().width, std::max(smallestRow, screen().height() / rowDivisor)};
 }
 

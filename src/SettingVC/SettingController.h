@@ -65,6 +65,7 @@ private:
 
     [[nodiscard]] int sectionOf(const ui::CollectionView& collection) const;
     [[nodiscard]] std::string savedValue(int row) const;
+    [[nodiscard]] std::string headingOf(SettingSection::Kind kind) const;
     void buildBar();
     void placeSections();
 

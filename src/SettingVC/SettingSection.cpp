@@ -31,8 +31,8 @@ std::vector<SettingItem> readApplications(std::string_view text, const JsonCodin
         const auto* id = field("id");
         if (!title || !subTitle || !image || !id)
             return {};
-        items.push_back({texts.localizedString(*title), *image, std::nullopt,
-                         texts.localizedString(*subTitle), *id});
+        items.push_back(
+            {texts.localizedString(*title), *image, std::nullopt, texts.localizedString(*subTitle), *id});
     }
     return items;
 }
@@ -40,13 +40,14 @@ std::vector<SettingItem> readApplications(std::string_view text, const JsonCodin
 std::vector<SettingSection> makeSettingSections(const LocalizationVariables& texts,
                                                 std::vector<SettingItem> applications) {
     using Kind = SettingSection::Kind;
-    return {{Kind::ourApplications, std::move(applications)},
-            {Kind::feedback,
-             {row(texts.eventSize, "EventSize", "FAQ"), row(texts.defaultScreen, "defaultScreen", "premium")}},
-            {Kind::other, {row(texts.rateUs, "star", "rate"), row(texts.shareTheApp, "shareTheApp", "share")}},
-            {Kind::publicDocuments,
-             {row(texts.support, "support", "privacy"), row(texts.termsOfUse, "termsOfUse", "terms"),
-              row(texts.privacyPolicy, "privacyPolicy", "privacy")}}};
+    return {
+        {Kind::ourApplications, std::move(applications)},
+        {Kind::feedback,
+         {row(texts.eventSize, "EventSize", "FAQ"), row(texts.defaultScreen, "defaultScreen", "premium")}},
+        {Kind::other, {row(texts.rateUs, "star", "rate"), row(texts.shareTheApp, "shareTheApp", "share")}},
+        {Kind::publicDocuments,
+         {row(texts.support, "support", "privacy"), row(texts.termsOfUse, "termsOfUse", "terms"),
+          row(texts.privacyPolicy, "privacyPolicy", "privacy")}}};
 }
 
 } // namespace tessivo

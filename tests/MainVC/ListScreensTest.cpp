@@ -34,14 +34,15 @@ public:
         constexpr std::array names{"title", "date and time", "reminder", "background"};
         return note(names[static_cast<std::size_t>(kind)], std::move(eventData));
     }
-    std::shared_ptr<ui::ViewController> makeSettings(std::function<void()> changed) override {
-        sizeChanged = std::move(changed);
+    std::shared_ptr<ui::ViewController>
+    makeSettings(std::weak_ptr<SettingControllerDelegate> delegate) override {
+        delegateSettting = std::move(delegate);
         return note("settings", nullptr);
     }
 
     std::string asked;
     std::shared_ptr<EventCoreData> event;
-    std::function<void()> sizeChanged;
+    std::weak_ptr<SettingControllerDelegate> delegateSettting;
 
 private:
     std::shared_ptr<ui::ViewController> note(std::string what, std::shared_ptr<EventCoreData> record) {
@@ -199,7 +200,7 @@ TEST_F(ListScreensTest, AnotherCardSizeShowsAtOnce) {
     list->settingButton.tap();
     EXPECT_EQ(screens.asked, "settings");
     services.platform().settings.setInteger(settingKeys::eventSize, 2);
-    screens.sizeChanged();
+    screens.delegateSettting.lock()->reloadEvents();
     EXPECT_NEAR(card().frame().height, 844 / 3.5, 1e-9);
 }
 

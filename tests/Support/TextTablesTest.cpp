@@ -1,6 +1,7 @@
 #include "Support/LocalizationVariables.h"
 #include "support/Resources.h"
 #include "json/JsonLocalizedTexts.h"
+#include "json/NlohmannJson.h"
 #include "json/TextTable.h"
 
 #include <gmock/gmock.h>
@@ -19,6 +20,10 @@ using testing::UnorderedElementsAreArray;
 std::string contentsOf(const std::string& language, const std::string& folder = "texts") {
     return resource(folder + "/" + language + ".json");
 }
+
+/// What screens look up under its English words.
+constexpr const char* wordsOfTheirOwn[] = {"Small", "Medium",  "Large",    "Past",          "Future",
+                                           "Back",  "General", "Feedback", "Help and Legal"};
 
 /// Notes the keys that are asked for, and answers with the key in brackets.
 class AskedKeys final : public LocalizedTexts {
@@ -56,6 +61,16 @@ TEST_P(EveryLanguage, HasExactlyTheTextsThatScreensShow) {
         keys.push_back(key);
         EXPECT_NE(text.find_first_not_of(" \n"), std::string::npos) << key << " is blank";
     }
+    for (const char* words : wordsOfTheirOwn)
+        wanted.asked.emplace_back(words);
+    const auto applications = NlohmannJson().parse(resource("applications.json"));
+    for (const auto& application : *applications.value().as<JsonValue::Array>()) {
+        for (const char* field : {"title", "subTitle"})
+            wanted.asked.push_back(*application.find(field)->as<std::string>());
+    }
+    std::ranges::sort(wanted.asked);
+    const auto repeated = std::ranges::unique(wanted.asked);
+    wanted.asked.erase(repeated.begin(), repeated.end());
     EXPECT_THAT(keys, UnorderedElementsAreArray(wanted.asked));
 }
 

@@ -1,5 +1,6 @@
 #include "support/Program.h"
 
+#include "Support/SettingKeys.h"
 #include "Support/StartUp/RunningProgram.h"
 #include "fakes/FixedWidthTexts.h"
 #include "icu/IcuCalendar.h"
@@ -9,7 +10,6 @@
 #include "sqlite/SqliteEventStore.h"
 #include "sqlite/SqliteSavedSettings.h"
 #include "standard/FolderDocumentFiles.h"
-#include "support/Resources.h"
 #include "json/JsonLocalizedTexts.h"
 #include "json/JsonNamedColors.h"
 #include "json/NlohmannJson.h"
@@ -65,7 +65,8 @@ struct Program::Run {
                 .snapshots = program.snapshots,
                 .pictureSharing = program.pictureSharing,
                 .photoLibrary = program.photoLibrary,
-                .photoTexts = &real.photoTexts};
+                .photoTexts = &real.photoTexts,
+                .resources = program.resources};
     }
 
     sqlite::SqliteEventStore eventStore;
@@ -73,14 +74,17 @@ struct Program::Run {
     RunningProgram running;
 };
 
-Program::Program() : Program(notifications) {}
+Program::Program(Launch launch) : Program(notifications, launch) {}
 
-Program::Program(NotificationCenter& center)
+Program::Program(NotificationCenter& center, Launch launch)
     : realParts_(std::make_unique<RealParts>(folder.path())),
       center_(center),
       images(realParts_->images),
       documents(realParts_->documents),
       dateFormatters(realParts_->dateFormatters) {
+    if (launch == Launch::Later)
+        sqlite::SqliteSavedSettings(folder / "settings.sqlite", console)
+            .setBoolean(settingKeys::isFirstLaunch, true);
     restart();
 }
 

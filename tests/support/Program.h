@@ -5,6 +5,7 @@
 #include "fakes/CannedSnapshots.h"
 #include "fakes/CountingUuids.h"
 #include "fakes/FakeNotificationCenter.h"
+#include "fakes/FolderResources.h"
 #include "fakes/MemoryResponseCaches.h"
 #include "fakes/PostedWorkQueue.h"
 #include "fakes/RecordingConsole.h"
@@ -13,6 +14,7 @@
 #include "fakes/ScriptedHttpClient.h"
 #include "fakes/ScriptedPhotoLibrary.h"
 #include "fakes/Timeline.h"
+#include "support/Resources.h"
 #include "support/TemporaryFolder.h"
 
 #include <memory>
@@ -28,11 +30,14 @@ class Program {
     struct Run;
 
 public:
+    /// Whether the tour of the first run is over.
+    enum class Launch { First, Later };
+
     /// Starts on 21 June 2030, 10:30:15 in Berlin, in English.
-    Program();
+    explicit Program(Launch launch = Launch::Later);
 
     /// The same with a notification center of the test's, which must outlive the program.
-    explicit Program(NotificationCenter& center);
+    explicit Program(NotificationCenter& center, Launch launch = Launch::Later);
     ~Program();
 
     /// Ends the program and starts it anew on the same folder.
@@ -59,6 +64,7 @@ public:
     fakes::CannedSnapshots snapshots{timeline};
     fakes::RecordingPictureSharing pictureSharing;
     fakes::ScriptedPhotoLibrary photoLibrary;
+    fakes::FolderResources resources{resourcesFolder()};
     ui::MainScreen screen{{390, 844}};
 
 private:

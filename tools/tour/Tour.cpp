@@ -4,6 +4,7 @@
 #include "Interface/Button.h"
 #include "Interface/CollectionView.h"
 #include "Interface/Label.h"
+#include "Interface/NavigationController.h"
 #include "Interface/TabBarController.h"
 #include "Interface/TextInput.h"
 #include "Support/LocalizationVariables.h"
@@ -42,6 +43,7 @@ void Tour::run() {
     window_.requestActivate();
     waitFor("window", [this] { return window_.isExposed() && window_.isActive(); });
     settle();
+    takeFirstTour();
     picture("empty");
     addEvent({"Summer Holiday 🏖️", 2, 1, 0, 1, -1, 1, true});
     addEvent({"Anna & Max: Wedding", 1, 2, 0, 2, 4, -1, false});
@@ -58,6 +60,45 @@ void Tour::run() {
     addEvent({"Moved House", -2, -1, 0, 1, 22, -1, false});
     hand_.tap(QStringLiteral("Past"));
     picture("past");
+    useSettings();
+}
+
+void Tour::takeFirstTour() {
+    picture("tour-1");
+    const bool reversed = QGuiApplication::layoutDirection() == Qt::RightToLeft;
+    const double middle = stage_.size.width() / 2.0;
+    const double reach = reversed ? -120 : 120;
+    hand_.drag({middle + reach, 200}, {middle - reach, 200});
+    picture("tour-2-by-finger");
+    hand_.press(reversed ? Qt::Key_Right : Qt::Key_Left);
+    for (const char* name : {"tour-2", "tour-3"}) {
+        hand_.tap(nameOf("continueButton"));
+        picture(name);
+    }
+    hand_.tap(nameOf("continueButton"));
+}
+
+void Tour::useSettings() {
+    const auto& texts = program_.services().localizationVariables();
+    hand_.tap(QString::fromStdString(texts.setting));
+    picture("settings");
+    hand_.tap(nameOfRow("feedback", 0));
+    picture("event-size");
+    auto& options = dynamic_cast<ui::CollectionView&>(*shown().controls.find("tableView"));
+    hand_.tap(QString::fromStdString(options.cellForItem(2)->accessibilityName()));
+    picture("event-size-large");
+    hand_.tap(nameOf("prevButton"));
+    hand_.press(Qt::Key_Tab);
+    hand_.press(Qt::Key_Tab);
+    picture("settings-by-keyboard");
+    hand_.tap(nameOf("doneButton"));
+    picture("large-cards");
+}
+
+ui::ViewController& Tour::shown() const {
+    ui::ViewController& top = *program_.stack().top();
+    auto* frame = dynamic_cast<ui::NavigationController*>(&top);
+    return frame ? frame->topViewController() : top;
 }
 
 void Tour::settle() {
@@ -82,7 +123,7 @@ void Tour::waitFor(const char* what, const std::function<bool()>& done) {
 }
 
 ui::CollectionView& Tour::cards() const {
-    const auto& tabs = dynamic_cast<ui::TabBarController&>(*program_.stack().top());
+    const auto& tabs = dynamic_cast<ui::TabBarController&>(shown());
     return dynamic_cast<ui::CollectionView&>(*tabs.selectedViewController()->controls.find("collection"));
 }
 
@@ -238,8 +279,13 @@ void Tour::tapBeside() {
     hand_.tapAt(hand_.placeOf(nameOf("titleLabel")).center());
 }
 
+QString Tour::nameOfRow(const char* section, int row) const {
+    const auto& rows = dynamic_cast<const ui::CollectionView&>(*shown().controls.find(section));
+    return QString::fromStdString(rows.cellForItem(row)->accessibilityName());
+}
+
 QString Tour::nameOf(const char* control) const {
-    const ui::View* view = program_.stack().top()->controls.find(control);
+    const ui::View* view = shown().controls.find(control);
     if (!view->accessibilityName().empty())
         return QString::fromStdString(view->accessibilityName());
     if (const auto* label = dynamic_cast<const ui::Label*>(view))

@@ -9,7 +9,8 @@ namespace tessivo {
 class Composition;
 namespace ui {
 class CollectionView;
-}
+class ViewController;
+} // namespace ui
 namespace unsplash {
 class UnsplashPickerViewController;
 }
@@ -40,6 +41,10 @@ private:
         Picture picture = Picture::None; ///< in place of colour and gradient
     };
 
+    /// The slides of the first run, by finger, keys and button.
+    void takeFirstTour();
+    /// Opens the settings with what they lead to.
+    void useSettings();
     /// Opens cards, and looks at what their buttons and their menu lead to.
     void useCards();
     /// Opens an event over the whole screen, and each screen that changes it.
@@ -81,8 +86,12 @@ private:
     void picture(const char* name);
     void pictureIf(bool wanted, const char* name);
 
+    /// The screen on top, without a frame around it.
+    [[nodiscard]] ui::ViewController& shown() const;
     /// What a screen reader says of a control of the top screen.
     [[nodiscard]] QString nameOf(const char* control) const;
+    /// The same of a row of the settings.
+    [[nodiscard]] QString nameOfRow(const char* section, int row) const;
 
     Composition& program_;
     const Stage& stage_;

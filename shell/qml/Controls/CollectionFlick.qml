@@ -95,6 +95,13 @@ Flickable {
         height: flick.contentHeight
         collection: flick.collection
     }
+    ParallelAnimation {
+        id: glide
+        property real x
+        property real y
+        NumberAnimation { target: flick; property: "contentX"; to: glide.x; duration: Theme.calm; easing.type: Easing.InOutQuad }
+        NumberAnimation { target: flick; property: "contentY"; to: glide.y; duration: Theme.calm; easing.type: Easing.InOutQuad }
+    }
     Loader {
         id: menu
         readonly property bool opened: (item as ContextMenu)?.opened ?? false
@@ -104,7 +111,12 @@ Flickable {
     }
     Connections {
         target: flick.collection
-        function onScrollRequested(x: real, y: real) {
+        function onScrollRequested(x: real, y: real, animated: bool) {
+            glide.stop();
+            glide.x = x;
+            glide.y = y;
+            if (animated)
+                return glide.start();
             flick.contentX = x;
             flick.contentY = y;
         }

@@ -3,6 +3,7 @@
 #include "Event/EventCoreData.h"
 #include "Event/FetchEventDataType.h"
 #include "Extension/TabTitleColors.h"
+#include "Interface/NavigationController.h"
 #include "MainVC/MainViewController.h"
 #include "Ports/Console.h"
 #include "Ports/SavedSettings.h"
@@ -51,6 +52,16 @@ void CustomTabBarController::viewWillAppear() {
                         {"Future", "Future", "futureSelect", titleColor, {}}});
     applySelectedTitleColors(tabBar);
     setSelectedIndex(static_cast<std::size_t>(*defaultScreen));
+    setNavigationBarHidden(false);
+}
+
+void CustomTabBarController::viewWillDisappear() {
+    setNavigationBarHidden(true);
+}
+
+void CustomTabBarController::setNavigationBarHidden(bool hidden) {
+    if (auto* around = dynamic_cast<ui::NavigationController*>(parent()))
+        around->setNavigationBarHidden(hidden);
 }
 
 void CustomTabBarController::placeBar() {

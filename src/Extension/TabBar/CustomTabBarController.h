@@ -30,10 +30,12 @@ public:
 protected:
     void viewDidLoad() override;
     void viewWillAppear() override;
+    void viewWillDisappear() override;
     void screenSizeDidChange() override { placeBar(); }
 
 private:
     void placeBar();
+    void setNavigationBarHidden(bool hidden);
 
     SharedServices& services_;
 };

@@ -1,6 +1,7 @@
 #include "Support/StartUp/AppDelegate.h"
 
 #include "Event/FetchEventDataType.h"
+#include "Interface/NavigationController.h"
 #include "Interface/PresentationStack.h"
 #include "Ports/Console.h"
 #include "Ports/SavedSettings.h"
@@ -28,7 +29,11 @@ void AppDelegate::didFinishLaunching(ui::PresentationStack& window) {
     fillAbsentSettings();
     countLaunch();
     services_.fetchEventDataType().refreshEvents();
-    window.setRoot(services_.screens().makeTabShell());
+    ScreenFactory& screens = services_.screens();
+    if (services_.platform().settings.boolean(settingKeys::isFirstLaunch).value_or(false))
+        window.setRoot(screens.makeTabShell());
+    else
+        window.setRoot(std::make_shared<ui::NavigationController>(window.window(), screens.makeOnboarding()));
 }
 
 void AppDelegate::fillAbsentSettings() {

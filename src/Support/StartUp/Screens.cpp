@@ -51,8 +51,7 @@ std::shared_ptr<ui::ViewController> Screens::makeEdit(EditScreen kind,
     return nullptr;
 }
 
-std::shared_ptr<ui::ViewController>
-Screens::makeSettings(std::weak_ptr<SettingControllerDelegate> delegate) {
+std::shared_ptr<ui::ViewController> Screens::makeSettings(std::weak_ptr<SettingControllerDelegate> delegate) {
     auto settings = std::make_shared<SettingController>(*services_);
     settings->delegateSettting = std::move(delegate);
     return settings;
