@@ -9,36 +9,25 @@ SettingList {
 
     sideways: true
     rightMargin: 8
-    delegate: CellScope {
+    delegate: CollectionCell {
         id: app
 
         readonly property ImageItem image: cell.control("image") as ImageItem
 
-        x: cell.x
-        y: cell.y
-        width: cell.width
-        height: cell.height
         transform: Scale {
             origin.x: app.width / 2
             xScale: strip.reversed ? -1 : 1
         }
-        activeFocusOnTab: true
         onActiveFocusChanged: {
             if (!activeFocus)
                 return;
             strip.reached();
             strip.show(app);
         }
-        Keys.onReturnPressed: strip.collection.tapItem(cell.item)
-        Keys.onEnterPressed: strip.collection.tapItem(cell.item)
-        Keys.onSpacePressed: strip.collection.tapItem(cell.item)
         Keys.onRightPressed: strip.goTo(cell.item + (strip.reversed ? -2 : 2))
         Keys.onLeftPressed: strip.goTo(cell.item + (strip.reversed ? 2 : -2))
         Keys.onDownPressed: event => event.accepted = strip.goWithin(cell.item, 1)
         Keys.onUpPressed: event => event.accepted = strip.goWithin(cell.item, -1)
-        Accessible.role: Accessible.Button
-        Accessible.name: cell.accessibleName
-        onPressed: strip.collection.tapItem(cell.item)
 
         HoverHandler {
             id: hover
@@ -70,7 +59,7 @@ SettingList {
                 spacing: 0
             }
         }
-        FocusRing { target: ground; visible: app.activeFocus; radius: ground.radius + 3; anchors.margins: -2 }
+        FocusRing { target: ground; visible: app.activeFocus && Theme.keysInUse; radius: ground.radius + 3; anchors.margins: -2 }
     }
 
     // Scrolls until the whole of an item is seen.

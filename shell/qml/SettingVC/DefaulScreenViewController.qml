@@ -71,6 +71,6 @@ FocusScope {
         height: Math.min(contentHeight, options.height - back.height - 40)
         collection: options.table
         Accessible.name: options.table.accessibleName
-        delegate: OptionCell { rows: choices }
+        delegate: OptionCell {}
     }
 }

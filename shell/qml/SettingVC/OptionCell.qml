@@ -2,27 +2,14 @@ import QtQuick
 import Tessivo
 
 // One value of an option screen. The mark stands at the value that held when the screen opened.
-CellScope {
+CollectionCell {
     id: row
 
-    required property CollectionFlick rows
     readonly property ImageItem mark: cell.control("checkmarkImageView") as ImageItem
 
-    x: cell.x
-    y: cell.y
-    width: cell.width
-    height: cell.height
-    activeFocusOnTab: true
-    onActiveFocusChanged: if (activeFocus) rows.reveal(row)
-    Keys.onReturnPressed: rows.collection.tapItem(cell.item)
-    Keys.onEnterPressed: rows.collection.tapItem(cell.item)
-    Keys.onSpacePressed: rows.collection.tapItem(cell.item)
-    Keys.onUpPressed: rows.goTo(cell.item - 1)
-    Keys.onDownPressed: rows.goTo(cell.item + 1)
     Accessible.role: Accessible.RadioButton
-    Accessible.name: cell.accessibleName
+    Accessible.checkable: true
     Accessible.checked: mark.image.length > 0
-    onPressed: rows.collection.tapItem(cell.item)
 
     HoverHandler {
         id: hover

@@ -2,10 +2,9 @@ import QtQuick
 import Tessivo
 
 // One row of the settings.
-CellScope {
+CollectionCell {
     id: row
 
-    required property CollectionItem rows
     property bool showsValue: false
     readonly property ViewItem ground: cell.control("mainView")
     readonly property ImageItem icon: cell.control("image") as ImageItem
@@ -13,20 +12,7 @@ CellScope {
 
     signal reached(row: Item)
 
-    x: cell.x
-    y: cell.y
-    width: cell.width
-    height: cell.height
-    activeFocusOnTab: true
     onActiveFocusChanged: if (activeFocus) reached(row)
-    Keys.onReturnPressed: rows.tapItem(cell.item)
-    Keys.onEnterPressed: rows.tapItem(cell.item)
-    Keys.onSpacePressed: rows.tapItem(cell.item)
-    Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
-    Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-    Accessible.role: Accessible.Button
-    Accessible.name: cell.accessibleName
-    onPressed: rows.tapItem(cell.item)
 
     HoverHandler {
         id: hover

@@ -99,7 +99,6 @@ FocusScope {
                     interactive: false
                     collection: section.rows
                     delegate: SettingCell {
-                        rows: list.collection
                         showsValue: section.modelData === "feedback"
                         onReached: row => settings.reveal(row)
                     }
