@@ -149,9 +149,8 @@ CollectionItem::CollectionItem(ui::CollectionView& collection, const BridgeConte
           collection_.layoutIfNeeded();
           cells_.update();
       })),
-      scrollRequests_(collection.onScrollRequest([this](ui::Point offset, bool animated) {
-          Q_EMIT scrollRequested(offset.x, offset.y, animated);
-      })),
+      scrollRequests_(collection.onScrollRequest(
+          [this](ui::Point offset, bool animated) { Q_EMIT scrollRequested(offset.x, offset.y, animated); })),
       menus_(collection.onMenu([this](const ui::Menu& menu, ui::Point point) {
           menu_ = std::make_unique<MenuItem>(menu, this);
           Q_EMIT menuOpened(menu_.get(), point.x, point.y);

@@ -123,7 +123,8 @@ TEST_F(CollectionTest, AReloadGivesEachItemItsCellBack) {
 
 TEST_F(CollectionTest, ContentThatShrinksIsScrolledBackBeforeAnyCellIsMade) {
     std::vector<double> requests;
-    const auto scrolling = collection.onScrollRequest([&](Point offset) { requests.push_back(offset.y); });
+    const auto scrolling =
+        collection.onScrollRequest([&](Point offset, bool) { requests.push_back(offset.y); });
     collection.setRoomAtEnds(0, 30);
     show(100);
     collection.scrolledTo({0, 4830}); // the end, with its room
