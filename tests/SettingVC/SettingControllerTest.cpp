@@ -69,10 +69,11 @@ TEST_F(SettingsTest, RowsAndApplicationsAreAsTallAsTheScreenSays) {
     EXPECT_NEAR(screen.rowsOf(1).cellForItem(1)->frame().height, 844 / 16.917, 1e-9);
     const ui::Rect third = screen.rowsOf(0).cellForItem(2)->frame();
     const double width = screen.rowsOf(0).bounds().width * 0.7;
-    EXPECT_EQ(third.origin(), (ui::Point{width, 0}));
-    EXPECT_EQ(third.width, width);
+    EXPECT_NEAR(third.x, width, 1e-9);
+    EXPECT_EQ(third.y, 0);
+    EXPECT_NEAR(third.width, width, 1e-9);
     EXPECT_NEAR(third.height, 844 / 5.64 / 2, 1e-9);
-    EXPECT_EQ(screen.rowsOf(0).contentSize().width, 9 * width);
+    EXPECT_NEAR(screen.rowsOf(0).contentSize().width, 9 * width, 1e-9);
     const double formerEnd = screen.rowsOf(3).frame().maxY();
     program.screen.resize({390, 640}, 1);
     EXPECT_EQ(screen.rowsOf(1).cellForItem(1)->frame().height, 44) << "a finger still finds it";
