@@ -4,6 +4,7 @@
 #include "AddEventVC/EventDateAndTimeViewController.h"
 #include "Interface/AlertController.h"
 #include "SelectValueVC/TableViewController.h"
+#include "Support/LocalizationVariables.h"
 #include "support/Program.h"
 #include "support/Wizard.h"
 
@@ -169,7 +170,12 @@ TEST_F(ReminderStepTest, DeniedTheSwitchEndsOffWhicheverWayItWasTurned) {
             turnSwitch(step);
             auto& alert = program.top<ui::AlertController>();
             EXPECT_EQ(alert.title(), "Notifications Permission");
+            EXPECT_EQ(alert.message(),
+                      "In order to send reminders, the app needs to have a permission for that. "
+                      "Please go to the Settings and enable it");
             ASSERT_EQ(alert.actions().size(), 2U);
+            EXPECT_EQ(alert.actions()[0].title, program.services().localizationVariables().alertNo);
+            EXPECT_EQ(alert.actions()[1].title, program.services().localizationVariables().alertYes);
             EXPECT_EQ(alert.actions()[0].style, ui::AlertActionStyle::Destructive);
             EXPECT_EQ(alert.actions()[1].style, ui::AlertActionStyle::Default);
             alert.choose(answer);

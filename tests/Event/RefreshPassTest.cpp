@@ -156,6 +156,19 @@ TEST_F(RefreshPassTest, ARollCarriesTheReminderAlongUnderTheSameIdentifier) {
     EXPECT_THAT(console.lines(), ElementsAre("уведомление создано", "уведомление создано"));
 }
 
+TEST_F(RefreshPassTest, AnUnknownRepeatStandsStillAndHasItsReminderMadeAnewInEachPass) {
+    auto item = event("13 January 2027", "9:00 AM", 6);
+    item.alertReminder = 1;
+    const auto id = add(item);
+    for (int time = 0; time < 2; ++time) {
+        refresh();
+        EXPECT_EQ(date(id), "13 January 2027");
+        EXPECT_TRUE(isFuture(id));
+        EXPECT_EQ(reminderOf(id), (DateComponents{2027, 1, 13, 8, 55, {}}));
+        EXPECT_THAT(console.take(), ElementsAre("уведомление создано"));
+    }
+}
+
 TEST_F(RefreshPassTest, AnEventThatMovesToPastRemindsByItsRepeatFromTheSamePassOn) {
     auto item = event("15 January 2027", "2:00 AM");
     item.alertReminder = 0;

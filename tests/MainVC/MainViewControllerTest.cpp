@@ -13,6 +13,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 namespace tessivo {
 namespace {
 
@@ -106,6 +108,28 @@ TEST_F(ListTest, TheTickComesAtTheWholeMinuteAndThenEachMinute) {
     program.timeline.advance(Seconds(60));
     EXPECT_EQ(future.numberOfObjectsInSection, 0);
     EXPECT_EQ(list(ListType::Past).numberOfObjectsInSection, 2);
+}
+
+// A daily event of long ago gains a day with each tick, so it counts them.
+TEST_F(ListTest, EachAppearanceStartsATickMoreAndNoneStops) {
+    auto daily = event("daily", "01 January 2020");
+    daily.repEvent = 1;
+    store(daily);
+    const auto ticksOfTheNextMinute = [&] {
+        program.timeline.advance(Seconds(0.1));
+        const auto passes = [&] {
+            const auto text = program.services().coreDataStack().fetchEvents().front()->dateEvent();
+            return program.dateFormatters.make("dd MMMM yyyy")->date(*text).value();
+        };
+        const auto before = passes();
+        program.timeline.advance(Seconds(60));
+        return std::lround((passes() - before) / Seconds(86400));
+    };
+    const auto few = ticksOfTheNextMinute();
+    list(ListType::Past);
+    list(ListType::Future);
+    EXPECT_EQ(ticksOfTheNextMinute(), few + 2);
+    EXPECT_EQ(ticksOfTheNextMinute(), few + 2);
 }
 
 TEST_F(ListTest, ACoveredListGoesOnTicking) {

@@ -27,6 +27,7 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <fstream>
 #include <future>
 #include <memory>
 
@@ -116,30 +117,79 @@ int activated(sd_bus_message* call, void* data, sd_bus_error*) {
     return sd_bus_reply_method_return(call, nullptr);
 }
 
-TEST_F(RemindersEndToEndTest, AClickOpensTheProgram) {
-    static const sd_bus_vtable program[] = {
-        SD_BUS_VTABLE_START(0),
-        SD_BUS_METHOD("ActivateAction", "sava{sv}", "", activated, SD_BUS_VTABLE_UNPRIVILEGED),
-        SD_BUS_VTABLE_END};
-    auto loop = EventLoop::make();
-    ASSERT_TRUE(loop);
-    auto bus = SessionBus::open(loop.value());
-    ASSERT_TRUE(bus) << bus.error().description;
-    std::string opened;
-    ASSERT_GE(sd_bus_add_object_vtable(bus.value().handle(), nullptr, applicationPath,
-                                       "org.freedesktop.Application", program, &opened),
-              0);
-    ASSERT_GE(sd_bus_request_name(bus.value().handle(), applicationId, 0), 0);
+/// Stands in for the program: takes its place on the bus and notes what it is asked for.
+class StandInProgram {
+public:
+    StandInProgram() {
+        static const sd_bus_vtable program[] = {
+            SD_BUS_VTABLE_START(0),
+            SD_BUS_METHOD("ActivateAction", "sava{sv}", "", activated, SD_BUS_VTABLE_UNPRIVILEGED),
+            SD_BUS_VTABLE_END};
+        EXPECT_GE(sd_bus_add_object_vtable(bus_.value().handle(), nullptr, applicationPath,
+                                           "org.freedesktop.Application", program, &asked_),
+                  0);
+        EXPECT_GE(sd_bus_request_name(bus_.value().handle(), applicationId, 0), 0);
+    }
 
+    [[nodiscard]] bool isAskedFor(const std::string& what) {
+        return eventually([&] {
+            sd_event_run(loop_.value().handle(), 0);
+            return asked_ == what;
+        });
+    }
+
+private:
+    Result<EventLoop> loop_ = EventLoop::make();
+    Result<SessionBus> bus_ = SessionBus::open(loop_.value());
+    std::string asked_;
+};
+
+TEST_F(RemindersEndToEndTest, AClickOpensTheProgram) {
+    StandInProgram program;
     session->startDaemon();
     startHelper();
     ASSERT_EQ(add("Click", "me", 1), std::nullopt);
     ASSERT_TRUE(eventually([&] { return queue->pending().value()->empty(); }));
     (void)outputOf({"dunstctl", "action", "0"});
-    EXPECT_TRUE(eventually([&] {
-        sd_event_run(loop.value().handle(), 0);
-        return opened == "show-event Click";
-    }));
+    EXPECT_TRUE(program.isAskedFor("show-event Click"));
+}
+
+TEST_F(RemindersEndToEndTest, WhereNothingIsInstalledAClickStartsTheProgramByItsPath) {
+    const auto copy = session->folder() / "tessivo-reminders";
+    std::filesystem::copy(TESSIVO_HELPER, copy);
+    const auto started = session->folder() / "started";
+    std::ofstream(session->folder() / "tessivo") << "#!/bin/sh\ntouch '" << started.string() << "'\n";
+    std::filesystem::permissions(session->folder() / "tessivo", std::filesystem::perms::owner_all);
+    session->startDaemon();
+    helper = Process({copy});
+    ASSERT_TRUE(eventually([] { return PrivateSession::isOnBus(remindersName); }));
+    ASSERT_EQ(add("Click", "me", 1), std::nullopt);
+    ASSERT_TRUE(eventually([&] { return queue->pending().value()->empty(); }));
+    (void)outputOf({"dunstctl", "action", "0"});
+    EXPECT_TRUE(eventually([&] { return std::filesystem::exists(started); }));
+    EXPECT_TRUE(StandInProgram().isAskedFor("show-event Click"));
+}
+
+// The helper sees an /etc of its own, whose time zone the test can change.
+TEST_F(RemindersEndToEndTest, ANewTimeZoneOfTheDeviceIsHeardOf) {
+    if (outputOf({"unshare", "--mount", "echo", "possible"}).empty())
+        GTEST_SKIP() << "This machine gives processes no file tree of their own";
+    const auto etc = session->folder() / "etc";
+    std::filesystem::create_directory(etc);
+    std::filesystem::create_symlink("/usr/share/zoneinfo/UTC", etc / "localtime");
+    session->startDaemon();
+    helper = Process(
+        {"unshare", "--mount", "sh", "-c", "mount --bind \"$0\" /etc && exec \"$1\"", etc, TESSIVO_HELPER});
+    ASSERT_TRUE(eventually([] { return PrivateSession::isOnBus(remindersName); }));
+    const IcuCalendar inUtc(queueLocale, "UTC");
+    const auto inTwoHours = inUtc.components(clock.now() + Seconds(7200));
+    sqlite::SqliteNotificationQueue other(reminderQueueFile(), console);
+    ASSERT_EQ(other.add({"a", {"Landed", "in Tokyo", true}, {inTwoHours, false}}), std::nullopt);
+    tellReminderHelper();
+    EXPECT_FALSE(session->hasShown("Landed", "in Tokyo"));
+    std::filesystem::create_symlink("/usr/share/zoneinfo/Asia/Tokyo", etc / "new");
+    std::filesystem::rename(etc / "new", etc / "localtime");
+    EXPECT_TRUE(arrives("Landed", "in Tokyo"));
 }
 
 TEST_F(RemindersEndToEndTest, ASecondHelperLeavesTheFirstAlone) {
