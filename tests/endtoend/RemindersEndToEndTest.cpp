@@ -155,11 +155,13 @@ TEST_F(RemindersEndToEndTest, AClickOpensTheProgram) {
 }
 
 TEST_F(RemindersEndToEndTest, WhereNothingIsInstalledAClickStartsTheProgramByItsPath) {
-    const auto copy = session->folder() / "tessivo-reminders";
+    const auto programs = session->folder() / "programs";
+    std::filesystem::create_directory(programs);
+    const auto copy = programs / "tessivo-reminders";
     std::filesystem::copy(TESSIVO_HELPER, copy);
     const auto started = session->folder() / "started";
-    std::ofstream(session->folder() / "tessivo") << "#!/bin/sh\ntouch '" << started.string() << "'\n";
-    std::filesystem::permissions(session->folder() / "tessivo", std::filesystem::perms::owner_all);
+    std::ofstream(programs / "tessivo") << "#!/bin/sh\ntouch '" << started.string() << "'\n";
+    std::filesystem::permissions(programs / "tessivo", std::filesystem::perms::owner_all);
     session->startDaemon();
     helper = Process({copy});
     ASSERT_TRUE(eventually([] { return PrivateSession::isOnBus(remindersName); }));
