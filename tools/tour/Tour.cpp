@@ -15,6 +15,7 @@
 #include <QImage>
 #include <QQuickWindow>
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 
@@ -67,7 +68,7 @@ void Tour::takeFirstTour() {
     picture("tour-1");
     const bool reversed = QGuiApplication::layoutDirection() == Qt::RightToLeft;
     const double middle = stage_.size.width() / 2.0;
-    const double reach = reversed ? -120 : 120;
+    const double reach = (reversed ? -0.4 : 0.4) * std::min(stage_.size.width(), 490);
     hand_.drag({middle + reach, 200}, {middle - reach, 200});
     picture("tour-2-by-finger");
     hand_.press(reversed ? Qt::Key_Right : Qt::Key_Left);
@@ -88,7 +89,9 @@ void Tour::useSettings() {
     hand_.tap(QString::fromStdString(options.cellForItem(2)->accessibilityName()));
     picture("event-size-large");
     hand_.tap(nameOf("prevButton"));
-    hand_.press(Qt::Key_Tab);
+    hand_.tap(nameOfRow("feedback", 1));
+    picture("default-screen");
+    hand_.press(Qt::Key_Escape);
     hand_.press(Qt::Key_Tab);
     picture("settings-by-keyboard");
     hand_.tap(nameOf("doneButton"));

@@ -59,7 +59,7 @@ SettingList {
                 spacing: 0
             }
         }
-        FocusRing { target: ground; visible: app.activeFocus && Theme.keysInUse; radius: ground.radius + 3; anchors.margins: -2 }
+        FocusRing { target: ground; visible: app.activeFocus && Theme.keysInUse; radius: ground.radius + 3; anchors.margins: 2 }
     }
 
     // Scrolls until the whole of an item is seen.
