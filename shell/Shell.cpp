@@ -7,13 +7,27 @@
 #include "bridge/ShadowProvider.h"
 #include "bridge/WindowItem.h"
 
+#include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
+#include <QScreen>
 
 // Made by the build: makes the bridge's types known to QML, which a static library does not do by itself.
 extern void qml_register_types_Tessivo(); // NOLINT(readability-identifier-naming)
 
 namespace tessivo::shell {
+
+namespace {
+
+constexpr int frameHeight = 40; // of the title bar that a desktop adds
+
+/// What the display has for a window's content, beside its panels and the window's frame.
+QSizeF roomForWindow() {
+    const QSize available = QGuiApplication::primaryScreen()->availableSize();
+    return available - QSize(0, frameHeight);
+}
+
+} // namespace
 
 struct Shell::Parts {
     Parts(ui::PresentationStack& stack, const NamedColors& colors, Console& console,
@@ -38,7 +52,8 @@ void Shell::open() {
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
     engine.addImageProvider(QStringLiteral("shadow"), new ShadowProvider);
-    engine.setInitialProperties({{QStringLiteral("item"), QVariant::fromValue(&parts_->window)}});
+    engine.setInitialProperties({{QStringLiteral("item"), QVariant::fromValue(&parts_->window)},
+                                 {QStringLiteral("room"), roomForWindow()}});
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tessivo/Main.qml")));
     if (!window())
         parts_->context.console.stopProgram("The window cannot be drawn.");

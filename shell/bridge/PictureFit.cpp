@@ -5,12 +5,6 @@
 #include <QPainter>
 
 namespace tessivo::shell {
-namespace {
-
-constexpr double scrimReach = 36; // points
-
-} // namespace
-
 QRectF fitted(QSizeF picture, const QRectF& area, ui::ContentMode mode) {
     QSizeF size = picture;
     switch (mode) {
@@ -43,10 +37,10 @@ QImage cardPicture(const QImage& picture, QSizeF size, double scale, double radi
     picturePainter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
     picturePainter.drawImage(fitted(picture.size(), area, mode), picture);
     picturePainter.end();
-    for (const QRectF& text : texts) {
-        const QRectF pixels(text.topLeft() * scale, text.size() * scale);
-        shadeBehindText(card, pixels, scrimReach * scale);
-    }
+    const auto pixels = [scale](const QRectF& text) {
+        return QRectF(text.topLeft() * scale, text.size() * scale);
+    };
+    shadeBehindTexts(card, {pixels(texts[0]), pixels(texts[1])});
 
     QImage shape(card.size(), QImage::Format_ARGB32_Premultiplied);
     shape.setDevicePixelRatio(scale);

@@ -9,6 +9,8 @@ namespace {
 
 constexpr double brightestForWhiteText = 0.466; // of grey, 0 to 1: the contrast to white is 4.5
 constexpr double ignoredShare = 0.02;           // of the pixels: glints that no letter hides in
+constexpr double reachAcross = 0.45;            // of the picture's width: where a scrim has faded
+constexpr double reachDown = 0.27;              // of its height
 
 /// The grey, 0 to 255, that is as bright as the color.
 int greyOf(int red, int green, int blue) {
@@ -50,6 +52,39 @@ int outside(int at, int first, int last) {
     return std::max({first - at, at - last, 0});
 }
 
+/// A shade over a corner or an edge of the picture.
+struct Scrim {
+    QRect solid;
+    double strength = 0;
+    double reachAcross = 1; ///< in pixels, until it has faded
+    double reachDown = 1;
+
+    [[nodiscard]] double at(int column, int row) const {
+        if (strength == 0)
+            return 0;
+        const double across = outside(column, solid.left(), solid.right()) / reachAcross;
+        const double down = outside(row, solid.top(), solid.bottom()) / reachDown;
+        const double near = std::max(0.0, 1 - std::hypot(across, down));
+        return strength * near * near * (3 - 2 * near);
+    }
+};
+
+Scrim scrimBehind(const QRectF& text, const QImage& picture) {
+    QRect solid = text.toAlignedRect() & picture.rect();
+    if (solid.isEmpty())
+        return {};
+    const double bright = brightest(picture, solid);
+    if (bright <= brightestForWhiteText)
+        return {};
+    const QRect whole = picture.rect();
+    const bool upper = solid.center().y() < whole.center().y();
+    const bool left = solid.left() - whole.left() < whole.right() - solid.right();
+    upper ? solid.setTop(whole.top()) : solid.setBottom(whole.bottom());
+    left ? solid.setLeft(whole.left()) : solid.setRight(whole.right());
+    return {solid, 1 - brightestForWhiteText / bright, reachAcross * whole.width(),
+            reachDown * whole.height()};
+}
+
 QRgb shaded(QRgb pixel, double kept) {
     const auto part = [kept](int channel) { return static_cast<int>(std::lround(channel * kept)); };
     return qRgba(part(qRed(pixel)), part(qGreen(pixel)), part(qBlue(pixel)), qAlpha(pixel));
@@ -57,23 +92,16 @@ QRgb shaded(QRgb pixel, double kept) {
 
 } // namespace
 
-void shadeBehindText(QImage& picture, const QRectF& text, double reach) {
-    const QRect under = text.toAlignedRect() & picture.rect();
-    if (under.isEmpty())
+void shadeBehindTexts(QImage& picture, const std::array<QRectF, 2>& texts) {
+    const std::array scrims{scrimBehind(texts[0], picture), scrimBehind(texts[1], picture)};
+    if (scrims[0].strength == 0 && scrims[1].strength == 0)
         return;
-    const double bright = brightest(picture, under);
-    if (bright <= brightestForWhiteText)
-        return;
-    const double strength = 1 - brightestForWhiteText / bright;
-    const int edge = static_cast<int>(reach);
-    const QRect reached = under.adjusted(-edge, -edge, edge, edge) & picture.rect();
-    for (int row = reached.top(); row <= reached.bottom(); ++row) {
+    for (int row = 0; row < picture.height(); ++row) {
         auto* line = reinterpret_cast<QRgb*>(picture.scanLine(row));
-        const int down = outside(row, under.top(), under.bottom());
-        for (int column = reached.left(); column <= reached.right(); ++column) {
-            const int across = outside(column, under.left(), under.right());
-            const double near = std::max(0.0, 1 - std::hypot(across, down) / reach);
-            line[column] = shaded(line[column], 1 - strength * near * near * (3 - 2 * near));
+        for (int column = 0; column < picture.width(); ++column) {
+            const double shade = std::max(scrims[0].at(column, row), scrims[1].at(column, row));
+            if (shade > 0)
+                line[column] = shaded(line[column], 1 - shade);
         }
     }
 }

@@ -3,11 +3,14 @@
 #include <QImage>
 #include <QRectF>
 
+#include <array>
+
 namespace tessivo::shell {
 
-/// Shades the pixels under `text`, and a soft edge of `reach` pixels around them, just as far as the
-/// brightest of them need for white text to stay readable. All others keep their color, as do pixels that are
-/// dark enough. For premultiplied pixels.
-void shadeBehindText(QImage& picture, const QRectF& text, double reach);
+/// Shades the picture behind `texts`, in pixels, just as far as the brightest pixels there need for white
+/// text to stay readable: from the text to the edges that it stands at, and fading towards the middle, so
+/// that no outline is seen. All others keep their color, as do pixels that are dark enough. For premultiplied
+/// pixels.
+void shadeBehindTexts(QImage& picture, const std::array<QRectF, 2>& texts);
 
 } // namespace tessivo::shell

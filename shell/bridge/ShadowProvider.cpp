@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace tessivo::shell {
 namespace {
 
@@ -16,11 +18,13 @@ constexpr QSizeF middle(2, 8);
 QImage ShadowProvider::requestImage(const QString& id, QSize* size, const QSize&) {
     const double radius = id.section(u'/', 0, 0).toDouble();
     const double strength = id.section(u'/', 1, 1).toDouble();
+    const double scale = std::max(1.0, id.section(u'/', 2, 2).toDouble());
     const QSizeF under(2 * radius + middle.width(), 2 * radius + middle.height());
-    QImage image(QSizeF(under.width() + 2 * reach, under.height() + 2 * reach).toSize(),
-                 QImage::Format_ARGB32_Premultiplied);
+    const QSizeF points(under.width() + 2 * reach, under.height() + 2 * reach);
+    QImage image((points * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
+    painter.scale(image.width() / points.width(), image.height() / points.height());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor::fromRgbF(0.07F, 0.09F, 0.18F, static_cast<float>(strength)));

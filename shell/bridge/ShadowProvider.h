@@ -4,7 +4,8 @@
 
 namespace tessivo::shell {
 
-/// Soft shadows under rounded rectangles, by radius and strength: "image://shadow/16/0.022". Only corners and
+/// Soft shadows under rounded rectangles, by radius, strength and pixels in a point:
+/// "image://shadow/16/0.022/2". Only corners and
 /// a little between them: a shadow of any size is stretched from it, and shadows of a kind share one.
 class ShadowProvider final : public QQuickImageProvider {
 public:

@@ -6,15 +6,23 @@ Window {
     id: window
 
     required property WindowItem item
+    required property size room // of the display that it opens on, for the window's content
 
-    width: 390
-    height: 844
-    minimumWidth: 360
-    minimumHeight: 560
+    width: Math.min(390, room.width)
+    height: Math.min(844, room.height)
+    minimumWidth: Math.min(360, room.width)
+    minimumHeight: Math.min(560, room.height)
     visible: true
     title: "Tessivo"
     color: Theme.backdrop
 
+    Rectangle { // what a sheet dims of the screen, it dims of the backdrop beside it
+        anchors.fill: parent
+        color: "black"
+        readonly property ScreenItem top: (screens.itemAt(screens.count - 1) as ScreenLoader)?.screen ?? null
+        opacity: top && top.kind !== ScreenItem.Full ? 0.32 : 0
+        Behavior on opacity { NumberAnimation { duration: Theme.calm } }
+    }
     Item {
         id: stage
 
@@ -41,6 +49,7 @@ Window {
             }
         }
         Repeater {
+            id: screens
             model: window.item.stack
             delegate: ScreenLoader {
                 required property int index

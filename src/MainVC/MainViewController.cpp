@@ -7,6 +7,7 @@
 #include "Ports/Calendar.h"
 #include "Ports/Clock.h"
 #include "Ports/Console.h"
+#include "Ports/LocalizedTexts.h"
 #include "Ports/Timers.h"
 #include "Support/CardSize.h"
 #include "Support/LocalizationVariables.h"
@@ -41,10 +42,12 @@ void MainViewController::viewDidLoad() {
     settingButton.setImageName("gearshapeFill");
     settingButton.setAccessibilityName(texts().setting);
     settingButton.addTarget(ui::PressEvent::UpInside, [this] { settingButtonTapped(); });
-    mainlabel.setFont({screen().isLarge() ? 25.0 : 17.0, ui::FontWeight::Regular});
-    mainlabel.setTextColor(ui::ColorRef::named("disabled"));
-    mainlabel.setAlignment(ui::TextAlignment::Center);
-    mainlabel.setNumberOfLines(2);
+    for (ui::Label* label : {&mainlabel, &hintLabel}) {
+        label->setTextColor(ui::ColorRef::named("disabled"));
+        label->setAlignment(ui::TextAlignment::Center);
+        label->setNumberOfLines(2);
+    }
+    setFonts();
     mainlabel.setText(texts().addEvent);
     collection.setBackgroundColor(ui::ColorRef::named("mainBack"));
     collection.registerCell(reuseIdentifier,
@@ -56,6 +59,7 @@ void MainViewController::viewDidLoad() {
     view().addSubview(titleLabel);
     view().addSubview(settingButton);
     view().addSubview(mainlabel);
+    view().addSubview(hintLabel);
     if (auto* tabs = dynamic_cast<ui::TabBarController*>(parent()))
         tabs->delegate = weakSelf<ui::TabBarControllerDelegate>(this);
 }
@@ -66,7 +70,19 @@ void MainViewController::viewWillAppear() {
 }
 
 void MainViewController::screenSizeDidChange() {
-    collection.invalidateLayout();
+    if (setFonts())
+        collection.reloadData(); // the cards' type changes too
+    else
+        collection.invalidateLayout();
+}
+
+bool MainViewController::setFonts() {
+    const double size = screen().isLarge() ? 25 : 17;
+    if (mainlabel.font().size == size)
+        return false;
+    mainlabel.setFont({size, ui::FontWeight::Regular});
+    hintLabel.setFont({screen().isLarge() ? 20.0 : 15.0, ui::FontWeight::Regular});
+    return true;
 }
 
 void MainViewController::scheduleTick() {
@@ -113,10 +129,19 @@ void MainViewController::scrollToEvent(const Uuid& id) {
 int MainViewController::numberOfItems(ui::CollectionView&) {
     EventRows rows = services().coreDataStack().fetchEvents();
     const bool future = type == ListType::Future;
+    const auto fetched = rows.size();
     std::erase_if(rows, [future](const auto& row) { return row->eventType() != future; });
+    const bool othersHaveEvents = rows.size() != fetched;
     records = std::move(rows);
     numberOfObjectsInSection = static_cast<int>(records->size());
     mainlabel.setHidden(numberOfObjectsInSection != 0);
+    hintLabel.setHidden(numberOfObjectsInSection != 0);
+    const char* hint = nullptr;
+    if (othersHaveEvents)
+        hint = future ? "All your events are under Past." : "All your events are under Future.";
+    else
+        hint = future ? "What lies ahead is counted down here." : "What is over is kept here.";
+    hintLabel.setText(platform().texts.localizedString(hint));
     return numberOfObjectsInSection;
 }
 

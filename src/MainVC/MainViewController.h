@@ -43,6 +43,8 @@ public:
     ui::Label titleLabel{controls, "titleLabel"};
     ui::Button settingButton{controls, "settingButton"};
     /// Shows while the list is empty.
+    /// Under the empty-state text: what this list is for, or that the other one has events.
+    ui::Label hintLabel{controls, "hintLabel"};
     ui::Label mainlabel{controls, "mainlabel"};
 
     [[nodiscard]] std::string screenName() const override { return "MainViewController"; }
@@ -78,6 +80,8 @@ protected:
     void screenSizeDidChange() override;
 
 private:
+    /// By the screen's size; says whether they have changed.
+    bool setFonts();
     void scheduleTick();
     void timerFired();
     void refreshAndReload();

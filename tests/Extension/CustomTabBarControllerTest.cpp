@@ -42,6 +42,11 @@ TEST_F(TabShellTest, TheAddButtonStandsHalfOverTheBarByTheScreensWidth) {
     EXPECT_EQ(tabs().addButton.frame().size(), (ui::Size{100, 100}));
     EXPECT_NEAR(tabs().tabBar.frame().minY() - tabs().addButton.frame().minY(), 50, 1e-9);
     EXPECT_NEAR(tabs().addButton.frame().midX(), 293, 1e-9);
+    program.screen.resize({834, 1194}, 2);
+    EXPECT_EQ(tabs().addButton.frame().size(), (ui::Size{72, 72})) << "no larger for a larger screen";
+    const auto& cards = dynamic_cast<MainViewController&>(*tabs().selectedViewController()).collection;
+    EXPECT_EQ(cards.contentInset().bottom, 1194 - tabs().addButton.frame().minY() + 16)
+        << "the last card can be scrolled out from under it";
 }
 
 TEST_F(TabShellTest, AddingSlidesTheWizardInAndBackSlidesItOut) {

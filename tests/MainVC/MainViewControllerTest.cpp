@@ -71,9 +71,15 @@ TEST_F(ListTest, EachListShowsItsOwnEventsInTheOrderOfMaking) {
 TEST_F(ListTest, TheFirstEventHidesTheEmptyText) {
     auto& future = list(ListType::Future);
     EXPECT_FALSE(future.mainlabel.isHidden());
+    EXPECT_EQ(future.hintLabel.text(), "What lies ahead is counted down here.");
+    EXPECT_EQ(list(ListType::Past).hintLabel.text(), "What is over is kept here.");
     store(event("first", "25 June 2030"));
     future.collection.reloadData();
     EXPECT_TRUE(future.mainlabel.isHidden());
+    EXPECT_TRUE(future.hintLabel.isHidden());
+    auto& past = list(ListType::Past);
+    EXPECT_FALSE(past.hintLabel.isHidden());
+    EXPECT_EQ(past.hintLabel.text(), "All your events are under Future.");
 }
 
 TEST_F(ListTest, CardsFollowTheChosenSize) {
@@ -217,11 +223,12 @@ TEST_F(ListTest, AnEmptyTimeIsNoTime) {
 }
 
 TEST_F(ListTest, LargeScreensGetLargerType) {
-    program.screen.resize({834, 1194}, 2);
-    program.restart();
     store(event("large", "25 June 2030"));
     auto& future = list(ListType::Future);
+    program.screen.resize({834, 1194},
+                          2); // as when the window tells its size, after the first list is laid out
     EXPECT_EQ(future.mainlabel.font().size, 25);
+    EXPECT_NEAR(card(future, 0).frame().width, 834 / 1.1, 1e-9);
     const auto& runs = card(future, 0).eventInformationLabel.styledText().runs;
     EXPECT_EQ(runs[0].font, (ui::Font{30, ui::FontWeight::Semibold}));
     EXPECT_EQ(runs[1].font, (ui::Font{24, ui::FontWeight::Regular}));

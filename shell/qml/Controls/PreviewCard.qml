@@ -23,26 +23,15 @@ CardPaint {
         anchors.fill: parent
         view: card.screen.control(card.parts + "photoView") as ImageItem
         radius: card.radius
-        upperText: timeText.textArea
-        lowerText: informationText.textArea
+        upperText: texts.countArea
+        lowerText: texts.informationArea
     }
-    CardLabel {
-        id: timeText
-        label: card.timeLabel
+    CardTexts {
+        id: texts
+        anchors.fill: parent
+        count: card.timeLabel
+        information: card.informationLabel
         onPicture: picture.view.loaded
-        anchors.top: parent.top
-        anchors.right: parent.right
-        anchors.margins: 24
-        width: parent.width - 48
-    }
-    CardLabel {
-        id: informationText
-        label: card.informationLabel
-        onPicture: picture.view.loaded
-        anchors.left: parent.left
-        anchors.bottom: parent.bottom
-        anchors.margins: 24
-        width: parent.width - 48
     }
     SoftShadow { radius: card.radius }
 }

@@ -12,6 +12,7 @@ BorderImage {
     anchors.fill: parent
     anchors.margins: -reach
     z: -1
-    source: "image://shadow/" + radius + "/" + strength
+    // Drawn for the window's pixels: a picture of the provider counts as one at their ratio, borders are in points.
+    source: "image://shadow/" + [radius, strength, Screen.devicePixelRatio].join("/")
     border { left: corner; top: corner; right: corner; bottom: corner }
 }

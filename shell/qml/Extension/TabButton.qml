@@ -22,12 +22,12 @@ ButtonArea {
             anchors.horizontalCenter: parent.horizontalCenter
             name: control.selected ? control.entry.selectedImage : control.entry.image
             tint: control.tint
-            side: 26
+            side: Theme.large ? 30 : 26
         }
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             text: control.entry.title
-            font.pixelSize: 12
+            font.pixelSize: Theme.large ? 16 : 12
             font.weight: control.selected ? Font.DemiBold : Font.Medium
             color: control.tint
         }

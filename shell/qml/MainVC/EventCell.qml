@@ -68,26 +68,15 @@ CellScope {
             anchors.fill: parent
             view: card.photo
             radius: card.content.cornerRadius
-            upperText: timeText.textArea
-            lowerText: informationText.textArea
+            upperText: texts.countArea
+            lowerText: texts.informationArea
         }
-        CardLabel {
-            id: timeText
-            label: card.timeLabel
+        CardTexts {
+            id: texts
+            anchors.fill: parent
+            count: card.timeLabel
+            information: card.informationLabel
             onPicture: card.photo.loaded
-            anchors.top: parent.top
-            anchors.right: parent.right
-            anchors.margins: 24
-            width: parent.width - 48
-        }
-        CardLabel {
-            id: informationText
-            label: card.informationLabel
-            onPicture: card.photo.loaded
-            anchors.left: parent.left
-            anchors.bottom: parent.bottom
-            anchors.margins: 24
-            width: parent.width - 48
         }
         Repeater {
             model: card.cell.attached

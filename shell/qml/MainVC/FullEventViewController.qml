@@ -35,6 +35,8 @@ FocusScope {
     CardPicture {
         anchors.fill: parent
         view: page.image
+        upperText: Qt.rect(0, 0, width, 52)
+        lowerText: Qt.rect(0, words.y, width, height - words.y)
     }
     IconButton {
         button: page.prevButton
@@ -52,6 +54,7 @@ FocusScope {
         y: 12
     }
     Column {
+        id: words
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
@@ -62,6 +65,7 @@ FocusScope {
 
         PosterLabel {
             label: page.timeLabel
+            onPicture: page.image.loaded
             width: parent.width
         }
         Item {
@@ -77,6 +81,7 @@ FocusScope {
         }
         PosterLabel {
             label: page.informationLabel
+            onPicture: page.image.loaded
             width: parent.width
             upperLines: 3
             Accessible.role: Accessible.Heading

@@ -9,8 +9,8 @@ FocusScope {
     readonly property CollectionItem collection: screen.control("collection") as CollectionItem
     readonly property LabelItem titleLabel: screen.control("titleLabel") as LabelItem
     readonly property LabelItem mainlabel: screen.control("mainlabel") as LabelItem
+    readonly property LabelItem hintLabel: screen.control("hintLabel") as LabelItem
     readonly property ButtonItem settingButton: screen.control("settingButton") as ButtonItem
-    readonly property real footRoom: Math.max(64, width / 11.72 + 12) + width / 11.72 + 16
 
     focus: true
 
@@ -25,7 +25,7 @@ FocusScope {
         width: parent.width
         focus: true
         collection: list.collection
-        bottomMargin: list.footRoom
+        bottomMargin: collection.footInset
         delegate: EventCell {}
     }
     Rectangle {
@@ -67,6 +67,11 @@ FocusScope {
         }
         StyledLabel {
             label: list.mainlabel
+            width: parent.width
+            lineHeight: 1.2
+        }
+        StyledLabel {
+            label: list.hintLabel
             width: parent.width
             lineHeight: 1.2
         }

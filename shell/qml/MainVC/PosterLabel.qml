@@ -7,6 +7,7 @@ Column {
 
     required property LabelItem label
     property int upperLines: 1
+    property bool onPicture: false
 
     spacing: 2
     Accessible.role: Accessible.StaticText
@@ -23,6 +24,8 @@ Column {
             font.pixelSize: modelData.size
             font.weight: modelData.weight
             horizontalAlignment: Text.AlignLeft
+            style: column.onPicture ? Text.Raised : Text.Normal
+            styleColor: Theme.textShadow
             wrapMode: Text.Wrap
             maximumLineCount: index === 0 ? column.upperLines : 1
             elide: Text.ElideRight

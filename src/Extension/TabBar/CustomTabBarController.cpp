@@ -19,6 +19,8 @@ constexpr double leastBarHeight = 64;
 constexpr double roomUnderAddButton = 12;
 constexpr double addButtonDivisor = 5.86;
 constexpr double addButtonOffsetDivisor = 11.72;
+constexpr double largestAddButton = 72; // of a large screen: a button is no larger for a larger finger
+constexpr double roomOverAddButton = 16;
 
 } // namespace
 
@@ -50,6 +52,7 @@ void CustomTabBarController::viewWillAppear() {
                         std::make_shared<MainViewController>(services_, ListType::Future)},
                        {{"Past", "Past", "pastSelect", titleColor, {}},
                         {"Future", "Future", "futureSelect", titleColor, {}}});
+    placeBar();
     applySelectedTitleColors(tabBar);
     setSelectedIndex(static_cast<std::size_t>(*defaultScreen));
     setNavigationBarHidden(false);
@@ -66,12 +69,17 @@ void CustomTabBarController::setNavigationBarHidden(bool hidden) {
 
 void CustomTabBarController::placeBar() {
     const double width = screen().width();
-    const double size = width / addButtonDivisor;
-    const double overhang = width / addButtonOffsetDivisor;
+    const double byWidth = width / addButtonDivisor;
+    const double size = screen().isLarge() ? std::min(largestAddButton, byWidth) : byWidth;
+    const double overhang = size * addButtonDivisor / addButtonOffsetDivisor;
     const double barHeight = std::max(leastBarHeight, size - overhang + roomUnderAddButton);
     const double top = screen().height() - barHeight;
     tabBar.setFrame({0, top, width, barHeight});
     addButton.setFrame({(width - size) / 2, top - overhang, size, size});
+    for (const auto& list : viewControllers()) {
+        if (auto* cards = dynamic_cast<MainViewController*>(list.get()))
+            cards->collection.setContentInset({0, 0, barHeight + overhang + roomOverAddButton, 0});
+    }
 }
 
 void CustomTabBarController::addEvent() {
