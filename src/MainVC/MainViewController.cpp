@@ -7,7 +7,6 @@
 #include "Ports/Calendar.h"
 #include "Ports/Clock.h"
 #include "Ports/Console.h"
-#include "Ports/LocalizedTexts.h"
 #include "Ports/Timers.h"
 #include "Support/CardSize.h"
 #include "Support/LocalizationVariables.h"
@@ -141,7 +140,7 @@ int MainViewController::numberOfItems(ui::CollectionView&) {
         hint = future ? "All your events are under Past." : "All your events are under Future.";
     else
         hint = future ? "What lies ahead is counted down here." : "What is over is kept here.";
-    hintLabel.setText(platform().texts.localizedString(hint));
+    hintLabel.setText(localized(hint));
     return numberOfObjectsInSection;
 }
 

@@ -22,8 +22,19 @@ std::string contentsOf(const std::string& language, const std::string& folder = 
 }
 
 /// What screens look up under its English words.
-constexpr const char* wordsOfTheirOwn[] = {"Small", "Medium",  "Large",    "Past",          "Future",
-                                           "Back",  "General", "Feedback", "Help and Legal"};
+constexpr const char* wordsOfTheirOwn[] = {"Small",
+                                           "Medium",
+                                           "Large",
+                                           "Past",
+                                           "Future",
+                                           "Back",
+                                           "General",
+                                           "Feedback",
+                                           "Help and Legal",
+                                           "What lies ahead is counted down here.",
+                                           "What is over is kept here.",
+                                           "All your events are under Past.",
+                                           "All your events are under Future."};
 
 /// Notes the keys that are asked for, and answers with the key in brackets.
 class AskedKeys final : public LocalizedTexts {
