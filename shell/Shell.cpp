@@ -4,7 +4,6 @@
 #include "bridge/BridgeContext.h"
 #include "bridge/IconProvider.h"
 #include "bridge/Pressable.h"
-#include "bridge/ShadowProvider.h"
 #include "bridge/WindowItem.h"
 
 #include <QGuiApplication>
@@ -51,7 +50,6 @@ void Shell::open() {
     Pressable::makeAccessible();
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
-    engine.addImageProvider(QStringLiteral("shadow"), new ShadowProvider);
     engine.setInitialProperties({{QStringLiteral("item"), QVariant::fromValue(&parts_->window)},
                                  {QStringLiteral("room"), roomForWindow()}});
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Tessivo/Main.qml")));

@@ -9,8 +9,7 @@ namespace {
 
 constexpr double brightestForWhiteText = 0.466; // of grey, 0 to 1: the contrast to white is 4.5
 constexpr double ignoredShare = 0.02;           // of the pixels: glints that no letter hides in
-constexpr double reachAcross = 0.45;            // of the picture's width: where a scrim has faded
-constexpr double reachDown = 0.27;              // of its height
+constexpr double reachOfScrim = 0.22;           // of the height: where it has faded, beyond its text
 
 /// The grey, 0 to 255, that is as bright as the color.
 int greyOf(int red, int green, int blue) {
@@ -52,37 +51,30 @@ int outside(int at, int first, int last) {
     return std::max({first - at, at - last, 0});
 }
 
-/// A shade over a corner or an edge of the picture.
+/// A shade over the picture's whole width.
 struct Scrim {
-    QRect solid;
+    int first = 0; ///< of the rows that are wholly shaded
+    int last = 0;
     double strength = 0;
-    double reachAcross = 1; ///< in pixels, until it has faded
-    double reachDown = 1;
 
-    [[nodiscard]] double at(int column, int row) const {
-        if (strength == 0)
-            return 0;
-        const double across = outside(column, solid.left(), solid.right()) / reachAcross;
-        const double down = outside(row, solid.top(), solid.bottom()) / reachDown;
-        const double near = std::max(0.0, 1 - std::hypot(across, down));
+    /// What it takes of a row's light.
+    [[nodiscard]] double at(int row, double reach) const {
+        const double near = std::max(0.0, 1 - outside(row, first, last) / reach);
         return strength * near * near * (3 - 2 * near);
     }
 };
 
 Scrim scrimBehind(const QRectF& text, const QImage& picture) {
-    QRect solid = text.toAlignedRect() & picture.rect();
-    if (solid.isEmpty())
+    const QRect under = text.toAlignedRect() & picture.rect();
+    if (under.isEmpty())
         return {};
-    const double bright = brightest(picture, solid);
+    const double bright = brightest(picture, under);
     if (bright <= brightestForWhiteText)
         return {};
-    const QRect whole = picture.rect();
-    const bool upper = solid.center().y() < whole.center().y();
-    const bool left = solid.left() - whole.left() < whole.right() - solid.right();
-    upper ? solid.setTop(whole.top()) : solid.setBottom(whole.bottom());
-    left ? solid.setLeft(whole.left()) : solid.setRight(whole.right());
-    return {solid, 1 - brightestForWhiteText / bright, reachAcross * whole.width(),
-            reachDown * whole.height()};
+    const double strength = 1 - brightestForWhiteText / bright;
+    if (2 * under.center().y() < picture.height())
+        return {0, under.bottom(), strength};
+    return {under.top(), picture.height() - 1, strength};
 }
 
 QRgb shaded(QRgb pixel, double kept) {
@@ -94,15 +86,14 @@ QRgb shaded(QRgb pixel, double kept) {
 
 void shadeBehindTexts(QImage& picture, const std::array<QRectF, 2>& texts) {
     const std::array scrims{scrimBehind(texts[0], picture), scrimBehind(texts[1], picture)};
-    if (scrims[0].strength == 0 && scrims[1].strength == 0)
-        return;
+    const double reach = reachOfScrim * picture.height();
     for (int row = 0; row < picture.height(); ++row) {
+        const double shade = std::max(scrims[0].at(row, reach), scrims[1].at(row, reach));
+        if (shade == 0)
+            continue;
         auto* line = reinterpret_cast<QRgb*>(picture.scanLine(row));
-        for (int column = 0; column < picture.width(); ++column) {
-            const double shade = std::max(scrims[0].at(column, row), scrims[1].at(column, row));
-            if (shade > 0)
-                line[column] = shaded(line[column], 1 - shade);
-        }
+        std::transform(line, line + picture.width(), line,
+                       [shade](QRgb pixel) { return shaded(pixel, 1 - shade); });
     }
 }
 
