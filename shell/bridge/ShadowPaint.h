@@ -5,8 +5,8 @@
 
 namespace tessivo::shell {
 
-/// A soft shadow under a rounded rectangle, which lies `reach` points within this item at each side. Drawn for
-/// the window's pixels, once for each size.
+/// A soft shadow under a rounded rectangle, which lies `reach` points within this item at each side. Drawn
+/// for the window's pixels, once for each size.
 class ShadowPaint : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

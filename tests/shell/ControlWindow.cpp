@@ -2,7 +2,6 @@
 
 #include "bridge/IconProvider.h"
 #include "bridge/Pressable.h"
-#include "bridge/ShadowProvider.h"
 
 #include <QQmlComponent>
 
@@ -15,7 +14,6 @@ ControlWindow::ControlWindow() {
     shell::Pressable::makeAccessible();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine_.addImageProvider(QStringLiteral("icon"), new shell::IconProvider);
-    engine_.addImageProvider(QStringLiteral("shadow"), new shell::ShadowProvider);
     window.resize(390, 700);
     window.show();
     window.requestActivate();
