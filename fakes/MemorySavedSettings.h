@@ -20,6 +20,11 @@ public:
     void setBoolean(std::string_view key, bool value) override { set(key, value); }
     void setText(std::string_view key, std::string_view value) override { set(key, std::string(value)); }
 
+    void remove(std::string_view key) override {
+        if (const auto found = values_.find(key); found != values_.end())
+            values_.erase(found);
+    }
+
 private:
     using Value = std::variant<long, bool, std::string>;
 

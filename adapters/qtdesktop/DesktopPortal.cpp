@@ -16,6 +16,8 @@ namespace tessivo::desktop {
 namespace {
 
 constexpr const char* noParentWindow = "";
+constexpr const char* mailInterface = "org.freedesktop.portal.Email";
+constexpr int patience = 1000; // milliseconds
 
 QDBusUnixFileDescriptor opened(const QString& path) {
     const int file = ::open(path.toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC);
@@ -39,11 +41,20 @@ void DesktopPortal::openFile(const QString& path, Answered answered) {
          {{QStringLiteral("ask"), true}}, withoutResults(std::move(answered)));
 }
 
-void DesktopPortal::composeMail(const QString& attachment, Answered answered) {
-    qDBusRegisterMetaType<QList<QDBusUnixFileDescriptor>>();
-    const QList<QDBusUnixFileDescriptor> attachments{opened(attachment)};
-    call("org.freedesktop.portal.Email", "ComposeEmail", {QString::fromLatin1(noParentWindow)},
-         {{QStringLiteral("attachment_fds"), QVariant::fromValue(attachments)}},
+void DesktopPortal::composeMail(const Mail& mail, Answered answered) {
+    QVariantMap options;
+    if (!mail.recipient.isEmpty())
+        options.insert(QStringLiteral("addresses"), QStringList{mail.recipient});
+    if (!mail.subject.isEmpty())
+        options.insert(QStringLiteral("subject"), mail.subject);
+    if (!mail.body.isEmpty())
+        options.insert(QStringLiteral("body"), mail.body);
+    if (!mail.attachment.isEmpty()) {
+        qDBusRegisterMetaType<QList<QDBusUnixFileDescriptor>>();
+        options.insert(QStringLiteral("attachment_fds"),
+                       QVariant::fromValue(QList<QDBusUnixFileDescriptor>{opened(mail.attachment)}));
+    }
+    call(mailInterface, "ComposeEmail", {QString::fromLatin1(noParentWindow)}, std::move(options),
          withoutResults(std::move(answered)));
 }
 
@@ -54,6 +65,16 @@ void DesktopPortal::startAtLogin(const QString& reason, const QStringList& comma
           {QStringLiteral("commandline"), command},
           {QStringLiteral("dbus-activatable"), false}},
          withoutResults(std::move(answered)));
+}
+
+bool DesktopPortal::canComposeMail() const {
+    if (!bus_.isConnected())
+        return false;
+    auto question = QDBusMessage::createMethodCall(
+        QString::fromLatin1(portalName), QString::fromLatin1(portalPath),
+        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    question.setArguments({QString::fromLatin1(mailInterface), QStringLiteral("version")});
+    return bus_.call(question, QDBus::Block, patience).type() == QDBusMessage::ReplyMessage;
 }
 
 QObject* DesktopPortal::chooseFile(const QString& title, const QString& kind, const QStringList& mediaTypes,

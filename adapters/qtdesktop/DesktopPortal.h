@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QObject>
+#include <QString>
 #include <QStringList>
 
 #include <functional>
@@ -24,11 +25,20 @@ public:
 
     /// Lets the user choose the program that opens the file.
     void openFile(const QString& path, Answered answered);
-    /// Begins a mail with the file attached.
-    void composeMail(const QString& attachment, Answered answered);
     /// Asks that `command`, a program of this sandbox, be started at each login, and gives the user `reason`
     /// for it. Outside a sandbox an autostart entry does that.
     void startAtLogin(const QString& reason, const QStringList& command, Answered answered);
+    /// What a mail begins with; what is empty is left to the user.
+    struct Mail {
+        QString recipient{};
+        QString subject{};
+        QString body{};       ///< plain text
+        QString attachment{}; ///< path of a file
+    };
+    /// Begins a mail in the user's mail program.
+    void composeMail(const Mail& mail, Answered answered);
+    /// Whether a portal answers that begins mails. Waits for its answer.
+    [[nodiscard]] bool canComposeMail() const;
     /// Lets the user choose a file of these media types. The question is closed, unanswered, when what comes
     /// back is deleted; it deletes itself once it is answered.
     QObject* chooseFile(const QString& title, const QString& kind, const QStringList& mediaTypes,

@@ -8,7 +8,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
-#include <QProcess>
 
 #include <utility>
 
@@ -58,19 +57,19 @@ void QtPictureSharing::open(std::shared_ptr<const Bitmap> picture, Done done) {
             if (answer == desktop::DesktopPortal::Answer::Done)
                 done(std::nullopt);
             else
-                run(QStringLiteral("xdg-open"), {path}, "No program opened the picture.", done);
+                programs_.run(QStringLiteral("xdg-open"), {path}, "No program opened the picture.", done);
         });
     });
 }
 
 void QtPictureSharing::mail(std::shared_ptr<const Bitmap> picture, Done done) {
     lend(std::move(picture), done, [this, done](const QString& path) {
-        portal_.composeMail(path, [this, path, done](desktop::DesktopPortal::Answer answer) {
+        portal_.composeMail({.attachment = path}, [this, path, done](desktop::DesktopPortal::Answer answer) {
             if (answer == desktop::DesktopPortal::Answer::Done)
                 done(std::nullopt);
             else
-                run(QStringLiteral("xdg-email"), {QStringLiteral("--attach"), path},
-                    "No mail program took the picture.", done);
+                programs_.run(QStringLiteral("xdg-email"), {QStringLiteral("--attach"), path},
+                              "No mail program took the picture.", done);
         });
     });
 }
@@ -97,26 +96,6 @@ void QtPictureSharing::lend(std::shared_ptr<const Bitmap> picture, Done done,
               else
                   done(written.error());
           });
-}
-
-void QtPictureSharing::run(const QString& program, const QStringList& arguments, const char* failed,
-                           Done done) {
-    auto* process = new QProcess(&programs_);
-    process->setProcessChannelMode(QProcess::ForwardedChannels);
-    QObject::connect(process, &QProcess::finished, &programs_,
-                     [process, failed, done](int code, QProcess::ExitStatus status) {
-                         process->deleteLater();
-                         done(code == 0 && status == QProcess::NormalExit ? Outcome()
-                                                                          : Outcome(failure(failed)));
-                     });
-    QObject::connect(process, &QProcess::errorOccurred, &programs_,
-                     [process, program, done](QProcess::ProcessError error) {
-                         if (error != QProcess::FailedToStart)
-                             return; // what started ends
-                         process->deleteLater();
-                         done(failure("The program “" + program.toStdString() + "” cannot be started."));
-                     });
-    process->start(program, arguments);
 }
 
 } // namespace tessivo

@@ -2,8 +2,7 @@
 
 #include "Ports/PictureSharing.h"
 #include "qtdesktop/DesktopPortal.h"
-
-#include <QObject>
+#include "qtdesktop/DesktopPrograms.h"
 
 #include <filesystem>
 #include <string>
@@ -43,14 +42,12 @@ private:
     /// Writes it for another program; goes on with `next`, or fails.
     void lend(std::shared_ptr<const Bitmap> picture, Done done,
               std::function<void(const QString& path)> next);
-    /// Starts a program and hears whether it did what it was asked.
-    void run(const QString& program, const QStringList& arguments, const char* failed, Done done);
 
     Folders folders_;
     const ImageCoding& images_;
     WorkQueue& background_;
     MainQueue& mainQueue_;
-    QObject programs_; ///< owns those that run
+    desktop::DesktopPrograms programs_;
     desktop::DesktopPortal portal_;
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true); ///< work may end after this object
 };

@@ -97,7 +97,9 @@ void Exchange::send(const QUrl& url) {
     body_.clear();
     // Servers know methods in capitals; "Get" would be another one to them.
     const QByteArray method = QByteArray::fromStdString(request_.method).toUpper();
-    reply_ = method == "GET" ? manager_.get(request) : manager_.sendCustomRequest(request, method);
+    reply_ = method == "GET"
+                 ? manager_.get(request)
+                 : manager_.sendCustomRequest(request, method, QByteArray::fromStdString(request_.body));
     reply_->setParent(this);
     silence_.start(milliseconds(request_.timeout));
     connect(reply_, &QNetworkReply::metaDataChanged, this, &Exchange::answering);

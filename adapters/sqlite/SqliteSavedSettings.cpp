@@ -51,6 +51,17 @@ void SqliteSavedSettings::setText(std::string_view key, std::string_view value) 
     set(key, std::string(value));
 }
 
+void SqliteSavedSettings::remove(std::string_view key) {
+    const auto found = values_.find(key);
+    if (found == values_.end())
+        return;
+    values_.erase(found);
+    if (!database_)
+        return;
+    if (const auto error = erase(key))
+        console_.print("The setting \"" + std::string(key) + "\" cannot be removed: " + error->description);
+}
+
 template <class Kind>
 std::optional<Kind> SqliteSavedSettings::value(std::string_view key) const {
     const auto found = values_.find(key);
@@ -112,6 +123,14 @@ Outcome SqliteSavedSettings::write(std::string_view key, const Value& value) {
         writing.bindText(3, std::get<std::string>(value));
     }
     return writing.run();
+}
+
+Outcome SqliteSavedSettings::erase(std::string_view key) {
+    auto prepared = database_->prepare("DELETE FROM settings WHERE key = ?1");
+    if (!prepared)
+        return prepared.error();
+    prepared.value().bindText(1, key);
+    return prepared.value().run();
 }
 
 } // namespace tessivo::sqlite

@@ -30,6 +30,8 @@ public:
     void setBoolean(std::string_view key, bool value) override;
     void setText(std::string_view key, std::string_view value) override;
 
+    void remove(std::string_view key) override;
+
 private:
     using Value = std::variant<long, bool, std::string>;
 
@@ -39,6 +41,7 @@ private:
     [[nodiscard]] Outcome open(const std::filesystem::path& file);
     [[nodiscard]] Outcome read();
     [[nodiscard]] Outcome write(std::string_view key, const Value& value);
+    [[nodiscard]] Outcome erase(std::string_view key);
 
     Console& console_;
     std::optional<Database> database_; ///< none where the file cannot be used

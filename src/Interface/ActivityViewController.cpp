@@ -16,27 +16,60 @@ void showAlert(ViewController& screen, WindowContext& window, const char* title,
 
 } // namespace
 
-ActivityViewController::ActivityViewController(WindowContext& window, PictureSharing& sharing,
-                                               std::shared_ptr<const Bitmap> picture)
-    : ViewController(window), sharing_(sharing), picture_(std::move(picture)) {
+ActivityViewController::ActivityViewController(WindowContext& window) : ViewController(window) {
     modalPresentationStyle = PresentationStyle::ActionSheet;
     view().setAccessibilityName("Share");
-    preview.setImage({"", picture_});
     preview.setContentMode(ContentMode::AspectFit);
-    preview.setAccessibilityName("The picture to share");
-    offerSaving();
-    offer(copyButton, "Copy", "shareCopy", &PictureSharing::copy, "The Picture Was Not Copied");
-    offer(openButton, "Open", "shareOpen", &PictureSharing::open, "The Picture Was Not Opened");
-    offer(mailButton, "Mail", "shareMail", &PictureSharing::mail, "The Picture Was Not Sent");
+    for (View* view : std::initializer_list<View*>{&preview, &textPreview, &saveButton, &copyButton,
+                                                   &openButton, &mailButton, &messageButton})
+        view->setHidden(true);
     cancelButton.setTitle("Cancel");
     cancelButton.setTitleColor(ColorRef::named("button"));
     cancelButton.addTarget(PressEvent::UpInside, [this] { dismiss(); });
+}
+
+ActivityViewController::ActivityViewController(WindowContext& window, PictureSharing& sharing,
+                                               std::shared_ptr<const Bitmap> picture)
+    : ActivityViewController(window) {
+    preview.setImage({"", picture});
+    preview.setAccessibilityName("The picture to share");
+    preview.setHidden(false);
+    offer(saveButton, "Save", "shareSave", [&sharing, picture](Tell tell) {
+        sharing.save(picture, [tell = std::move(tell)](const Result<std::string>& path) {
+            if (path)
+                tell("The Picture Was Saved", path.value());
+            else
+                tell("The Picture Was Not Saved", path.error().description);
+        });
+    });
+    const auto handOver = [&sharing, picture](auto act) {
+        return
+            [&sharing, picture, act](PictureSharing::Done done) { (sharing.*act)(picture, std::move(done)); };
+    };
+    offer(copyButton, "Copy", "shareCopy", handOver(&PictureSharing::copy), "The Picture Was Not Copied");
+    offer(openButton, "Open", "shareOpen", handOver(&PictureSharing::open), "The Picture Was Not Opened");
+    offer(mailButton, "Mail", "shareMail", handOver(&PictureSharing::mail), "The Picture Was Not Sent");
+}
+
+ActivityViewController::ActivityViewController(WindowContext& window, TextSharing& sharing, std::string text)
+    : ActivityViewController(window) {
+    textPreview.setText(text);
+    textPreview.setHidden(false);
+    const auto handOver = [&sharing, text = std::move(text)](auto act) {
+        return [&sharing, text, act](TextSharing::Done done) { (sharing.*act)(text, std::move(done)); };
+    };
+    offer(copyButton, "Copy", "shareCopy", handOver(&TextSharing::copy), "The Text Was Not Copied");
+    offer(mailButton, "Mail", "shareMail", handOver(&TextSharing::mail), "The Text Was Not Sent");
+    if (sharing.canMessage())
+        offer(messageButton, "Message", "shareMessage", handOver(&TextSharing::message),
+              "The Text Was Not Sent");
 }
 
 void ActivityViewController::offer(Button& button, const char* title, const char* image,
                                    std::function<void(Tell)> act) {
     button.setTitle(title);
     button.setImageName(image);
+    button.setHidden(false);
     button.addTarget(PressEvent::UpInside, [this, act = std::move(act)] {
         ViewController* below = presentingViewController();
         if (!below)
@@ -48,21 +81,10 @@ void ActivityViewController::offer(Button& button, const char* title, const char
 
 void ActivityViewController::offer(Button& button, const char* title, const char* image, HandOver act,
                                    const char* failure) {
-    offer(button, title, image, [this, act, failure](Tell tell) {
-        (sharing_.*act)(picture_, [tell = std::move(tell), failure](const Outcome& outcome) {
+    offer(button, title, image, [act = std::move(act), failure](Tell tell) {
+        act([tell = std::move(tell), failure](const Outcome& outcome) {
             if (outcome)
                 tell(failure, outcome->description);
-        });
-    });
-}
-
-void ActivityViewController::offerSaving() {
-    offer(saveButton, "Save", "shareSave", [this](Tell tell) {
-        sharing_.save(picture_, [tell = std::move(tell)](const Result<std::string>& path) {
-            if (path)
-                tell("The Picture Was Saved", path.value());
-            else
-                tell("The Picture Was Not Saved", path.error().description);
         });
     });
 }

@@ -48,6 +48,7 @@ struct HttpRequest {
     std::string url;
     std::string method = "GET";
     HttpHeaders headers{};
+    std::string body{};                   ///< sent as it is, where the method has one
     Seconds timeout{60};                  ///< without a byte from the other side
     Seconds deadline{600};                ///< for the whole exchange, redirects included
     std::size_t maximumBody = 64u << 20u; ///< bytes; a longer body is an error

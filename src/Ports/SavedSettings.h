@@ -24,6 +24,9 @@ public:
     virtual void setInteger(std::string_view key, long value) = 0;
     virtual void setBoolean(std::string_view key, bool value) = 0;
     virtual void setText(std::string_view key, std::string_view value) = 0;
+
+    /// Makes the key absent.
+    virtual void remove(std::string_view key) = 0;
 };
 
 } // namespace tessivo

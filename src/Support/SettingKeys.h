@@ -12,7 +12,9 @@ inline constexpr std::string_view eventSize = "EventSize";
 inline constexpr std::string_view secondOpen = "SecondOpen";
 /// True once the tabs have been shown: the first-run tour is over.
 inline constexpr std::string_view isFirstLaunch = "isFirstLaunch";
-/// Which way of rating is asked for, as text: "0" or "1". Absent counts as "0".
+/// The remote choice of the rating prompt, as a text: "0" or "1".
 inline constexpr std::string_view rateUs = "rateUs";
+/// A remote switch that no screen reads.
+inline constexpr std::string_view adsShow = "adsShow";
 
 } // namespace tessivo::settingKeys

@@ -75,6 +75,18 @@ TEST_P(SavedSettingsContract, ValuesOutliveTheProgram) {
     }
 }
 
+TEST_P(SavedSettingsContract, ARemovedKeyIsAbsent) {
+    settings->setText("rateUs", "1");
+    settings->setText("adsShow", "2");
+    settings->remove("rateUs");
+    settings->remove("never set");
+    for (int run = 0; run < 2; ++run) {
+        EXPECT_EQ(settings->text("rateUs"), std::nullopt);
+        EXPECT_THAT(settings->text("adsShow"), Optional(std::string("2")));
+        restart();
+    }
+}
+
 TEST_P(SavedSettingsContract, TheLastWriteCountsAlsoOverItsKind) {
     settings->setText("key", "1");
     settings->setInteger("key", 1);
