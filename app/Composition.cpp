@@ -21,6 +21,7 @@ Composition::Composition(const Machine::Settings& settings, Clock& clock, Consol
     if (!settings.photoService.empty())
         services().photoPicker().setConfiguration(
             unsplash::UnsplashPickerConfiguration(settings.photoService));
+    machine_.reviews().showOver(stack());
     program_.screens().onOpenNotificationSettings([this] { permission_.openSettings(); });
 }
 

@@ -2,6 +2,7 @@
 
 #include "Ports/Console.h"
 #include "icu/DeviceLocale.h"
+#include "Support/RemoteSwitches/RemoteKeys.h"
 
 #include <QDBusConnection>
 #include <QFile>
@@ -54,7 +55,14 @@ Machine::Machine(const Settings& settings, Clock& clock, Console& console,
       documentFiles_(settings.data / "documents"),
       pictureSharing_({picturesFolder(), settings.caches / "lent"}, QDBusConnection::sessionBus(), images_,
                       background_, mainQueue_),
-      photoLibrary_(QDBusConnection::sessionBus(), settings.data / "photos") {}
+      photoLibrary_(QDBusConnection::sessionBus(), settings.data / "photos"),
+      textSharing_(QDBusConnection::sessionBus(), mainQueue_),
+      mail_(QDBusConnection::sessionBus()),
+      reviews_(links_, texts_, [this] { return foreground_.isActive(); }),
+      bundle_{.shortVersion = TESSIVO_VERSION,
+              .version = TESSIVO_BUILD_NUMBER,
+              .preferredLocalization = settings.language},
+      remoteProject_(tessivo::remoteProject()) {}
 
 Platform Machine::platform() {
     return {.console = console_,
@@ -81,6 +89,13 @@ Platform Machine::platform() {
             .snapshots = snapshots_,
             .pictureSharing = pictureSharing_,
             .photoLibrary = photoLibrary_,
+            .textSharing = textSharing_,
+            .mail = mail_,
+            .network = network_,
+            .reviews = reviews_,
+            .device = device_,
+            .bundle = bundle_,
+            .remoteProject = remoteProject_,
             .photoTexts = &photoTexts_,
             .resources = resources_};
 }

@@ -1,27 +1,35 @@
 #pragma once
 
+#include "Ports/Device.h"
 #include "Reminders/QueuedNotificationCenter.h"
 #include "Support/Platform.h"
+#include "Support/RemoteSwitches/RemoteConfig.h"
+#include "Support/StartUp/ReviewPrompt.h"
 #include "freedesktop/DataFolder.h"
 #include "icu/IcuCalendar.h"
 #include "icu/IcuDateFormatters.h"
 #include "icu/IcuTextCounting.h"
+#include "qt/QtForeground.h"
 #include "qt/QtFrameClock.h"
 #include "qt/QtMainQueue.h"
 #include "qt/QtTextMeasuring.h"
 #include "qt/QtTimers.h"
 #include "qtdesktop/QtLinkOpener.h"
+#include "qtdesktop/QtMailComposing.h"
 #include "qtdesktop/QtPhotoLibrary.h"
 #include "qtdesktop/QtPictureSharing.h"
 #include "qtdesktop/QtResourceFiles.h"
+#include "qtdesktop/QtTextSharing.h"
 #include "qtimage/QtImageCoding.h"
 #include "qtnetwork/QtHttpClient.h"
+#include "qtnetwork/QtReachability.h"
 #include "qtnetwork/QtResponseCaches.h"
 #include "shell/bridge/QuickSnapshots.h"
 #include "sqlite/SqliteEventStore.h"
 #include "sqlite/SqliteNotificationQueue.h"
 #include "sqlite/SqliteSavedSettings.h"
 #include "standard/FolderDocumentFiles.h"
+#include "standard/LinuxDevice.h"
 #include "standard/RandomUuids.h"
 #include "standard/ThreadWorkQueue.h"
 #include "json/JsonLocalizedTexts.h"
@@ -65,6 +73,7 @@ public:
     [[nodiscard]] QueuedNotificationCenter& notificationCenter() { return notificationCenter_; }
     /// What the machine's side tells the user.
     [[nodiscard]] const LocalizedTexts& machineTexts() const { return machineTexts_; }
+    [[nodiscard]] ReviewPrompt& reviews() { return reviews_; }
 
     /// Waits until no thread has anything left to do for the program, so that all of their answers wait on
     /// the main queue: where time is virtual, nothing else would wait for a thread.
@@ -104,6 +113,14 @@ private:
     QtHttpClient http_;
     QtPictureSharing pictureSharing_;
     QtPhotoLibrary photoLibrary_;
+    QtTextSharing textSharing_;
+    QtMailComposing mail_;
+    QtReachability network_;
+    QtForeground foreground_;
+    ReviewPrompt reviews_;
+    LinuxDevice device_;
+    Bundle bundle_;
+    RemoteProject remoteProject_;
     shell::QuickSnapshots snapshots_;
 };
 

@@ -23,6 +23,8 @@ public:
 struct Bundle {
     std::optional<std::string> shortVersion; ///< as users see it, such as "0.1.0"
     std::string version;                     ///< the build's number
+    std::string identifier = "org.tessivo.Tessivo";
+    std::string preferredLocalization = "en"; ///< the language of its texts
 };
 
 } // namespace tessivo

@@ -14,7 +14,8 @@ public:
     /// reported.
     virtual void open(const std::string& url) = 0;
 
-    /// Whether `url` is an address that `open` hands on: http, https or mailto.
+    /// Whether `url` is an address that `open` hands on: http, https or mailto, and a program's page in the
+    /// software centre (appstream) where there is one.
     [[nodiscard]] virtual bool canOpen(const std::string& url) const = 0;
 };
 

@@ -6,6 +6,7 @@ class Calendar;
 class Clock;
 class Console;
 class DateFormatters;
+class Device;
 class DocumentFiles;
 class EventStore;
 class HttpClient;
@@ -13,19 +14,25 @@ class ImageCoding;
 class JsonCoding;
 class LinkOpener;
 class LocalizedTexts;
+class MailComposing;
 class MainQueue;
 class NamedColors;
+class NetworkReachability;
 class NotificationCenter;
 class PhotoLibrary;
 class PictureSharing;
 class ResourceFiles;
 class ResponseCaches;
+class ReviewRequests;
 class SavedSettings;
 class TextCounting;
 class TextMeasuring;
+class TextSharing;
 class Timers;
 class UuidSource;
 class WorkQueue;
+struct Bundle;
+struct RemoteProject;
 
 namespace ui {
 class ViewSnapshots;
@@ -57,6 +64,13 @@ struct Platform {
     ui::ViewSnapshots& snapshots;
     PictureSharing& pictureSharing;
     PhotoLibrary& photoLibrary;
+    TextSharing& textSharing;
+    MailComposing& mail;
+    NetworkReachability& network;
+    ReviewRequests& reviews;
+    const Device& device;
+    const Bundle& bundle;
+    const RemoteProject& remoteProject;
     const LocalizedTexts* photoTexts; ///< the photo browser's own; null where they were not found
     const ResourceFiles& resources;
 };

@@ -5,8 +5,15 @@
 #include "Event/ReminderScheduler.h"
 #include "Interface/PictureLoader.h"
 #include "Interface/ViewController.h"
+#include "Ports/Device.h"
+#include "Support/Addresses.h"
 #include "Support/EventImages.h"
+#include "Support/Feedback/AlertManager.h"
+#include "Support/Feedback/MailManager.h"
+#include "Support/Feedback/NetworkActivityIndicatorManager.h"
 #include "Support/LocalizationVariables.h"
+#include "Support/RemoteSwitches/FirebaseManager.h"
+#include "Support/RemoteSwitches/RemoteConfig.h"
 #include "UnsplashPicker/PickerServices.h"
 
 namespace tessivo {
@@ -67,6 +74,41 @@ unsplash::PickerServices& SharedServices::photoPicker() {
             platform_.console, platform_.mainQueue, platform_.background, platform_.http, platform_.json,
             platform_.images, platform_.responseCaches, platform_.photoTexts});
     return *photoPicker_;
+}
+
+FirebaseManager& SharedServices::firebaseManager() {
+    if (!firebaseManager_) {
+        remoteConfig_ = std::make_unique<RemoteConfig>(
+            platform_.remoteProject,
+            RemoteClient{.languageCode = platform_.bundle.preferredLocalization,
+                         .appVersion = platform_.bundle.shortVersion.value_or(""),
+                         .packageName = platform_.bundle.identifier},
+            platform_.http, platform_.json, platform_.uuids, platform_.mainQueue);
+        firebaseManager_ = std::make_shared<FirebaseManager>(*remoteConfig_, platform_.settings,
+                                                             platform_.mainQueue, platform_.console);
+    }
+    return *firebaseManager_;
+}
+
+NetworkActivityIndicatorManager& SharedServices::networkActivityIndicatorManager() {
+    if (!networkActivityIndicatorManager_)
+        networkActivityIndicatorManager_ = std::make_unique<NetworkActivityIndicatorManager>(platform_.texts);
+    return *networkActivityIndicatorManager_;
+}
+
+MailManager& SharedServices::mailManager() {
+    if (!mailManager_)
+        mailManager_ = std::make_unique<MailManager>(
+            window_, platform_.mail, networkActivityIndicatorManager().local, platform_.device,
+            platform_.bundle, std::string(addresses::support));
+    return *mailManager_;
+}
+
+AlertManager& SharedServices::alertManager() {
+    if (!alertManager_)
+        alertManager_ = std::make_unique<AlertManager>(window_, networkActivityIndicatorManager().local,
+                                                       mailManager(), platform_.reviews, platform_.mainQueue);
+    return *alertManager_;
 }
 
 } // namespace tessivo

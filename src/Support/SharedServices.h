@@ -9,11 +9,16 @@
 
 namespace tessivo {
 
+class AlertManager;
 class CoreDataStack;
 class EventImages;
 class FetchEventDataType;
+class FirebaseManager;
 class LocalizationVariables;
+class MailManager;
+class NetworkActivityIndicatorManager;
 class ReminderScheduler;
+class RemoteConfig;
 class ScreenFactory;
 
 namespace unsplash {
@@ -50,6 +55,10 @@ public:
     [[nodiscard]] ui::PictureLoader& pictureLoader();
     [[nodiscard]] EventImages& eventImages();
     [[nodiscard]] unsplash::PickerServices& photoPicker();
+    [[nodiscard]] FirebaseManager& firebaseManager();
+    [[nodiscard]] NetworkActivityIndicatorManager& networkActivityIndicatorManager();
+    [[nodiscard]] MailManager& mailManager();
+    [[nodiscard]] AlertManager& alertManager();
 
     /// Keeps something going for the life of the program, whoever started it.
     void keep(Subscription subscription) { kept_.push_back(std::move(subscription)); }
@@ -65,6 +74,11 @@ private:
     std::shared_ptr<ui::PictureLoader> pictureLoader_;
     std::unique_ptr<EventImages> eventImages_;
     std::unique_ptr<unsplash::PickerServices> photoPicker_;
+    std::unique_ptr<RemoteConfig> remoteConfig_;
+    std::shared_ptr<FirebaseManager> firebaseManager_;
+    std::unique_ptr<NetworkActivityIndicatorManager> networkActivityIndicatorManager_;
+    std::unique_ptr<MailManager> mailManager_;
+    std::unique_ptr<AlertManager> alertManager_;
     std::vector<Subscription> kept_;
 };
 

@@ -1,6 +1,7 @@
 #include "support/Program.h"
 
 #include "Support/SettingKeys.h"
+#include "Support/RemoteSwitches/RemoteConfig.h"
 #include "Support/StartUp/RunningProgram.h"
 #include "fakes/FixedWidthTexts.h"
 #include "icu/IcuCalendar.h"
@@ -27,6 +28,8 @@ struct Program::RealParts {
     JsonLocalizedTexts texts = JsonLocalizedTexts::fromJson(resource("texts/en.json")).value();
     JsonLocalizedTexts photoTexts = JsonLocalizedTexts::fromJson(resource("unsplash-texts/en.json")).value();
     NlohmannJson json;
+    Bundle bundle{.shortVersion = "0.1.0", .version = "1"};
+    RemoteProject remoteProject; ///< none: nothing is fetched
     QtImageCoding images;
     FolderDocumentFiles documents;
 };
@@ -65,6 +68,13 @@ struct Program::Run {
                 .snapshots = program.snapshots,
                 .pictureSharing = program.pictureSharing,
                 .photoLibrary = program.photoLibrary,
+                .textSharing = program.textSharing,
+                .mail = program.mail,
+                .network = program.network,
+                .reviews = program.reviews,
+                .device = program.device,
+                .bundle = real.bundle,
+                .remoteProject = real.remoteProject,
                 .photoTexts = &real.photoTexts,
                 .resources = program.resources};
     }

@@ -11,8 +11,10 @@
 #include "fakes/RecordingConsole.h"
 #include "fakes/RecordingLinkOpener.h"
 #include "fakes/RecordingPictureSharing.h"
+#include "fakes/RecordingTextSharing.h"
 #include "fakes/ScriptedHttpClient.h"
 #include "fakes/ScriptedPhotoLibrary.h"
+#include "fakes/StandInDevice.h"
 #include "fakes/Timeline.h"
 #include "support/Resources.h"
 #include "support/TemporaryFolder.h"
@@ -65,6 +67,11 @@ public:
     fakes::RecordingPictureSharing pictureSharing;
     fakes::ScriptedPhotoLibrary photoLibrary;
     fakes::FolderResources resources{resourcesFolder()};
+    fakes::RecordingTextSharing textSharing;
+    fakes::RecordingMail mail;
+    fakes::StandInReachability network;
+    fakes::RecordingReviews reviews;
+    fakes::StandInDevice device;
     ui::MainScreen screen{{390, 844}};
 
 private:

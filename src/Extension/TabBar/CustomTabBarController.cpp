@@ -6,7 +6,10 @@
 #include "Interface/NavigationController.h"
 #include "MainVC/MainViewController.h"
 #include "Ports/Console.h"
+#include "Ports/MainQueue.h"
 #include "Ports/SavedSettings.h"
+#include "Support/Feedback/AlertManager.h"
+#include "Support/Feedback/RateUs.h"
 #include "Support/ScreenFactory.h"
 #include "Support/SettingKeys.h"
 
@@ -65,6 +68,33 @@ void CustomTabBarController::viewWillDisappear() {
 void CustomTabBarController::setNavigationBarHidden(bool hidden) {
     if (auto* around = dynamic_cast<ui::NavigationController*>(parent()))
         around->setNavigationBarHidden(hidden);
+}
+
+void CustomTabBarController::viewDidAppear() {
+    const Platform& platform = services_.platform();
+    platform.mainQueue.post(
+        [this, weak = weak_from_this(), text = rateUsText(platform.settings, platform.network)] {
+            if (const auto standing = weak.lock())
+                promptForRating(text);
+        });
+}
+
+void CustomTabBarController::promptForRating(const std::string& rateUs) {
+    SavedSettings& settings = services_.platform().settings;
+    const auto secondOpen = [&] {
+        const auto launches = settings.integer(settingKeys::secondOpen);
+        if (!launches)
+            services_.platform().console.stopProgram("The launch counter cannot be read.");
+        return *launches;
+    };
+    if (secondOpen() == 2 && rateUs == "0") {
+        settings.setInteger(settingKeys::secondOpen, 3);
+        services_.alertManager().requestReview();
+    }
+    if (secondOpen() == 2 && rateUs == "1") {
+        settings.setInteger(settingKeys::secondOpen, 3);
+        services_.alertManager().showRateAlert(*this);
+    }
 }
 
 void CustomTabBarController::placeBar() {

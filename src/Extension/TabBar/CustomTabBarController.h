@@ -31,11 +31,14 @@ protected:
     void viewDidLoad() override;
     void viewWillAppear() override;
     void viewWillDisappear() override;
+    void viewDidAppear() override;
     void screenSizeDidChange() override { placeBar(); }
 
 private:
     void placeBar();
     void setNavigationBarHidden(bool hidden);
+    /// At the second launch, once: asks for a review or how the user likes the program, as `rateUs` says.
+    void promptForRating(const std::string& rateUs);
 
     SharedServices& services_;
 };

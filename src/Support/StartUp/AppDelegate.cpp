@@ -5,6 +5,7 @@
 #include "Interface/PresentationStack.h"
 #include "Ports/Console.h"
 #include "Ports/SavedSettings.h"
+#include "Support/RemoteSwitches/FirebaseManager.h"
 #include "Support/ScreenFactory.h"
 #include "Support/SettingKeys.h"
 #include "Support/SharedServices.h"
@@ -34,6 +35,9 @@ void AppDelegate::didFinishLaunching(ui::PresentationStack& window) {
         window.setRoot(screens.makeTabShell());
     else
         window.setRoot(std::make_shared<ui::NavigationController>(window.window(), screens.makeOnboarding()));
+    // Twice: the second fetch finds what the first one's registration has changed.
+    services_.firebaseManager().fetch();
+    services_.firebaseManager().fetch();
 }
 
 void AppDelegate::fillAbsentSettings() {

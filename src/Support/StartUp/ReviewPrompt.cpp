@@ -12,16 +12,16 @@ constexpr auto softwareCentrePage = "appstream:org.tessivo.Tessivo";
 
 } // namespace
 
-ReviewPrompt::ReviewPrompt(ui::PresentationStack& stack, LinkOpener& links, const LocalizedTexts& texts,
-                           std::function<bool()> isForeground)
-    : stack_(stack),
-      links_(links),
-      texts_(texts),
-      isForeground_(std::move(isForeground)),
-      stackChanges_(stack.onChange([this] {
-          if (waiting_)
-              show();
-      })) {}
+ReviewPrompt::ReviewPrompt(LinkOpener& links, const LocalizedTexts& texts, std::function<bool()> isForeground)
+    : links_(links), texts_(texts), isForeground_(std::move(isForeground)) {}
+
+void ReviewPrompt::showOver(ui::PresentationStack& stack) {
+    stack_ = &stack;
+    stackChanges_ = stack.onChange([this] {
+        if (waiting_)
+            show();
+    });
+}
 
 void ReviewPrompt::requestReview() {
     waiting_ = true;
@@ -29,18 +29,18 @@ void ReviewPrompt::requestReview() {
 }
 
 void ReviewPrompt::show() {
-    if (stack_.isInTransition() || !stack_.top())
+    if (!stack_ || stack_->isInTransition() || !stack_->top())
         return;
     waiting_ = false;
     const auto sheet = std::make_shared<ui::AlertController>(
-        stack_.window(), ui::AlertStyle::ActionSheet, texts_.localizedString("alertRate"),
+        stack_->window(), ui::AlertStyle::ActionSheet, texts_.localizedString("alertRate"),
         texts_.localizedString("A rating helps others to find Tessivo."));
     sheet->addAction({texts_.localizedString("Rate Tessivo"), ui::AlertActionStyle::Default, [this] {
                           links_.open(links_.canOpen(softwareCentrePage) ? softwareCentrePage
                                                                          : std::string(addresses::storePage));
                       }});
     sheet->addAction({texts_.localizedString("Not Now"), ui::AlertActionStyle::Cancel, {}});
-    stack_.top()->present(sheet);
+    stack_->top()->present(sheet);
 }
 
 } // namespace tessivo

@@ -16,8 +16,10 @@ class LocalizedTexts;
 class ReviewPrompt final : public ReviewRequests {
 public:
     /// `isForeground` tells whether the program's window is in front. The references outlive this object.
-    ReviewPrompt(ui::PresentationStack& stack, LinkOpener& links, const LocalizedTexts& texts,
-                 std::function<bool()> isForeground);
+    ReviewPrompt(LinkOpener& links, const LocalizedTexts& texts, std::function<bool()> isForeground);
+
+    /// From now on the sheet stands over the screens of `stack`, which outlives this object's use.
+    void showOver(ui::PresentationStack& stack);
 
     [[nodiscard]] bool hasForegroundScene() const override { return isForeground_(); }
     void requestReview() override;
@@ -25,7 +27,7 @@ public:
 private:
     void show();
 
-    ui::PresentationStack& stack_;
+    ui::PresentationStack* stack_ = nullptr;
     LinkOpener& links_;
     const LocalizedTexts& texts_;
     std::function<bool()> isForeground_;
