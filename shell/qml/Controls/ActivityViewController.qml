@@ -1,12 +1,13 @@
 import QtQuick
 import Tessivo
 
-// A picture and what can be done with it.
+// A picture or a text, and what can be done with it.
 RisingPanel {
     id: sheet
 
     required property ScreenItem screen
     readonly property ImageItem preview: screen.control("preview") as ImageItem
+    readonly property LabelItem text: screen.control("textPreview") as LabelItem
     readonly property ButtonItem cancel: screen.control("cancelButton") as ButtonItem
 
     topPadding: 20
@@ -17,21 +18,36 @@ RisingPanel {
         x: Theme.margin
         width: parent.width - 2 * Theme.margin
         height: 140
+        visible: sheet.preview.shown
         view: sheet.preview
         Accessible.role: Accessible.Graphic
         Accessible.name: sheet.preview.accessibleName
     }
+    Text {
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        visible: sheet.text.shown
+        text: sheet.text.text
+        font.pixelSize: Theme.body
+        color: Theme.ink
+        wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignHCenter
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
     Row {
         id: acts
+        readonly property var offered: ["saveButton", "copyButton", "openButton", "mailButton", "messageButton"]
+            .map(name => sheet.screen.control(name) as ButtonItem).filter(button => button.shown)
         x: 8
         width: parent.width - 16
         Repeater {
-            model: ["saveButton", "copyButton", "openButton", "mailButton"]
+            model: acts.offered
             ShareButton {
-                required property string modelData
+                required property ButtonItem modelData
                 required property int index
-                width: acts.width / 4
-                button: sheet.screen.control(modelData) as ButtonItem
+                width: acts.width / acts.offered.length
+                button: modelData
                 focus: index === 0
             }
         }
