@@ -1,8 +1,10 @@
 #include "Extension/TabBar/CustomTabBarController.h"
 
 #include "AddEventVC/EventTitleViewController.h"
+#include "Interface/AlertController.h"
 #include "MainVC/MainViewController.h"
 #include "Ports/SavedSettings.h"
+#include "Support/ScreenFactory.h"
 #include "Support/SettingKeys.h"
 #include "support/Program.h"
 
@@ -35,6 +37,43 @@ TEST_F(TabShellTest, TitlesAtRestHaveTheColourOfTheDefaultTab) {
     program.services().platform().settings.setInteger(settingKeys::defaultScreen, 1);
     program.restart();
     EXPECT_EQ(tabs().tabBar.items()[0].titleColor, ui::ColorRef::named("futureColor"));
+}
+
+TEST_F(TabShellTest, TheRatingPromptComesAtTheSecondLaunchOnly) {
+    struct Case {
+        long launches;
+        std::optional<std::string> rateUs;
+        bool connected;
+        bool foreground;
+        int reviews;
+        bool alert;
+        long launchesAfter;
+    };
+    const Case cases[] = {
+        {1, "0", true, true, 0, false, 1}, {2, "0", true, true, 1, false, 3},
+        {2, {}, true, true, 1, false, 3},  {2, "0", true, false, 0, false, 3},
+        {2, "1", true, true, 0, true, 3},  {2, "1", false, true, 1, false, 3},
+        {2, "2", true, true, 0, false, 2}, {2, "+1", true, true, 0, false, 2},
+        {2, "", true, true, 0, false, 2},  {3, "0", true, true, 0, false, 3},
+        {3, "1", true, true, 0, false, 3},
+    };
+    program.timeline.runPosted();
+    for (const auto& [launches, rateUs, connected, foreground, reviews, alert, launchesAfter] : cases) {
+        SCOPED_TRACE(std::to_string(launches) + " " + rateUs.value_or("absent"));
+        SavedSettings& settings = program.services().platform().settings;
+        settings.setInteger(settingKeys::secondOpen, launches);
+        settings.remove(settingKeys::rateUs);
+        if (rateUs)
+            settings.setText(settingKeys::rateUs, *rateUs);
+        program.network.answer = connected ? NetworkReachability::reachable : 0U;
+        program.reviews.foreground = foreground;
+        program.reviews.requests = 0;
+        program.stack().setRoot(program.services().screens().makeTabShell());
+        program.timeline.runPosted();
+        EXPECT_EQ(program.reviews.requests, reviews);
+        EXPECT_EQ(dynamic_cast<ui::AlertController*>(program.stack().top()) != nullptr, alert);
+        EXPECT_EQ(settings.integer(settingKeys::secondOpen), launchesAfter);
+    }
 }
 
 TEST_F(TabShellTest, TheAddButtonStandsHalfOverTheBarByTheScreensWidth) {

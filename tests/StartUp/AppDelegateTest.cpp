@@ -50,6 +50,20 @@ TEST_F(StartTest, ALaunchOverwritesNoSettingThatIsThere) {
 TEST_F(StartTest, ALaunchCounterOfAnotherKindStopsTheProgram) {
     settings().setText(settingKeys::secondOpen, "2");
     EXPECT_THROW(program.restart(), fakes::ProgramStopped);
+TEST_F(StartTest, EachLaunchFetchesTheSwitchesTwiceAndWaitsForNeither) {
+    EXPECT_TRUE(program.console.lines().empty());
+    program.timeline.runPosted();
+    EXPECT_EQ(program.console.take(), std::vector<std::string>(2, "Error: No error available."));
+
+    // With a service that never answers the lists are used all the same.
+    program.remoteProject = {"http://service", "http://service", "project", "app", "key"};
+    program.restart();
+    program.timeline.advance(Seconds(10));
+    EXPECT_EQ(program.http.running(), 1U) << "the second fetch waits for the installation of the first";
+    program.top<CustomTabBarController>().addButton.tap();
+    program.settle();
+    EXPECT_EQ(program.stack().screens().size(), 2U);
+    EXPECT_TRUE(program.console.lines().empty());
 }
 
 TEST_F(StartTest, ALaunchMovesWhatHasPassedMeanwhile) {

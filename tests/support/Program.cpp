@@ -29,7 +29,6 @@ struct Program::RealParts {
     JsonLocalizedTexts photoTexts = JsonLocalizedTexts::fromJson(resource("unsplash-texts/en.json")).value();
     NlohmannJson json;
     Bundle bundle{.shortVersion = "0.1.0", .version = "1"};
-    RemoteProject remoteProject; ///< none: nothing is fetched
     QtImageCoding images;
     FolderDocumentFiles documents;
 };
@@ -74,7 +73,7 @@ struct Program::Run {
                 .reviews = program.reviews,
                 .device = program.device,
                 .bundle = real.bundle,
-                .remoteProject = real.remoteProject,
+                .remoteProject = program.remoteProject,
                 .photoTexts = &real.photoTexts,
                 .resources = program.resources};
     }

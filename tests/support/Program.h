@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Interface/PresentationStack.h"
+#include "Support/RemoteSwitches/RemoteConfig.h"
 #include "Support/SharedServices.h"
 #include "fakes/CannedSnapshots.h"
 #include "fakes/CountingUuids.h"
@@ -72,6 +73,7 @@ public:
     fakes::StandInReachability network;
     fakes::RecordingReviews reviews;
     fakes::StandInDevice device;
+    RemoteProject remoteProject; ///< none: nothing is fetched; read at the next start
     ui::MainScreen screen{{390, 844}};
 
 private:

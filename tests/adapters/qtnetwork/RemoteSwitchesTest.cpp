@@ -26,14 +26,15 @@ using testing::MatchesRegex;
 using testing::Optional;
 using testing::StartsWith;
 
-/// The network, less patient.
+/// The network, as patient as the test says.
 class Hasty final : public HttpClient {
 public:
     std::shared_ptr<HttpTask> start(HttpRequest request, Completion completion) override {
-        request.timeout = Seconds(0.1);
+        request.timeout = timeout;
         return client.start(std::move(request), std::move(completion));
     }
     QtHttpClient client;
+    Seconds timeout{60};
 };
 
 constexpr auto installationsPath = "/v1/projects/p/installations";
@@ -133,7 +134,11 @@ TEST_F(RemoteSwitchesTest, AFailedFetchLeavesItsOwnValues) {
         {"HTML", [this] { answerValues("<!DOCTYPE html><p>Sign in</p>"); }, "Error: "},
         {"cut off", [this] { answerValues(R"({"entries": {"rateUs": "1)"); }, "Error: "},
         {"no state", [this] { answerValues("[]"); }, "Error: The service answered without a state."},
-        {"time-out", [this] { server.handlers[valuesPath] = [](QTcpSocket&) {}; },
+        {"time-out",
+         [this] {
+             server.handlers[valuesPath] = [](QTcpSocket&) {};
+             http.timeout = Seconds(0.3);
+         },
          "Error: The request timed out."},
         {"no installation",
          [this] { server.handlers[installationsPath] = LoopbackServer::answer("200 OK", "{}"); },
@@ -148,6 +153,7 @@ TEST_F(RemoteSwitchesTest, AFailedFetchLeavesItsOwnValues) {
         server.handlers[installationsPath] = LoopbackServer::answer("200 OK", installed);
         answerValues("{}");
         project = whole;
+        http.timeout = Seconds(60);
         settings.setText(settingKeys::rateUs, "1");
         provoke();
         EXPECT_THAT(fetch(), ElementsAre(StartsWith(printed)));
