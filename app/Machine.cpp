@@ -1,8 +1,8 @@
 #include "app/Machine.h"
 
 #include "Ports/Console.h"
-#include "icu/DeviceLocale.h"
 #include "Support/RemoteSwitches/RemoteKeys.h"
+#include "icu/DeviceLocale.h"
 
 #include <QDBusConnection>
 #include <QFile>

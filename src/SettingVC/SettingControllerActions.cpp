@@ -1,32 +1,23 @@
 // What the rows do that speak to the world outside: rate, share, write to the support, open a page.
 
+#include "Interface/ActivityViewController.h"
 #include "Interface/AlertController.h"
+#include "Ports/Device.h"
 #include "Ports/LinkOpener.h"
+#include "Ports/MailComposing.h"
 #include "Ports/MainQueue.h"
 #include "Ports/SavedSettings.h"
 #include "Ports/Url.h"
 #include "SettingVC/SettingController.h"
 #include "Support/Addresses.h"
+#include "Support/Feedback/DeviceName.h"
+#include "Support/Feedback/RateUs.h"
 #include "Support/LocalizationVariables.h"
-#include "Support/SettingKeys.h"
-
-#include <charconv>
 
 namespace tessivo {
-namespace {
-
-std::optional<long> wholeNumber(std::string_view text) {
-    if (text.starts_with('+'))
-        text.remove_prefix(1);
-    long number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
-}
-
-} // namespace
 
 void SettingController::rate() {
-    const auto choice = wholeNumber(platform().settings.text(settingKeys::rateUs).value_or("0"));
+    const auto choice = wholeNumber(rateUsText(platform().settings, platform().network));
     if (!choice)
         return;
     if (*choice != 1)
@@ -61,15 +52,22 @@ void SettingController::writeReview() {
 }
 
 void SettingController::shareTheApp() {
-    if (const auto mail = Url::parse("mailto:"))
-        open(mail->appendingQueryItem("body", texts().share + std::string(addresses::storePage))
-                 .absoluteString());
+    present(std::make_shared<ui::ActivityViewController>(window(), platform().textSharing,
+                                                         texts().share + std::string(addresses::storePage)));
 }
 
 void SettingController::writeToSupport() {
-    if (const auto mail = Url::parse("mailto:" + std::string(addresses::support));
-        mail && !addresses::support.empty())
-        open(mail->appendingQueryItem("subject", "Tessivo — User Question ").absoluteString());
+    if (!platform().mail.canSendMail())
+        return;
+    const Bundle& bundle = platform().bundle;
+    std::string body = "<p></p><p>----------------</p><p> Device: " + deviceName(platform().device) +
+                       "</p><p>iOS: " + platform().device.systemVersion() + "</p>";
+    if (bundle.shortVersion)
+        body += "<p>App version: " + *bundle.shortVersion + " (" + bundle.version + ")</p>";
+    platform().mail.compose({.recipient = std::string(addresses::support),
+                             .subject = "Tessivo — User Question ",
+                             .htmlBody = std::move(body)},
+                            [](const Outcome&) {});
 }
 
 void SettingController::open(std::string_view address) {

@@ -1,5 +1,6 @@
 #include "SettingVC/SettingController.h"
 
+#include "Interface/ActivityViewController.h"
 #include "Interface/AlertController.h"
 #include "Ports/SavedSettings.h"
 #include "Support/SettingKeys.h"
@@ -185,6 +186,47 @@ TEST_F(SettingsTest, RatingMayAskFirst) {
     EXPECT_THAT(program.links.opened, IsEmpty());
     question.choose(1);
     EXPECT_THAT(program.links.opened, ElementsAre("https://flathub.org/apps/org.tessivo.Tessivo"));
+    tap(screen, 2, 0);
+    program.top<ui::AlertController>().choose(0);
+    EXPECT_EQ(program.mail.messages.size(), 1U);
+
+    program.links.opened.clear();
+    program.network.answer = 0;
+    tap(screen, 2, 0);
+    EXPECT_EQ(program.links.opened.size(), 1U) << "without a network the question does not come";
+}
+
+TEST_F(SettingsTest, ASupportMailNamesDeviceSystemAndVersion) {
+    auto& screen = open();
+    program.mail.canSend = false;
+    tap(screen, 3, 0);
+    EXPECT_TRUE(program.mail.messages.empty());
+    EXPECT_EQ(program.stack().top(), &screen);
+    program.mail.canSend = true;
+    tap(screen, 3, 0);
+    ASSERT_EQ(program.mail.messages.size(), 1U);
+    EXPECT_EQ(program.mail.messages[0].subject, "Tessivo — User Question ");
+    EXPECT_EQ(
+        program.mail.messages[0].htmlBody,
+        "<p></p><p>----------------</p><p> Device: PinePhone</p><p>iOS: Debian GNU/Linux 12 (bookworm)</p>"
+        "<p>App version: 0.1.0 (1)</p>");
+}
+
+TEST_F(SettingsTest, SharingHandsOverATextWithTheStorePage) {
+    auto& screen = open();
+    tap(screen, 2, 1);
+    auto& sheet = program.top<ui::ActivityViewController>();
+    EXPECT_TRUE(sheet.preview.isHidden());
+    EXPECT_TRUE(sheet.saveButton.isHidden());
+    sheet.messageButton.tap();
+    ASSERT_EQ(program.textSharing.shared.size(), 1U);
+    EXPECT_EQ(program.textSharing.shared[0].act, "message");
+    EXPECT_EQ(program.textSharing.shared[0].text, "I count the days that matter with Tessivo. Try it too: "
+                                                  "https://flathub.org/apps/org.tessivo.Tessivo");
+    EXPECT_EQ(program.stack().top(), &screen);
+    program.textSharing.hasMessenger = false;
+    tap(screen, 2, 1);
+    EXPECT_TRUE(program.top<ui::ActivityViewController>().messageButton.isHidden());
 }
 
 TEST(Applications, ADamagedListOffersNothing) {
