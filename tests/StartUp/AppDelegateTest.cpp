@@ -50,6 +50,8 @@ TEST_F(StartTest, ALaunchOverwritesNoSettingThatIsThere) {
 TEST_F(StartTest, ALaunchCounterOfAnotherKindStopsTheProgram) {
     settings().setText(settingKeys::secondOpen, "2");
     EXPECT_THROW(program.restart(), fakes::ProgramStopped);
+}
+
 TEST_F(StartTest, EachLaunchFetchesTheSwitchesTwiceAndWaitsForNeither) {
     EXPECT_TRUE(program.console.lines().empty());
     program.timeline.runPosted();
