@@ -1,7 +1,7 @@
 #include "support/Program.h"
 
-#include "Support/SettingKeys.h"
 #include "Support/RemoteSwitches/RemoteConfig.h"
+#include "Support/SettingKeys.h"
 #include "Support/StartUp/RunningProgram.h"
 #include "fakes/FixedWidthTexts.h"
 #include "icu/IcuCalendar.h"
