@@ -32,7 +32,7 @@ CollectionFlick {
             origin.x: swatch.width / 2
             xScale: strip.reversed ? -1 : 1
         }
-        activeFocusOnTab: false
+        activeFocusOnTab: activeFocus // or Tab would start over from the top of the window
         onActiveFocusChanged: {
             strip.walked = activeFocus;
             if (activeFocus)

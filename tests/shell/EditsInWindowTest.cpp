@@ -1,0 +1,343 @@
+#include "DemoPhotos.h"
+#include "Event/EventContext.h"
+#include "Event/EventItem.h"
+#include "Interface/CollectionView.h"
+#include "Interface/TabBarController.h"
+#include "Ports/Clock.h"
+#include "Support/SettingKeys.h"
+#include "UnsplashPicker/PhotoCell.h"
+#include "UnsplashPicker/UnsplashPicker.h"
+#include "app/Composition.h"
+#include "fakes/RecordingConsole.h"
+#include "hand/Hand.h"
+#include "sqlite/SqliteEventStore.h"
+#include "sqlite/SqliteNotificationQueue.h"
+#include "sqlite/SqliteSavedSettings.h"
+#include "support/TemporaryFolder.h"
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QImage>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+#include <ostream>
+#include <stdexcept>
+
+namespace tessivo {
+namespace {
+
+/// 21 June 2030, 10:30:15 in Berlin.
+class StillClock final : public Clock {
+public:
+    Instant now() const override { return instantAt(1908261015); }
+};
+
+enum class Acts { Touch, Keyboard };
+enum class From { List, FullScreen };
+
+struct Way {
+    Acts acts;
+    From from;
+};
+
+void PrintTo(const Way& way, std::ostream* out) {
+    *out << (way.acts == Acts::Touch ? "by touch" : "by the keyboard")
+         << (way.from == From::List ? " from the list" : " from the full screen");
+}
+
+/// Whether a person sees the same. Through OpenGL a glyph may move by a fraction of a pixel.
+bool lookAlike(const QImage& one, const QImage& other) {
+    constexpr int visible = 64; // of 255, in one colour
+    constexpr int pixels = 8;
+    if (one.size() != other.size())
+        return false;
+    int apart = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QColor a = one.pixelColor(x, y);
+            const QColor b = other.pixelColor(x, y);
+            apart += std::max({std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                               std::abs(a.blue() - b.blue())}) > visible;
+        }
+    }
+    return apart < pixels;
+}
+
+/// The whole program in its window, with the one stored event "Summer", and all acts done in the way that is
+/// the test's parameter. The keyboard finds what it presses by Tab alone.
+class EditsInWindowTest : public testing::TestWithParam<Way> {
+protected:
+    EditsInWindowTest() {
+        EventRecord summer{.title = "Summer",
+                           .dateEvent = "25 June 2030",
+                           .timeEvent = "6:30 PM",
+                           .repEvent = 0,
+                           .alertReminder = 2,
+                           .repReminder = 0,
+                           .remMess = "Pack",
+                           .timeFormat = 1,
+                           .color = 4,
+                           .gradient = NO_VALUE,
+                           .photoPath = {},
+                           .unsplashPath = {},
+                           .eventType = true,
+                           .id = Uuid::fromString("0F0E0D0C-0B0A-0908-0706-050403020100")};
+        NotificationRequest reminder{summer.id->uuidString(), {*summer.title, *summer.remMess, true}, {}};
+        reminder.trigger.dateComponents = {
+            .year = 2030, .month = 6, .day = 25, .hour = 18, .minute = 20, .second = 0};
+        sqlite::SqliteSavedSettings settings(folder.path() / "settings.sqlite", console);
+        settings.setBoolean(settingKeys::isFirstLaunch, true);
+        settings.setInteger(settingKeys::defaultScreen, 1); // what lies ahead
+        EXPECT_EQ(queue.setAuthorization(AuthorizationStatus::Authorized), std::nullopt);
+        EXPECT_EQ(queue.add(reminder), std::nullopt);
+        sqlite::SqliteEventStore store(folder.path() / "events.sqlite");
+        EventContext context(store);
+        EXPECT_FALSE(store.load());
+        context.insert(std::move(summer));
+        EXPECT_FALSE(context.save());
+        start();
+    }
+
+    /// Ends the program, if it runs, and starts it on the same folder; ends on the list with the event.
+    void start() {
+        hand.reset();
+        program.reset();
+        program = std::make_unique<Composition>(
+            Machine::Settings{folder.path(), folder.path() / "cache", "en", [] {}, photos.address()}, clock,
+            console);
+        program->start();
+        QQuickWindow& window = *program->shell().window();
+        window.requestActivate();
+        EXPECT_TRUE(runUntil([&] { return window.isExposed() && window.isActive(); }));
+        hand = std::make_unique<Hand>(window);
+        settle();
+    }
+
+    [[nodiscard]] static bool byTouch() { return GetParam().acts == Acts::Touch; }
+
+    /// Until nothing moves any more and no thread has anything left to do.
+    void settle() {
+        constexpr std::chrono::milliseconds longestMotion{900};
+        for (int part = 0; part < 6; ++part) {
+            virtualtime::pass(longestMotion / 6);
+            program->machine().waitForThreads();
+        }
+    }
+
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        hand->press(key, modifiers);
+        virtualtime::step();
+    }
+
+    /// What a screen reader says of the control that has the keyboard.
+    [[nodiscard]] static QString focused() {
+        auto* item = qobject_cast<QQuickItem*>(QGuiApplication::focusObject());
+        for (; item; item = item->parentItem())
+            if (const QString name = accessibleName(*item); !name.isEmpty())
+                return name;
+        return {};
+    }
+
+    /// Tabs to the control of that name.
+    void reach(const std::string& name) {
+        std::string met;
+        for (int stops = 0; stops < 40; ++stops) {
+            if (focused() == QString::fromStdString(name))
+                return;
+            key(Qt::Key_Tab);
+            met += "\n  " + focused().toStdString();
+        }
+        throw std::runtime_error("Tab does not come to \"" + name + "\", only to" + met);
+    }
+
+    void press(const std::string& name) {
+        if (byTouch()) {
+            hand->tap(QString::fromStdString(name));
+        } else {
+            reach(name);
+            key(Qt::Key_Return);
+        }
+        settle();
+    }
+
+    void openEdit(const std::string& title) {
+        if (GetParam().from == From::FullScreen) {
+            press(cardName());
+            press("Menu");
+        } else if (byTouch()) {
+            const QPointF middle = cardPlace().center();
+            hand->drag(middle + QPointF(100, 0), middle - QPointF(80, 0));
+            settle();
+        } else {
+            reach(cardName());
+            key(Qt::Key_Menu);
+            settle();
+        }
+        press("Edit");
+        press(title);
+    }
+
+    void changeTitle() {
+        if (byTouch()) {
+            hand->tap(QStringLiteral("Add a title"));
+            hand->commit(QStringLiteral("x"));
+        } else {
+            key(Qt::Key_End);
+            key(Qt::Key_X);
+        }
+    }
+
+    void moveDayAhead() {
+        press("25 June 2030");
+        if (byTouch()) {
+            constexpr double oneRow = 36 + 12; // and what tells a drag from a tap
+            const QPointF wheel = hand->placeOf(QStringLiteral("25")).center();
+            hand->drag(wheel, wheel - QPointF(0, oneRow));
+            settle();
+        } else {
+            reach("25");
+            key(Qt::Key_Down);
+        }
+    }
+
+    void remindAnHourBefore() {
+        press("10 minutes before");
+        press("1 hour before");
+        if (byTouch())
+            hand->tapAt({program->shell().window()->width() / 2.0, 40}); // beside the sheet
+        else
+            key(Qt::Key_Escape);
+        settle();
+    }
+
+    void chooseColor() {
+        if (byTouch()) {
+            press("Color 2");
+        } else {
+            reach("Color 1");
+            key(Qt::Key_Right);
+            key(Qt::Key_Return);
+        }
+    }
+
+    void choosePhoto() {
+        press("Image by Unsplash");
+        const auto& browser = dynamic_cast<unsplash::UnsplashPicker&>(*program->stack().top())
+                                  .photoPickerViewController()
+                                  .collectionView;
+        press(static_cast<unsplash::PhotoCell&>(*browser.cellForItem(1)).photoView.accessibilityName());
+        press("Save");
+    }
+
+    [[nodiscard]] const ui::CollectionViewCell& card() const {
+        const auto& tabs = dynamic_cast<ui::TabBarController&>(*program->stack().top());
+        auto& list =
+            dynamic_cast<ui::CollectionView&>(*tabs.selectedViewController()->controls.find("collection"));
+        if (list.numberOfItems() != 1)
+            throw std::runtime_error("The event is not in the list");
+        return *list.cellForItem(0);
+    }
+    [[nodiscard]] std::string cardName() const { return card().accessibilityName(); }
+    [[nodiscard]] QRectF cardPlace() const { return hand->placeOf(QString::fromStdString(cardName())); }
+    [[nodiscard]] QImage cardPicture() const {
+        QQuickWindow& window = *program->shell().window();
+        const double scale = window.effectiveDevicePixelRatio();
+        const QRectF place = cardPlace().adjusted(6, 6, -6, -6); // inside the ring of the keyboard
+        return window.grabWindow().copy(QRectF(place.topLeft() * scale, place.size() * scale).toRect());
+    }
+
+    /// What is pending, with its time.
+    [[nodiscard]] std::string reminders() {
+        std::string told;
+        for (const auto& [sequence, request] : *queue.pending().value()) {
+            const auto& when = request.trigger.dateComponents;
+            told += request.content.title + "/" + request.content.body + " " +
+                    std::to_string(when.day.value_or(0)) + "." + std::to_string(when.month.value_or(0)) +
+                    ". " + std::to_string(when.hour.value_or(0)) + ":" +
+                    std::to_string(when.minute.value_or(0));
+        }
+        return told;
+    }
+
+    TemporaryFolder folder;
+    StillClock clock;
+    fakes::RecordingConsole console;
+    DemoPhotos photos;
+    sqlite::SqliteNotificationQueue queue{folder.path() / "reminders.sqlite", console};
+    std::unique_ptr<Composition> program;
+    std::unique_ptr<Hand> hand;
+};
+
+TEST_P(EditsInWindowTest, EachEditShowsOnTheCardMovesTheReminderAndSurvivesARestart) {
+    const struct {
+        const char* edit;
+        std::function<void()> change;
+        const char* card;
+        bool looksNew;
+        const char* reminders;
+    } edits[] = {
+        {"Edit Title", [this] { changeTitle(); }, "Summerx, 25 June 2030", true, "Summerx/Pack 25.6. 18:20"},
+        {"Edit Day & Time", [this] { moveDayAhead(); }, "Summerx, 26 June 2030", true,
+         "Summerx/Pack 26.6. 18:20"},
+        {"Edit Reminder", [this] { remindAnHourBefore(); }, "Summerx, 26 June 2030", false,
+         "Summerx/Pack 26.6. 17:30"},
+        {"Edit Background", [this] { chooseColor(); }, "Summerx, 26 June 2030", true,
+         "Summerx/Pack 26.6. 17:30"},
+        {"Edit Background", [this] { choosePhoto(); }, "Summerx, 26 June 2030", true,
+         "Summerx/Pack 26.6. 17:30"},
+    };
+    for (const auto& [edit, change, name, looksNew, pending] : edits) {
+        SCOPED_TRACE(edit);
+        const QImage before = cardPicture();
+        openEdit(edit);
+        change();
+        press("Save");
+        EXPECT_TRUE(cardName().starts_with(name)) << cardName();
+        const QImage after = cardPicture();
+        EXPECT_EQ(lookAlike(after, before), !looksNew);
+        EXPECT_EQ(reminders(), pending);
+        const std::string saved = cardName();
+        start();
+        EXPECT_EQ(cardName(), saved);
+        EXPECT_TRUE(lookAlike(cardPicture(), after));
+        EXPECT_EQ(reminders(), pending);
+    }
+}
+
+TEST_P(EditsInWindowTest, EscapeLeavesEachScreenAndChangesNothing) {
+    const auto top = [this] { return program->stack().top()->screenName(); };
+    press("Future");
+    press(cardName());
+    EXPECT_EQ(top(), "FullEventViewController");
+    key(Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(top(), "CustomTabBarController");
+    openEdit("Edit Title");
+    changeTitle();
+    EXPECT_EQ(top(), "EditEventTitleViewController");
+    key(Qt::Key_Escape);
+    settle();
+    if (GetParam().from == From::FullScreen) {
+        EXPECT_EQ(top(), "FullEventViewController");
+        key(Qt::Key_Escape);
+        settle();
+    }
+    EXPECT_EQ(top(), "CustomTabBarController");
+    EXPECT_TRUE(cardName().starts_with("Summer, 25 June 2030")) << cardName();
+    EXPECT_EQ(reminders(), "Summer/Pack 25.6. 18:20");
+}
+
+INSTANTIATE_TEST_SUITE_P(Ways, EditsInWindowTest,
+                         testing::Values(Way{Acts::Touch, From::List}, Way{Acts::Touch, From::FullScreen},
+                                         Way{Acts::Keyboard, From::List},
+                                         Way{Acts::Keyboard, From::FullScreen}));
+
+} // namespace
+} // namespace tessivo
