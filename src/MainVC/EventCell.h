@@ -8,6 +8,8 @@
 #include "Support/SharedServices.h"
 #include "SwipeCells/SwipeCollectionViewCell.h"
 
+#include <memory>
+
 namespace tessivo {
 
 class EventCoreData;
@@ -18,7 +20,8 @@ class EventCoreData;
 /// still while it is on the screen, and move when the list is made anew.
 class EventCell final : public swipe::SwipeCollectionViewCell {
 public:
-    explicit EventCell(SharedServices& services);
+    /// `event` is shared by the cells of a list: its date formatters are dear in time and memory.
+    EventCell(SharedServices& services, std::shared_ptr<const StoredEvent> event);
 
     ui::Label timeLabel{controls, "timeLabel"};
     ui::Label eventInformationLabel{controls, "eventInformationLabel"};
@@ -35,7 +38,7 @@ public:
 private:
     SharedServices& services_;
     const Instant currentDate;
-    const StoredEvent event_;
+    const std::shared_ptr<const StoredEvent> event_;
 };
 
 } // namespace tessivo
