@@ -14,13 +14,12 @@ constexpr std::size_t maximumBody = 16u << 20u; // bytes
 
 void ImageDownloader::download(const Url& url, PixelSize size, Completion completion) {
     cancel();
+    ui::PictureLoader::Request request;
+    request.http = {.url = url.absoluteString(), .timeout = timeout, .maximumBody = maximumBody};
+    request.covering = size;
+    request.cache = services_.imageCache();
     imageDataTask = services_.pictures().load(
-        {.http = {.url = url.absoluteString(), .timeout = timeout, .maximumBody = maximumBody},
-         .covering = size,
-         .cache = services_.imageCache(),
-         .failureLine = {}},
-        [this, completion = std::move(completion)](const std::shared_ptr<const Bitmap>& picture,
-                                                   bool cached) {
+        std::move(request), [this, completion = std::move(completion)](const auto& picture, bool cached) {
             imageDataTask.reset();
             if (picture)
                 completion({{}, picture}, cached);
