@@ -6,6 +6,8 @@
 #include <unicode/calendar.h>
 #include <unicode/smpdtfmt.h>
 
+#include <map>
+#include <mutex>
 #include <utility>
 
 namespace tessivo {
@@ -13,10 +15,10 @@ namespace {
 
 /// Formats in the zone, but reads in GMT, where every wall time exists, and only then asks the zone for the
 /// moment. A strict calendar in the zone would refuse a day without a midnight.
-class IcuDateFormatter final : public DateFormatter {
+class IcuFormat final {
 public:
-    IcuDateFormatter(std::string_view pattern, const icu::Locale& locale,
-                     std::shared_ptr<const icu::BasicTimeZone> zone)
+    IcuFormat(std::string_view pattern, const icu::Locale& locale,
+              std::shared_ptr<const icu::BasicTimeZone> zone)
         : zone_(std::move(zone)) {
         UErrorCode status = U_ZERO_ERROR;
         const auto letters =
@@ -29,14 +31,18 @@ public:
         reading_->setTimeZone(*icu::TimeZone::getGMT());
     }
 
-    std::string string(Instant instant) const override {
+    [[nodiscard]] const icu::BasicTimeZone& zone() const { return *zone_; }
+
+    std::string string(Instant instant) {
+        const std::scoped_lock lock(mutex_);
         icu::UnicodeString text;
         format_->format(secondsSince1970(instant) * 1000, text);
         std::string result;
         return text.toUTF8String(result);
     }
 
-    std::optional<Instant> date(std::string_view text) const override {
+    std::optional<Instant> date(std::string_view text) {
+        const std::scoped_lock lock(mutex_);
         const auto letters =
             icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<int>(text.size())));
         icu::ParsePosition position(0);
@@ -55,16 +61,53 @@ private:
     std::shared_ptr<const icu::BasicTimeZone> zone_;
     std::unique_ptr<icu::SimpleDateFormat> format_;
     std::unique_ptr<icu::Calendar> reading_;
+    std::mutex mutex_;
+};
+
+class IcuDateFormatter final : public DateFormatter {
+public:
+    explicit IcuDateFormatter(std::shared_ptr<IcuFormat> format) : format_(std::move(format)) {}
+
+    std::string string(Instant instant) const override { return format_->string(instant); }
+    std::optional<Instant> date(std::string_view text) const override { return format_->date(text); }
+
+private:
+    const std::shared_ptr<IcuFormat> format_;
 };
 
 } // namespace
 
+/// The formats that are in use. One takes about 30 kB once it has read a text, and screens that stay below
+/// others keep theirs: whoever wants the same one shares it.
+class IcuDateFormatters::Formats final {
+public:
+    std::shared_ptr<IcuFormat> format(const std::string& locale, std::string_view pattern,
+                                      const std::shared_ptr<const icu::BasicTimeZone>& zone) {
+        const std::scoped_lock lock(mutex_);
+        auto& known = formats_[{locale, std::string(pattern)}];
+        auto format = known.lock();
+        if (!format || &format->zone() != zone.get()) {
+            format = std::make_shared<IcuFormat>(pattern, icu::Locale(locale.c_str()), zone);
+            known = format;
+        }
+        return format;
+    }
+
+private:
+    std::map<std::pair<std::string, std::string>, std::weak_ptr<IcuFormat>> formats_;
+    std::mutex mutex_;
+};
+
+IcuDateFormatters::IcuDateFormatters() : formats_(std::make_unique<Formats>()) {}
+
 IcuDateFormatters::IcuDateFormatters(std::string locale, const std::string& timeZone)
-    : locale_(std::move(locale)), zone_(timeZone) {}
+    : locale_(std::move(locale)), zone_(timeZone), formats_(std::make_unique<Formats>()) {}
+
+IcuDateFormatters::~IcuDateFormatters() = default;
 
 std::unique_ptr<DateFormatter> IcuDateFormatters::make(std::string_view pattern) const {
     const std::string name = locale_.empty() ? deviceLocale(LocalePurpose::Dates) : locale_;
-    return std::make_unique<IcuDateFormatter>(pattern, icu::Locale(name.c_str()), zone_.current());
+    return std::make_unique<IcuDateFormatter>(formats_->format(name, pattern, zone_.current()));
 }
 
 } // namespace tessivo

@@ -3,6 +3,7 @@
 #include "Ports/DateFormatter.h"
 #include "icu/DeviceZone.h"
 
+#include <memory>
 #include <string>
 
 namespace tessivo {
@@ -12,16 +13,20 @@ namespace tessivo {
 class IcuDateFormatters final : public DateFormatters {
 public:
     /// The device's locale and time zone, looked at anew for each formatter.
-    IcuDateFormatters() = default;
+    IcuDateFormatters();
 
     /// A fixed locale ("fa_IR") and time zone ("Asia/Tehran").
     IcuDateFormatters(std::string locale, const std::string& timeZone);
+    ~IcuDateFormatters() override;
 
     std::unique_ptr<DateFormatter> make(std::string_view pattern) const override;
 
 private:
+    class Formats;
+
     std::string locale_; ///< empty: the device's
     DeviceZone zone_;
+    std::unique_ptr<Formats> formats_;
 };
 
 } // namespace tessivo

@@ -7,8 +7,6 @@
 #include "Ports/Console.h"
 #include "Support/CardSize.h"
 
-#include <utility>
-
 namespace tessivo {
 namespace {
 
@@ -16,7 +14,7 @@ constexpr double cardCornerRadius = 24;
 
 } // namespace
 
-EventCell::EventCell(SharedServices& services, std::shared_ptr<const StoredEvent> event)
+EventCell::EventCell(SharedServices& services)
     : SwipeCollectionViewCell({services.window().animations,
                                services.platform().mainQueue,
                                services.platform().textMeasuring,
@@ -24,7 +22,7 @@ EventCell::EventCell(SharedServices& services, std::shared_ptr<const StoredEvent
                                {}}),
       services_(services),
       currentDate(services.platform().clock.now()),
-      event_(std::move(event)) {
+      event_(services.platform()) {
     setCornerRadius(cardCornerRadius);
     contentView.setCornerRadius(cardCornerRadius);
     photoImage.setCornerRadius(cardCornerRadius);
@@ -47,9 +45,9 @@ void EventCell::prepareForReuse() {
 void EventCell::configure(const EventCoreData& row) {
     const auto& screen = services_.window().screen;
     const ui::Size size = cardSize(savedEventSize(services_.platform()), screen);
-    showBackground(event_->background(row), contentView, photoImage, size, services_);
-    eventInformationLabel.setStyledText(makeEventCardText(event_->dateText(row), event_->title(row), screen));
-    if (const auto counter = event_->counter(row, currentDate, unitWords))
+    showBackground(event_.background(row), contentView, photoImage, size, services_);
+    eventInformationLabel.setStyledText(makeEventCardText(event_.dateText(row), event_.title(row), screen));
+    if (const auto counter = event_.counter(row, currentDate, unitWords))
         timeLabel.setStyledText(makeEventCardText(counter->unit, counter->number, screen));
     if (!row.id())
         services_.platform().console.stopProgram("An event on a card has no id.");

@@ -8,8 +8,6 @@
 #include "Support/SharedServices.h"
 #include "SwipeCells/SwipeCollectionViewCell.h"
 
-#include <memory>
-
 namespace tessivo {
 
 class EventCoreData;
@@ -20,8 +18,7 @@ class EventCoreData;
 /// still while it is on the screen, and move when the list is made anew.
 class EventCell final : public swipe::SwipeCollectionViewCell {
 public:
-    /// `event` is shared by the cells of a list: its date formatters are dear in time and memory.
-    EventCell(SharedServices& services, std::shared_ptr<const StoredEvent> event);
+    explicit EventCell(SharedServices& services);
 
     ui::Label timeLabel{controls, "timeLabel"};
     ui::Label eventInformationLabel{controls, "eventInformationLabel"};
@@ -38,7 +35,7 @@ public:
 private:
     SharedServices& services_;
     const Instant currentDate;
-    const std::shared_ptr<const StoredEvent> event_;
+    const StoredEvent event_;
 };
 
 } // namespace tessivo

@@ -50,9 +50,7 @@ void MainViewController::viewDidLoad() {
     mainlabel.setText(texts().addEvent);
     collection.setBackgroundColor(ui::ColorRef::named("mainBack"));
     collection.registerCell(reuseIdentifier,
-                            [&shared = services(), event = std::make_shared<const StoredEvent>(platform())] {
-                                return std::make_shared<EventCell>(shared, event);
-                            });
+                            [&shared = services()] { return std::make_shared<EventCell>(shared); });
     collection.dataSource = weakSelf<ui::CollectionViewDataSource>(this);
     collection.delegate = weakSelf<ui::CollectionViewDelegate>(this);
     collection.setFrame(view().bounds());

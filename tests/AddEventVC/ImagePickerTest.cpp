@@ -102,8 +102,7 @@ TEST_F(ImagePickerTest, TheFramedPartIsPreviewedAndTheFileBecomesTheBackground) 
     program.restart();
     const auto row = program.services().coreDataStack().fetchEvents().front();
     EXPECT_EQ(row->photoPath(), "file:///photos/1.jpg");
-    const auto cell = std::make_shared<EventCell>(
-        program.services(), std::make_shared<StoredEvent>(program.services().platform()));
+    const auto cell = std::make_shared<EventCell>(program.services());
     cell->configure(*row);
     EXPECT_EQ(program.http.exchanges().back()->request.url, row->photoPath());
     program.http.answer(HttpResponse{std::nullopt, {}, *program.images.png(stripes(20, 5))});
@@ -248,8 +247,7 @@ TEST_F(ImagePickerTest, ASourceWithoutAnAddressLeavesTheEventWithoutABackground)
     chooser->nextButton.tap();
     program.settle();
     const auto row = program.services().coreDataStack().fetchEvents().front();
-    const auto cell = std::make_shared<EventCell>(
-        program.services(), std::make_shared<StoredEvent>(program.services().platform()));
+    const auto cell = std::make_shared<EventCell>(program.services());
     EXPECT_THROW(cell->configure(*row), fakes::ProgramStopped);
 }
 

@@ -119,8 +119,7 @@ TEST_F(PictureTest, WhatIsInViewBecomesTheBackground) {
     EXPECT_THAT(program.console.take(), ElementsAre("Изображение сохранено по пути: " + path, "false"));
     EXPECT_THAT(*program.documents.read("photo-1.jpg"), StartsWith("\xff\xd8"));
     const auto rows = program.services().coreDataStack().fetchEvents();
-    const auto cell = std::make_shared<EventCell>(
-        program.services(), std::make_shared<StoredEvent>(program.services().platform()));
+    const auto cell = std::make_shared<EventCell>(program.services());
     cell->configure(*rows.front());
     ASSERT_EQ(cell->photoImage.image().bitmap->height, 10);
     EXPECT_NEAR(redAt(*cell->photoImage.image().bitmap, 4), 190, 4) << "as good as a file can be";

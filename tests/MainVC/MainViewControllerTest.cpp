@@ -203,7 +203,7 @@ TEST_F(ListTest, RowsThatBreakTheRecordStopTheProgram) {
     for (const auto& [what, spoil] : cases) {
         EventItem broken = event("broken", "25 June 2030");
         spoil(broken);
-        EventCell cell(program.services(), std::make_shared<StoredEvent>(program.services().platform()));
+        EventCell cell(program.services());
         EventRecord record;
         record.title = broken.title;
         record.dateEvent = broken.dateEvent;
