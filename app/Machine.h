@@ -71,7 +71,7 @@ public:
     [[nodiscard]] QtFrameClock& frameClock() { return frameClock_; }
     [[nodiscard]] shell::QuickSnapshots& snapshots() { return snapshots_; }
     [[nodiscard]] QueuedNotificationCenter& notificationCenter() { return notificationCenter_; }
-    /// What the machine's side tells the user.
+    /// The texts of the machine's own windows and alerts.
     [[nodiscard]] const LocalizedTexts& machineTexts() const { return machineTexts_; }
     [[nodiscard]] ReviewPrompt& reviews() { return reviews_; }
 

@@ -8,7 +8,7 @@
 
 namespace tessivo::fakes {
 
-/// Where no window draws: gives every view the same picture, and remembers whose it was asked for.
+/// Without a window: gives every view the same picture, and records the requests.
 class CannedSnapshots final : public ui::ViewSnapshots {
 public:
     explicit CannedSnapshots(MainQueue& queue) : queue_(queue) {}

@@ -45,7 +45,7 @@ public:
     /// The user changes their mind on the settings page.
     void setStatus(AuthorizationStatus status) { status_ = status; }
 
-    /// Every later add fails with `error`, until told otherwise by an empty one.
+    /// Every later add fails with `error`, until it is reset by an empty one.
     void failAdds(Outcome error) { addFailure_ = std::move(error); }
 
     [[nodiscard]] const std::vector<NotificationRequest>& pending() const { return pending_; }

@@ -21,7 +21,7 @@ struct QueueDisk {
     Outcome writeFailure; ///< every change ends in it while it is set
 };
 
-/// A notification queue in memory that can be told to fail.
+/// A notification queue in memory that can be made to fail.
 class FakeNotificationQueue final : public NotificationQueue {
 public:
     explicit FakeNotificationQueue(QueueDisk& disk) : disk_(disk) {}

@@ -8,8 +8,8 @@
 
 namespace tessivo::fakes {
 
-/// A wall alarm on the virtual time line. Setting the line's wall clock is told by `clockWasSet`, which
-/// stands for the machine's own notice, and for its resuming from a suspend.
+/// A wall alarm on the virtual time line. A change of the line's wall clock is announced by `clockWasSet`,
+/// which stands for the machine's own notice, and for its resuming from a suspend.
 class FakeWallAlarm final : public WallAlarm {
 public:
     explicit FakeWallAlarm(Timeline& line) : line_(line) {}

@@ -7,7 +7,7 @@
 
 namespace tessivo::fakes {
 
-/// An event store in memory, which can be told to fail.
+/// An event store in memory that can be made to fail.
 class MemoryEventStore final : public EventStore {
 public:
     std::optional<LoadFailure> load() override;

@@ -23,7 +23,7 @@ using namespace tessivo;
 
 enum class Ending { Failed, Done, Replaced };
 
-/// Shows reminders until it is asked to end. All that it has made is gone when it returns.
+/// Shows reminders until it is asked to quit. Everything it made is destroyed when it returns.
 Ending run(const std::filesystem::path& program, Console& console) {
     auto loop = freedesktop::EventLoop::make();
     if (!loop) {

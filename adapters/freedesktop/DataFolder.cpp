@@ -18,7 +18,7 @@ std::filesystem::path homeFolder() {
 } // namespace
 
 std::filesystem::path dataFolder() {
-    // A relative path counts for nothing: it would mean another folder from each place.
+    // A relative path is ignored: its meaning would depend on the current folder.
     if (const char* folder = std::getenv("XDG_DATA_HOME"); folder != nullptr && *folder == '/')
         return std::filesystem::path(folder) / "tessivo";
     return homeFolder() / ".local/share/tessivo";

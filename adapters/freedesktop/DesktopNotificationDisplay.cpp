@@ -118,9 +118,9 @@ int DesktopNotificationDisplay::notificationCame(sd_bus_message* reply, void* da
 }
 
 void DesktopNotificationDisplay::finish(Call& call, const Result<std::string>& answer) {
-    const auto told = std::move(call.answer);
+    const auto callback = std::move(call.answer);
     calls_.erase(call.self);
-    told(answer);
+    callback(answer);
 }
 
 int DesktopNotificationDisplay::ownerChanged(sd_bus_message* signal, void* data, sd_bus_error*) {

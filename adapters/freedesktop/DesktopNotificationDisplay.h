@@ -13,7 +13,7 @@ namespace tessivo::freedesktop {
 class SessionBus;
 
 /// The notification daemon of the desktop. A token names the bus, the daemon on it and the daemon's number of
-/// the notification, so that a number that another daemon gives again is no confusion. The bus must outlive
+/// the notification, so that the same number from another daemon is not mistaken for it. The bus must outlive
 /// it.
 class DesktopNotificationDisplay final : public NotificationDisplay {
 public:

@@ -10,7 +10,7 @@ namespace tessivo::freedesktop {
 class EventLoop;
 
 /// Calls `changed` whenever another file has come under the name of `file`, or it has been written and
-/// closed, for as long as the handle is held. A file whose folder cannot be watched is never heard of.
+/// closed, for as long as the handle is held. For a file whose folder cannot be watched it is never called.
 [[nodiscard]] Subscription watchFile(EventLoop& loop, const std::filesystem::path& file,
                                      std::function<void()> changed);
 

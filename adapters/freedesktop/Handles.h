@@ -7,7 +7,7 @@
 
 namespace tessivo::freedesktop {
 
-/// Lets go of what libsystemd has handed out.
+/// Releases what libsystemd has handed out.
 struct Unref {
     void operator()(sd_bus* bus) const { sd_bus_flush_close_unref(bus); }
     void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }

@@ -19,7 +19,7 @@ struct LeadByte {
 constexpr std::array<LeadByte, 4> leadBytes{
     {{0x80, 0x00, 1, 0x01}, {0xE0, 0xC0, 2, 0x80}, {0xF0, 0xE0, 3, 0x800}, {0xF8, 0xF0, 4, 0x10000}}};
 
-/// The length of the character that `text` begins with; 0 where it begins with none.
+/// The length of the character that `text` begins with; 0 if it begins with no valid one.
 std::size_t lengthOfCharacter(std::string_view text) {
     const auto first = static_cast<unsigned char>(text.front());
     const auto lead = std::ranges::find_if(

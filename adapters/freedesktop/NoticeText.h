@@ -5,7 +5,7 @@
 
 namespace tessivo::freedesktop {
 
-/// `text` with what the bus would refuse, bytes that are no UTF-8 and zeros, replaced by U+FFFD.
+/// `text` with what the bus would refuse, invalid UTF-8 and zero bytes, replaced by U+FFFD.
 [[nodiscard]] std::string validText(std::string_view text);
 
 /// `text` such that a desktop which reads markup shows it as it stands.

@@ -11,7 +11,7 @@ namespace tessivo::freedesktop {
 
 class SessionBus;
 
-/// Whether version `left` ("1.10.2") comes after `right`. A part that is no number counts as 0.
+/// Whether version `left` ("1.10.2") comes after `right`. A part that is not a number counts as 0.
 [[nodiscard]] bool isNewerVersion(std::string_view left, std::string_view right);
 
 /// The helper's place on the bus: at most one process has it, and only that one shows reminders. The bus must
@@ -52,7 +52,7 @@ private:
     Owned<sd_bus_slot> acquired_;
 };
 
-/// Tells the helper that the queue has changed, and starts it where it does not run: by way of the bus, or,
+/// Notifies the helper that the queue has changed, and starts it if it is not running: over the bus, or,
 /// where nothing is installed, from the build that this program is of. Does nothing without a session bus.
 /// Not for the main thread: it waits until the helper has answered.
 void tellReminderHelper();

@@ -17,7 +17,7 @@ public:
 
     [[nodiscard]] sd_bus* handle() const { return bus_.get(); }
 
-    /// What tells this bus from every other that there ever was.
+    /// A unique id of this bus connection.
     [[nodiscard]] std::string identity() const;
 
 private:

@@ -11,7 +11,7 @@ namespace tessivo::freedesktop {
 class EventLoop;
 
 /// The kernel's timer on the wall clock, which also rings when somebody sets the clock and when the machine
-/// resumes from a suspend. Where the kernel gives no timer, the console is told and the loop looks at the
+/// resumes from a suspend. Where the kernel gives no timer, the console says so and the loop checks the
 /// clock every half minute instead. Loop and console must outlive it and its handles.
 class TimerfdAlarm final : public WallAlarm {
 public:

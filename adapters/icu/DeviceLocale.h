@@ -6,7 +6,7 @@
 
 namespace tessivo {
 
-/// What a locale is asked for: how dates are written, or the language of the texts.
+/// What a locale is used for: how dates are written, or the language of the texts.
 enum class LocalePurpose { Dates, Texts };
 
 /// The device's locale as an ICU name ("de_DE"), from the first of these environment variables that says

@@ -20,7 +20,7 @@ public:
     explicit DeviceZone(const std::string& name);
 
     /// The zone as it stands now. The same object as long as nothing changed, so that comparing pointers
-    /// tells a change. Costs one look at the environment and at the file's date.
+    /// detects a change. Costs one look at the environment and at the file's date.
     [[nodiscard]] std::shared_ptr<const icu::BasicTimeZone> current() const;
 
 private:

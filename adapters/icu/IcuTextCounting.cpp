@@ -13,7 +13,7 @@ constexpr UChar32 replacement = 0xFFFD;
 // The macro narrows integers by design.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wconversion"
-/// The character at `at`, which is moved behind it; negative for bytes that are none.
+/// The character at `at`, which is moved behind it; negative for invalid bytes.
 UChar32 next(const char* text, std::int32_t& at, std::int32_t length) {
     UChar32 character = 0;
     U8_NEXT(text, at, length, character);

@@ -9,7 +9,7 @@ namespace tessivo {
 /// The texts of one language from one JSON object: {"key": "text", ...}.
 class JsonLocalizedTexts final : public LocalizedTexts {
 public:
-    /// No texts at all: every key stands for itself.
+    /// No texts at all: every key is returned as it is.
     JsonLocalizedTexts() = default;
 
     static Result<JsonLocalizedTexts> fromJson(std::string_view json);

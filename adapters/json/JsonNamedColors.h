@@ -12,7 +12,7 @@ namespace tessivo {
 /// A catalogue of colours from one JSON object: {"name": "#RRGGBB" or "#RRGGBBAA", ...}.
 class JsonNamedColors final : public NamedColors {
 public:
-    /// Reads and checks the whole catalogue; the error names the first colour that does not read.
+    /// Reads and checks the whole catalogue; the error names the first colour that cannot be parsed.
     static Result<JsonNamedColors> fromJson(std::string_view json);
 
     std::optional<Color> colorNamed(std::string_view name) const override;

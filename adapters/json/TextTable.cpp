@@ -45,7 +45,7 @@ Result<TextTable> readTextTable(std::string_view bytes) {
     if (!document.is_object())
         return jsonError("The table is no JSON object.");
     if (!names.twice().empty())
-        return jsonError("\"" + names.twice() + "\" stands twice in the table.");
+        return jsonError("\"" + names.twice() + "\" appears twice in the table.");
 
     TextTable table;
     for (const auto& [name, value] : document.items()) {

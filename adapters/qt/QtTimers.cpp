@@ -10,7 +10,7 @@
 namespace tessivo {
 namespace {
 
-/// Whole milliseconds, never less than asked for: a tick that comes early would find the minute unchanged.
+/// Whole milliseconds, never less than requested: a tick that comes early would find the minute unchanged.
 std::chrono::milliseconds milliseconds(Seconds time) {
     const double rounded = std::ceil(std::max(time.count(), 0.0) * 1000);
     return std::chrono::milliseconds(

@@ -17,7 +17,7 @@ class PortalRequest final : public QObject {
 public:
     using Responded = std::function<void(DesktopPortal::Answer, const QVariantMap& results)>;
 
-    /// `token` tells this program's requests apart.
+    /// `token` is unique among this program's requests.
     PortalRequest(const QDBusConnection& bus, const QString& token, Responded responded, QObject* parent);
     ~PortalRequest() override;
 

@@ -21,7 +21,7 @@ const QString pictureKind = QStringLiteral("Pictures");
 
 using Choice = PhotoLibrary::Choice;
 
-constexpr int turnedAway = 1; // what both programs end with when the user chooses nothing
+constexpr int cancelledExitCode = 1; // what both programs end with when the user chooses nothing
 
 Error failure(std::string description) {
     return {"PhotoLibrary", 1, std::move(description)};
@@ -83,7 +83,7 @@ Choice choiceOf(const QString& address) {
 
 /// What a chooser that has ended says.
 Choice choiceOf(QProcess& chooser, int code, QProcess::ExitStatus status) {
-    if (status == QProcess::NormalExit && code == turnedAway)
+    if (status == QProcess::NormalExit && code == cancelledExitCode)
         return std::optional<Url>();
     QByteArray path = chooser.readAllStandardOutput();
     if (path.endsWith('\n'))

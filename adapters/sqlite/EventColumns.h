@@ -15,7 +15,7 @@ inline constexpr std::array<const char*, eventAttributeCount> eventColumns{
 
 extern const Schema eventSchema;
 
-/// Makes the table beside the events which tells in which locale each one's dates were written, where there
+/// Creates the table beside the events that notes in which locale each one's dates were written, if there
 /// is none yet. The program never asks for it: it helps out when the dates can no longer be parsed.
 inline constexpr const char* makeDateLocales =
     "CREATE TABLE IF NOT EXISTS dateLocales(event INTEGER PRIMARY KEY, locale TEXT NOT NULL) STRICT";

@@ -291,7 +291,7 @@ auto SqliteNotificationQueue::withSession(Work work) -> decltype(work(std::declv
 }
 
 Outcome SqliteNotificationQueue::open() {
-    std::error_code ignored; // what cannot be made or locked here is told by the database
+    std::error_code ignored; // the database reports what cannot be created or locked here
     const auto folder = file_.parent_path();
     if (std::filesystem::create_directories(folder, ignored))
         std::filesystem::permissions(folder, std::filesystem::perms::owner_all, ignored);

@@ -14,7 +14,7 @@ namespace tessivo::sqlite {
 /// The queue in a database file of its own, opened at the first use; see `Database::open` for what is made.
 ///
 /// A file that is damaged, or is no queue, is renamed, together with what lies beside it, to the first free
-/// name of the form "<file>.damaged-1"; the console is told both names, and a new queue with all requests
+/// name of the form "<file>.damaged-1"; the console gets both names, and a new queue with all requests
 /// that can still be read takes its place. Another process that had the old file open goes over to the new
 /// one with its next call. A queue of a newer program is left alone, and every call fails.
 class SqliteNotificationQueue final : public NotificationQueue {

@@ -16,7 +16,7 @@ class Console;
 namespace tessivo::sqlite {
 
 /// The saved settings in a database file of their own. All are read when the object is made; where the file
-/// cannot be used the console is told once, the file stays as it is, and the settings last for this run.
+/// cannot be used the console says so once, the file stays as it is, and the settings last for this run.
 class SqliteSavedSettings final : public SavedSettings {
 public:
     SqliteSavedSettings(const std::filesystem::path& file, Console& console);

@@ -12,7 +12,7 @@ namespace tessivo::shell {
 
 class ViewItem;
 
-/// The bridge objects of one registry's controls, each made when it is first asked for and owned by `owner`.
+/// The bridge objects of one registry's controls, each made on first use and owned by `owner`.
 class ItemSet {
 public:
     ItemSet(const ui::ControlRegistry& controls, const BridgeContext& context, QObject* owner)

@@ -14,7 +14,7 @@ class QQuickItemGrabResult;
 
 namespace tessivo::shell {
 
-/// Pictures of views as a Qt Quick window draws them. Drawings that can be asked for enter themselves.
+/// Pictures of views as a Qt Quick window draws them. Items that can be captured register themselves.
 /// Outlives the window.
 class QuickSnapshots final : public QObject, public ui::ViewSnapshots {
 public:

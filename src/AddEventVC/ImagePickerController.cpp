@@ -122,13 +122,13 @@ std::optional<ui::Image> ImagePickerController::framedPart() const {
 }
 
 void ImagePickerController::cancelButtonTapped() {
-    if (const auto told = delegate.lock())
-        told->imagePickerControllerDidCancel(*this);
+    if (const auto listener = delegate.lock())
+        listener->imagePickerControllerDidCancel(*this);
 }
 
 void ImagePickerController::chooseButtonTapped() {
-    const auto told = delegate.lock();
-    if (!told)
+    const auto listener = delegate.lock();
+    if (!listener)
         return;
     const auto part = framedPart();
     const auto data = part ? platform().images.jpeg(*part->bitmap, keptQuality) : std::nullopt;
@@ -137,7 +137,7 @@ void ImagePickerController::chooseButtonTapped() {
     const auto address = platform().photoLibrary.keep(*data);
     if (!address)
         return tell(address.error().description);
-    told->imagePickerControllerDidFinishPickingMedia(
+    listener->imagePickerControllerDidFinishPickingMedia(
         *this, {imageView.image(), part, address.value().absoluteString()});
 }
 

@@ -33,7 +33,7 @@ public:
 /// The user's photo library. The desktop's chooser comes first; the chosen photo then lies under a frame of a
 /// card's shape, to be moved and enlarged. What was in the frame becomes a file of the library's own, so that
 /// the card shows what was framed, also when the photo has gone. A photo that cannot be shown or kept, or a
-/// desktop without a chooser, is told on the screen, and another photo can be chosen.
+/// desktop without a chooser, is reported on the screen, and another photo can be chosen.
 class ImagePickerController final : public Screen {
 public:
     using Screen::Screen;

@@ -18,8 +18,8 @@ public:
     LengthRule(std::string words, int limit, const TextCounting& counting, ui::Label& counter)
         : words_(std::move(words)), limit_(limit), counting_(counting), counter_(counter) {}
 
-    /// What the edit would leave in `input`; counts that on the label. Empty where it would be too long: the
-    /// whole edit is to be refused, and the label stays.
+    /// What the edit would leave in `input`; shows its count on the label. Empty where it would be too long:
+    /// the whole edit is to be refused, and the label stays.
     [[nodiscard]] std::optional<std::string> accept(const ui::TextInput& input, ui::TextRange range,
                                                     const std::string& replacement);
     /// Counts a text that is there already.

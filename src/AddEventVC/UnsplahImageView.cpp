@@ -90,9 +90,9 @@ void UnsplahImageView::saveButtonTapped() {
         platform().console.stopProgram("There is no picture to crop.");
     if (unsplash.bitmap) {
         const auto part = cropped(*unsplash.bitmap, visiblePart(*unsplash.bitmap));
-        const auto told = delegate.lock();
-        if (part && told)
-            told->didCrop({{}, part}, urlString);
+        const auto listener = delegate.lock();
+        if (part && listener)
+            listener->didCrop({{}, part}, urlString);
     }
     dismiss();
 }

@@ -20,7 +20,7 @@ struct EventItem;
 /// opened at the first operation.
 ///
 /// Updates and deletes go to the first row of that `id`; where there is none, or the store cannot be read,
-/// they do nothing. A save that fails is told on the console as "Error: " and what the store says; the change
+/// they do nothing. A failed save is logged to the console as "Error: " and the store's message; the change
 /// stays in the stack, unsaved. Main thread only. Store and console must outlive the stack.
 class CoreDataStack final {
 public:
@@ -29,7 +29,7 @@ public:
     CoreDataStack& operator=(const CoreDataStack&) = delete;
     ~CoreDataStack();
 
-    /// Told once of each write of this stack, after it is on disk.
+    /// Called once for each write of this stack, after it is on disk.
     std::weak_ptr<DataChangeDelegate> delegate;
 
     /// Called at the end of each save with the event it was for, and with the error if it failed.

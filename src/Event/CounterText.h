@@ -29,8 +29,8 @@ struct CounterText {
 };
 
 /// Whole units between `now` and `eventDate`, the part of a unit dropped, with the word of `words` for the
-/// unit. A month counts 30 days and a year 365, whatever the calendar says. A unit that is none prints "nul"
-/// and gives nothing; a count beyond 64 bits stops the program.
+/// unit. A month counts 30 days and a year 365, whatever the calendar says. An unknown unit prints "nul"
+/// and returns nothing; a count beyond 64 bits stops the program.
 [[nodiscard]] std::optional<CounterText> counterText(Instant eventDate, Instant now, int unit,
                                                      const UnitWords& words, Console& console);
 

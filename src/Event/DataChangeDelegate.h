@@ -2,7 +2,7 @@
 
 namespace tessivo {
 
-/// Hears of each write that is on disk; see `CoreDataStack::delegate`.
+/// Called after each write is on disk; see `CoreDataStack::delegate`.
 class DataChangeDelegate {
 public:
     virtual ~DataChangeDelegate() = default;

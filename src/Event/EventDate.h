@@ -15,8 +15,8 @@ inline constexpr std::string_view timeFormat = "h:mm a";
 /// A date, one blank and a time.
 inline constexpr std::string_view fullFormat = "dd MMMM yyyy h:mm a";
 
-/// The moment of an event; empty where its texts do not read in the device's present language. Without a time
-/// (absent or empty) an event begins with its day. `fullFormatter` reads `fullFormat`, `dateFormatter` reads
+/// The moment of an event; empty if its texts cannot be parsed in the device's current language. With no time
+/// (absent or empty) an event begins with its day. `fullFormatter` parses `fullFormat`, `dateFormatter`
 /// `dateFormat`.
 [[nodiscard]] std::optional<Instant> eventDateOf(const std::optional<std::string>& dateEvent,
                                                  const std::optional<std::string>& timeEvent,

@@ -4,7 +4,7 @@
 
 namespace tessivo::ui {
 
-/// A turning wheel, seen while it turns.
+/// A spinner, visible while it spins.
 class ActivityIndicator final : public View {
 public:
     using View::View;

@@ -26,7 +26,7 @@ public:
     [[nodiscard]] Insets layoutMargins() const { return margins_; }
 
     /// Works out all frames for `count` items of `itemSize` in a collection as large as `bounds`. Called
-    /// before anything is asked.
+    /// before any query.
     virtual void prepare(int count, Size itemSize, Size bounds) = 0;
     [[nodiscard]] virtual Size contentSize() const = 0;
     [[nodiscard]] virtual Rect frame(int item) const = 0;

@@ -155,8 +155,8 @@ void CollectionView::invalidateLayout() {
 /// Before any cell is asked for: past the end of content that has become shorter there is nothing to show.
 void CollectionView::prepareLayout() {
     const Point end = lastOffset();
-    const auto asked = delegate.lock();
-    const Size size = asked && count_ > 0 ? asked->sizeForItem(*this, 0) : Size{};
+    const auto listener = delegate.lock();
+    const Size size = listener && count_ > 0 ? listener->sizeForItem(*this, 0) : Size{};
     layout_->prepare(count_, size, bounds().size());
     setContentSize(layout_->contentSize());
     const auto now = contentOffset();
@@ -204,8 +204,8 @@ void CollectionView::show(int item) {
     cell->layoutIfNeeded();
     if (selected_.contains(item))
         cell->setSelected(true);
-    if (const auto told = delegate.lock())
-        told->willDisplayCell(*this, *cell, item);
+    if (const auto listener = delegate.lock())
+        listener->willDisplayCell(*this, *cell, item);
 }
 
 void CollectionView::retire(std::shared_ptr<CollectionViewCell> cell) {
@@ -255,25 +255,25 @@ void CollectionView::scrollToItem(int item, bool animated) {
 void CollectionView::tapItem(int item) {
     if (item < 0 || item >= count_ || !takesActs())
         return;
-    const auto told = delegate.lock();
+    const auto listener = delegate.lock();
     if (allowsMultipleSelection && selected_.contains(item)) {
         deselectItem(item);
-        if (told)
-            told->didDeselectItem(*this, item);
+        if (listener)
+            listener->didDeselectItem(*this, item);
         return;
     }
     selectItem(item);
-    if (told)
-        told->didSelectItem(*this, item);
+    if (listener)
+        listener->didSelectItem(*this, item);
 }
 
 bool CollectionView::holdItem(int item, Point point) {
-    const auto asked = delegate.lock();
-    if (!asked || item < 0 || item >= count_ || !takesActs())
+    const auto listener = delegate.lock();
+    if (!listener || item < 0 || item >= count_ || !takesActs())
         return false;
-    const auto menu = asked->contextMenuForItem(*this, item, point);
+    const auto menu = listener->contextMenuForItem(*this, item, point);
     if (!menu)
-        return asked->didHoldItem(*this, item);
+        return listener->didHoldItem(*this, item);
     menuClosed();
     lifted_ = cellForItem(item);
     if (lifted_)

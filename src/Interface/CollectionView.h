@@ -32,7 +32,7 @@ class CollectionViewDelegate {
 public:
     virtual ~CollectionViewDelegate() = default;
 
-    /// The size of the items, asked for item 0 once per layout: all items of a collection are of one size.
+    /// The size of all items, requested for item 0 once per layout: items of a collection share one size.
     [[nodiscard]] virtual Size sizeForItem(CollectionView&, int /*item*/) { return {}; }
     virtual void willDisplayCell(CollectionView&, CollectionViewCell&, int /*item*/) {}
     virtual void didSelectItem(CollectionView&, int /*item*/) {}
@@ -91,7 +91,7 @@ public:
         return leaving_;
     }
 
-    // Selection by the program tells no delegate.
+    // Selection by the program does not notify the delegate.
     void selectItem(int item);
     void deselectItem(int item);
     [[nodiscard]] const std::set<int>& selectedItems() const { return selected_; }

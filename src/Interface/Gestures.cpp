@@ -25,8 +25,8 @@ Point GestureRecognizer::locationIn(const View& view) const {
 bool GestureRecognizer::mayBegin() {
     if (!enabled_ || (view_ && !view_->takesActs()))
         return false;
-    const auto asked = delegate.lock();
-    return !asked || asked->gestureRecognizerShouldBegin(*this);
+    const auto listener = delegate.lock();
+    return !listener || listener->gestureRecognizerShouldBegin(*this);
 }
 
 void GestureRecognizer::enter(GestureState state) {

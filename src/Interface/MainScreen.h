@@ -8,7 +8,7 @@
 
 namespace tessivo::ui {
 
-/// The screen that the program is laid out for, in portrait. The window tells its size.
+/// The screen that the program is laid out for, in portrait. The window sets its size.
 class MainScreen {
 public:
     explicit MainScreen(Size size = {390, 844}) : size_(size) {}

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] bool isInTransition() const { return transition_ != nullptr; }
     [[nodiscard]] WindowContext& window() const { return window_; }
 
-    /// Hears when a screen has come or gone, and when a transition has ended.
+    /// `changed` is called when a screen has come or gone, and when a transition has ended.
     [[nodiscard]] Subscription onChange(std::function<void()> changed) {
         return changes_.subscribe(std::move(changed));
     }

@@ -55,13 +55,13 @@ public:
         return closings_.subscribe(std::move(closed));
     }
 
-    /// Hears the program's own scrolling, so that the window can follow.
+    /// Notified when the program scrolls, so that the window can follow.
     [[nodiscard]] Subscription onScrollRequest(std::function<void(Point offset, bool animated)> requested) {
         return scrollRequests_.subscribe(std::move(requested));
     }
 
 protected:
-    /// After the visible part has changed, by whomever.
+    /// Called after the visible part has changed, whoever changed it.
     virtual void didScroll() {}
 
 private:

@@ -15,7 +15,7 @@ public:
         notify(ViewChange::Content);
     }
     [[nodiscard]] int selectedIndex() const { return selectedIndex_; }
-    /// The program's own change: calls no target.
+    /// A change by the program: calls no target.
     void setSelectedIndex(int index) {
         selectedIndex_ = index;
         notify(ViewChange::Content);

@@ -11,8 +11,8 @@
 
 namespace tessivo::ui {
 
-/// Tells any number of subscribers, in the order in which they came. A subscriber may leave, or others join,
-/// while it is told; who joins then hears the next call. The signal may go before its subscriptions. One
+/// Calls any number of subscribers, in the order of subscription. A subscriber may leave, or others join,
+/// during a call; new ones get the next call. The signal may be destroyed before its subscriptions. One
 /// thread.
 template <class... Arguments>
 class Signal {
@@ -39,7 +39,7 @@ public:
     void emit(Arguments... arguments) const {
         if (state_->slots.empty())
             return;
-        const auto state = state_; // the owner may go while its subscribers hear of it
+        const auto state = state_; // a subscriber may destroy the owner
         ++state->depth;
         const std::size_t count = state->slots.size();
         for (std::size_t index = 0; index < count; ++index) {

@@ -10,7 +10,7 @@ public:
     using View::View;
 
     [[nodiscard]] bool isOn() const { return on_; }
-    /// The program's own change: calls no target.
+    /// A change by the program: calls no target.
     void setOn(bool on) {
         on_ = on;
         notify(ViewChange::Content);

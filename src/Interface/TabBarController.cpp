@@ -40,8 +40,8 @@ void TabBarController::select(std::size_t index) {
     if (index >= screens_.size() || !takesActs())
         return;
     setSelectedIndex(index);
-    if (const auto told = delegate.lock())
-        told->didSelectViewController(*this, *screens_[index]);
+    if (const auto listener = delegate.lock())
+        listener->didSelectViewController(*this, *screens_[index]);
 }
 
 void TabBarController::childrenWillAppear() {

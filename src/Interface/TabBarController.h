@@ -6,7 +6,7 @@ namespace tessivo::ui {
 
 class TabBarController;
 
-/// Hears which tab is shown. Held weakly.
+/// Notified of the tab that is shown. Held weakly.
 class TabBarControllerDelegate {
 public:
     virtual ~TabBarControllerDelegate() = default;
@@ -58,10 +58,10 @@ public:
     }
     [[nodiscard]] std::size_t selectedIndex() const { return selected_; }
     [[nodiscard]] ViewController* selectedViewController() const;
-    /// The program's own choice: tells no delegate. An index beyond the tabs changes nothing.
+    /// Selection by the program: the delegate is not notified. An index beyond the tabs changes nothing.
     void setSelectedIndex(std::size_t index);
 
-    /// The user taps a tab: shows it and tells the delegate, also where it shows already.
+    /// The user taps a tab: shows it and notifies the delegate, even if it is shown already.
     void select(std::size_t index);
 
     /// Hears when other screens stand in the tabs, or when another shows.

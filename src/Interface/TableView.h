@@ -22,9 +22,9 @@ public:
     /// Takes the place of all rows before; the selection is forgotten.
     void setRows(std::vector<std::shared_ptr<TableViewCell>> rows, double rowHeight);
     [[nodiscard]] const std::vector<std::shared_ptr<TableViewCell>>& rows() const { return rows_; }
-    /// The row that the cell stands in; empty for a cell of no row.
+    /// The row of the cell; empty if it is in no row.
     [[nodiscard]] std::optional<int> itemFor(const TableViewCell& cell) const;
-    /// The rows behind move up. A row that is not there is ignored.
+    /// The rows behind move up. An unknown row is ignored.
     void deleteItem(int row);
 
     void tapCell(TableViewCell& cell) override;

@@ -34,7 +34,8 @@ void TextInput::setTextInsets(Insets insets) {
 bool TextInput::edit(TextRange range, const std::string& replacement) {
     if (!takesActs())
         return false;
-    if (const auto asked = delegate.lock(); asked && !asked->shouldChangeText(*this, range, replacement))
+    if (const auto listener = delegate.lock();
+        listener && !listener->shouldChangeText(*this, range, replacement))
         return false;
     setText(replacing(text_, range, replacement));
     targets_.emit();
@@ -62,8 +63,8 @@ void TextInput::beginEditing() {
     if (editing_ || !takesActs())
         return;
     editing_ = true;
-    if (const auto told = delegate.lock())
-        told->didBeginEditing(*this);
+    if (const auto listener = delegate.lock())
+        listener->didBeginEditing(*this);
     notify(ViewChange::Content);
 }
 
@@ -71,8 +72,8 @@ void TextInput::endEditing() {
     if (!editing_)
         return;
     editing_ = false;
-    if (const auto told = delegate.lock())
-        told->didEndEditing(*this);
+    if (const auto listener = delegate.lock())
+        listener->didEndEditing(*this);
     notify(ViewChange::Content);
 }
 
@@ -84,8 +85,8 @@ void TextField::setPlaceholder(std::string placeholder) {
 bool TextField::pressReturn() {
     if (!takesActs())
         return false;
-    const auto asked = delegate.lock();
-    return !asked || asked->shouldReturn(*this);
+    const auto listener = delegate.lock();
+    return !listener || listener->shouldReturn(*this);
 }
 
 } // namespace tessivo::ui

@@ -6,23 +6,23 @@ namespace tessivo::ui {
 
 class TextInput;
 
-/// Asked and told about the edits of a text input. Held weakly by it.
+/// Approves the edits of a text input and is notified of them. The input holds it weakly.
 class TextInputDelegate {
 public:
     virtual ~TextInputDelegate() = default;
 
-    /// Asked before the user's edit takes place; a no refuses the whole edit.
+    /// Called before an edit of the user. Return false to reject the whole edit.
     [[nodiscard]] virtual bool shouldChangeText(TextInput&, TextRange, const std::string& /*replacement*/) {
         return true;
     }
     virtual void didBeginEditing(TextInput&) {}
     virtual void didEndEditing(TextInput&) {}
-    /// The return key of a field of one line.
+    /// The return key was pressed in a single-line field.
     [[nodiscard]] virtual bool shouldReturn(TextInput&) { return true; }
 };
 
 /// What text fields and text views share: text that the user edits. Edits come in as ranges of 16-bit units.
-/// What the program sets itself asks nobody and fires no event.
+/// Changes made by the program bypass the delegate and fire no event.
 class TextInput : public View {
 public:
     using View::View;
@@ -37,9 +37,9 @@ public:
     void setTextInsets(Insets insets);
 
     /// The user replaces `range`. Asks the delegate; where it agrees, changes the text and fires the
-    /// editing-changed targets. Says whether the edit took place.
+    /// editing-changed targets. Returns whether the edit took place.
     bool edit(TextRange range, const std::string& replacement);
-    /// The user's edit as the whole new text: the smallest range that tells the two apart is replaced.
+    /// The user's edit as the whole new text: only the smallest range that differs is replaced.
     bool editTo(const std::string& text);
 
     void beginEditing();
@@ -68,14 +68,14 @@ public:
     [[nodiscard]] const std::string& placeholder() const { return placeholder_; }
     void setPlaceholder(std::string placeholder);
 
-    /// The return key. Asks the delegate first; says what it answered.
+    /// The return key. Returns the delegate's answer.
     bool pressReturn();
 
 private:
     std::string placeholder_;
 };
 
-/// Editable text of several lines; a line feed is a character like others.
+/// Editable text of several lines; a line feed is a character like any other.
 class TextView final : public TextInput {
 public:
     using TextInput::TextInput;

@@ -13,7 +13,7 @@
 namespace tessivo::ui {
 namespace {
 
-constexpr double slack = 10;        ///< what a finger may tremble in a tap
+constexpr double slack = 10;        ///< how far a finger may move in a tap
 constexpr Seconds pressDelay{0.12}; ///< in which a scroll shows
 constexpr Seconds holdDelay{0.5};
 constexpr Seconds tapGlow{0.1};
@@ -111,7 +111,7 @@ void Touch::drag(Point way) {
         pan_ = firstThatTakes<PanGestureRecognizer>(
             [&](PanGestureRecognizer& pan) { return pan.begin(locationIn(pan), way, velocity_.velocity()); });
     }
-    // The way that told the drag from a tap moves nothing, or the content would jump by it.
+    // The slop before the drag is recognized moves nothing, or the content would jump by it.
     panStart_ = now_;
     if (!pan_)
         leaveList([] {});
@@ -170,7 +170,7 @@ void Touch::letGo(bool inside) {
     holding_.end();
     glow_.end();
     if (onButton_) {
-        // A button that has been taken away under the finger hears nothing more.
+        // A button that was removed under the finger gets no further events.
         auto* const button = std::exchange(button_, {}).get();
         if (button && button->isDescendantOf(root_))
             button->press(inside ? PressEvent::UpInside : PressEvent::UpOutside);

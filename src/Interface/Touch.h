@@ -17,7 +17,7 @@ class GestureRecognizer;
 class PanGestureRecognizer;
 class View;
 
-/// A pointer to a view that may go in the meantime.
+/// A pointer to a view that may be destroyed in the meantime.
 template <class Viewed>
 class ViewRef {
 public:
@@ -35,7 +35,7 @@ private:
 // and a tap.
 //
 //   down --a rest--> the card looks pressed --a long rest--> held: a menu, or nothing
-//     |--more than a tremble--> a drag: a pan recognizer's, or nobody's: then the window scrolls
+//     |--more than the slop of a tap--> a drag: a pan recognizer's, or nobody's: then the window scrolls
 //     |--up--> a tap: the button's, a tap recognizer's, or the cell's
 //
 // What the finger is on is found by the view's own hit test, the innermost first. A cell that is moving stops
@@ -57,7 +57,7 @@ public:
     Touch(const Touch&) = delete;
     Touch& operator=(const Touch&) = delete;
 
-    /// Says whether a recognizer has the finger now, so that the window must not scroll.
+    /// Returns whether a recognizer has the finger now, so that the window must not scroll.
     bool moveTo(Point point, Seconds time);
     /// Counts as a long rest at once, as a press of the second mouse button does.
     void hold();
@@ -91,10 +91,10 @@ private:
     std::vector<std::shared_ptr<GestureRecognizer>> recognizers_; ///< under the finger, innermost first
     std::shared_ptr<PanGestureRecognizer> pan_;
     Point panStart_;
-    bool spent_ = false;    ///< nothing more comes of this finger
+    bool spent_ = false;    ///< this finger has no further effect
     Subscription pressing_; ///< until the card looks pressed
     Subscription holding_;
-    Subscription glow_; ///< a quick tap is seen for a moment after it
+    Subscription glow_; ///< a quick tap stays visible for a moment
 };
 
 } // namespace tessivo::ui

@@ -51,7 +51,7 @@ Point VelocityTracker::velocity() const {
     }
     if (spread > 0)
         return {along.x / spread, along.y / spread};
-    // All at one moment: at least the direction is known.
+    // All samples have one time: at least the direction is known.
     const Point& first = samples_.front().point;
     return {(last.point.x - first.x) / shortestMove.count(), (last.point.y - first.y) / shortestMove.count()};
 }

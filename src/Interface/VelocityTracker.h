@@ -7,13 +7,13 @@
 
 namespace tessivo::ui {
 
-/// How fast a finger moves, judged by the last tenth of a second of its way. The latest moments count most,
+/// The velocity of a finger over the last tenth of a second. The latest samples weigh most,
 /// so that a short flick back after a long drag counts as one.
 class VelocityTracker {
 public:
     /// The finger is at `point` at `time`. Times never fall.
     void add(Point point, Seconds time);
-    /// In points per second; none before the finger has moved.
+    /// In points per second; zero before the finger has moved.
     [[nodiscard]] Point velocity() const;
 
 private:

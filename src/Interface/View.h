@@ -76,7 +76,7 @@ public:
     [[nodiscard]] Point convertTo(const View& view, Point point) const;
     [[nodiscard]] Rect convertTo(const View& view, const Rect& rect) const;
 
-    // Layout: a view asked to lay itself out does so once at the next pass over it.
+    // Layout: a view marked for layout is laid out once, at the next layout pass.
     void setNeedsLayout() { needsLayout_ = true; }
     void layoutIfNeeded();
 
@@ -112,7 +112,7 @@ public:
     [[nodiscard]] bool isUserInteractionEnabled() const { return interactionEnabled_; }
     void setUserInteractionEnabled(bool enabled) { interactionEnabled_ = enabled; }
     [[nodiscard]] View* mask() const { return mask_; }
-    /// Only what lies under `mask` (in this view's space) is drawn; null ends that. Not owned.
+    /// Only what lies under `mask` (in this view's space) is drawn; null removes it. Not owned.
     void setMask(View* mask);
     [[nodiscard]] const std::string& accessibilityName() const { return accessibilityName_; }
     void setAccessibilityName(std::string name);
@@ -122,15 +122,15 @@ public:
     void insertSublayer(std::shared_ptr<GradientLayer> layer, std::size_t index);
     void removeSublayer(std::size_t index);
     void removeAllSublayers();
-    /// Tells the window that a layer of this view looks different now.
+    /// Tells the window to redraw the layers of this view.
     void layerChanged() { notify(ViewChange::Appearance); }
 
-    /// Hears each change after it is made.
+    /// `changed` is called after each change.
     [[nodiscard]] Subscription onChange(std::function<void(ViewChange)> changed) {
         return changes_.subscribe(std::move(changed));
     }
 
-    /// Expires with the view, for work that may come after it.
+    /// Expires with the view, for work that may outlive it.
     [[nodiscard]] std::weak_ptr<const void> lifetime() const {
         if (!lifetime_)
             lifetime_ = std::make_shared<char>();

@@ -17,7 +17,7 @@ public:
 
     [[nodiscard]] virtual std::string string(Instant instant) const = 0;
 
-    /// The moment that `text` names, to the letter of the pattern; empty where it does not read. Fields that
+    /// The moment that `text` names, to the letter of the pattern; empty if it cannot be parsed. Fields that
     /// the pattern lacks are the first of their range. A day without a local midnight reads as its first
     /// moment.
     [[nodiscard]] virtual std::optional<Instant> date(std::string_view text) const = 0;

@@ -82,7 +82,7 @@ public:
     /// Starts an exchange; safe from any thread. `completion` is called once, on a queue of the client's own,
     /// never inline and never on the main thread, one after the other; any status is a success here.
     /// Redirects are followed, but never from a secure address to an open one, and an "Authorization" header
-    /// goes to the address asked for and to no other. The client answers from the network, never from a
+    /// goes to the requested address and to no other. The client answers from the network, never from a
     /// cache of its own. A local file that hangs delays other local files and nothing else. Completions that
     /// are still out when the client goes are dropped.
     virtual std::shared_ptr<HttpTask> start(HttpRequest request, Completion completion) = 0;

@@ -22,7 +22,7 @@ public:
 
     virtual ~PictureSharing() = default;
 
-    /// Keeps it among the user's pictures as a new file, and tells where; replaces none.
+    /// Saves it as a new file in the user's Pictures folder and returns the path. Never overwrites.
     virtual void save(std::shared_ptr<const Bitmap> picture, Saved saved) = 0;
     /// Puts it on the clipboard in place of what was there.
     virtual void copy(std::shared_ptr<const Bitmap> picture, Done done) = 0;

@@ -8,7 +8,7 @@ namespace tessivo {
 
 /// Small saved values by key, which tell absent from present and outlive the program. Main thread only. A
 /// write is on disk when it returns; where it cannot be written the value still holds for this run, and the
-/// console is told.
+/// console says so.
 class SavedSettings {
 public:
     virtual ~SavedSettings() = default;

@@ -24,7 +24,7 @@ public:
     /// The scheme in lower case, without its colon; empty for a relative address.
     [[nodiscard]] std::string scheme() const;
 
-    /// Whether it can be asked over the network: http or https.
+    /// Whether it can be fetched over the network: http or https.
     [[nodiscard]] bool isWeb() const;
 
     /// The path of the local file that a "file" address names; empty for every other address.

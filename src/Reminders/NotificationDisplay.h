@@ -20,7 +20,7 @@ struct Notice {
 /// The desktop's notifications. Main thread; nothing calls back inline.
 class NotificationDisplay {
 public:
-    /// What a display tells of its own accord.
+    /// Events that a display sends on its own.
     struct Events {
         /// A desktop that can show notices has come up, for the first time or again.
         std::function<void()> available;

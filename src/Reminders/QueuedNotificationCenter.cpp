@@ -99,7 +99,7 @@ void QueuedNotificationCenter::begin(std::function<void()> restore) {
     });
 }
 
-// A second turn: by then the completions of what was asked before have asked for their own share.
+// A second round: by then the completions of earlier requests have posted requests of their own.
 void QueuedNotificationCenter::clearLoss() {
     post([this] {
         post([this] { (void)machine_.queue.clearLoss(); }); // a failure leaves it to the next start

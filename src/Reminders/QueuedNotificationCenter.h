@@ -17,7 +17,7 @@ class WorkQueue;
 
 /// The program's side of the notifications: it keeps the queue of requests, and the helper shows what is in
 /// it. A work queue of its own does all the work in the order of the calls and runs the completions; the
-/// helper is told of changes when nothing is left to do.
+/// helper is notified of changes when nothing is left to do.
 ///
 /// Made, finished and destroyed on the main thread.
 class QueuedNotificationCenter final : public NotificationCenter {
@@ -38,7 +38,8 @@ public:
         const Clock& clock;
     };
 
-    /// `work` is used for nothing else. `queueChanged` tells the helper and is called as part of that work.
+    /// `work` is used for nothing else. `queueChanged` notifies the helper and is called as part of that
+    /// work.
     QueuedNotificationCenter(Machine machine, std::unique_ptr<WorkQueue> work, Question question,
                              std::function<void()> queueChanged);
     QueuedNotificationCenter(const QueuedNotificationCenter&) = delete;
@@ -58,13 +59,13 @@ public:
     /// The user's answer, given or changed outside the question.
     void setAuthorization(bool granted);
 
-    /// The program has started: tells the helper, which is started by that where it does not run. Calls
+    /// The program has started: notifies the helper, which also starts it if it is not running. Calls
     /// `restore` on the main thread if requests were lost with a damaged queue: what it asks of this center,
     /// and what the completions ask in turn, makes the loss good.
     void begin(std::function<void()> restore);
 
-    /// Does all that was asked so far, completions and what they ask included, and then nothing more. To be
-    /// called while all that completions reach still stands.
+    /// Finishes all requests so far, completions and their requests included, and then does nothing more. To
+    /// be called while all that completions reach still stands.
     void finish();
 
 private:

@@ -65,8 +65,8 @@ ui::Size TableViewController::sizeForItem(ui::CollectionView& collection, int) {
 void TableViewController::didSelectItem(ui::CollectionView&, int item) {
     if (item < 0 || static_cast<std::size_t>(item) >= dataArray.size())
         console_.stopProgram("The value picker has no row " + std::to_string(item) + ".");
-    if (const auto told = delegate.lock())
-        told->didSelectValue(dataArray[static_cast<std::size_t>(item)], item);
+    if (const auto listener = delegate.lock())
+        listener->didSelectValue(dataArray[static_cast<std::size_t>(item)], item);
 }
 
 } // namespace tessivo

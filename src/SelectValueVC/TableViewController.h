@@ -6,16 +6,16 @@
 
 namespace tessivo {
 
-/// Hears each choice made in the value picker. Held weakly; the answer to the same choice twice must be the
-/// same.
+/// Notified of each choice made in the value picker. Held weakly; must be idempotent, since the same choice
+/// may be reported twice.
 class TableViewControllerDelegate {
 public:
     virtual ~TableViewControllerDelegate() = default;
     virtual void didSelectValue(const std::string& title, int index) = 0;
 };
 
-/// A sheet with a short list of texts of which one is chosen. It tells its delegate the present choice once
-/// as it opens, then each tap at once, and stays until the user drags it away.
+/// A sheet with a short list of texts of which one is chosen. It reports the present choice to its delegate
+/// once as it opens, then each tap at once, and stays until the user drags it away.
 class TableViewController final : public ui::ViewController,
                                   public ui::CollectionViewDataSource,
                                   public ui::CollectionViewDelegate {

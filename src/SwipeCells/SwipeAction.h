@@ -17,7 +17,7 @@ class SwipeActionTransitioning;
 /// Chooses the background of a button that has no colour of its own.
 enum class SwipeActionStyle { Default, Destructive };
 
-/// What the owner tells the engine to do with a filled row: take it away, or let it return.
+/// What the engine shall do with a filled row: remove it, or let it return.
 enum class ExpansionFulfillmentStyle { Delete, Reset };
 
 /// The blur that a button may stand on.

@@ -22,8 +22,8 @@ struct SwipeActionTransitioningContext {
     ui::Animations& animations;
 };
 
-/// Hears of each such change, in a later turn of the main queue than the layout that caused it; of none once
-/// the row has gone. Main thread.
+/// Notified of each such change, in a later turn of the main queue than the layout that caused it; of none
+/// once the row has gone. Main thread.
 class SwipeActionTransitioning {
 public:
     virtual ~SwipeActionTransitioning() = default;

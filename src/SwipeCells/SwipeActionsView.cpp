@@ -212,8 +212,8 @@ void SwipeActionsView::setExpanded(bool expanded, bool feedback) {
 void SwipeActionsView::actionTapped(std::size_t index) {
     // The action may take the row away while its button is still calling: it goes in a later turn.
     environment_.mainQueue.post([self = shared_from_this()] {});
-    if (const auto told = delegate.lock())
-        told->didSelect(*this, actions_[index]);
+    if (const auto listener = delegate.lock())
+        listener->didSelect(*this, actions_[index]);
 }
 
 std::unique_ptr<ui::View> SwipeActionsView::makeDeletionMask() const {

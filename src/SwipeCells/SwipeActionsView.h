@@ -18,7 +18,7 @@ namespace tessivo::swipe {
 
 class SwipeActionsView;
 
-/// Hears of a tap on a button. Held weakly by the row.
+/// Notified of a tap on a button. Held weakly by the row.
 class SwipeActionsViewDelegate {
 public:
     virtual ~SwipeActionsViewDelegate() = default;

@@ -46,7 +46,7 @@ public:
     void setLayoutMargins(ui::Insets margins) { layoutMargins_ = margins; }
     [[nodiscard]] ui::Insets swipeLayoutMargins() const override { return layoutMargins(); }
 
-    /// The list does not move a cell sideways that is off its place.
+    /// The list does not move a displaced cell sideways.
     void place(const ui::Rect& frame) override;
     /// Ignored but for a cell at rest.
     void setHighlighted(bool highlighted) override;
@@ -54,7 +54,7 @@ public:
     bool holdStill() override { return controller_->holdStill(); }
     void moveOn() override { controller_->moveOn(); }
     [[nodiscard]] ui::View* hitTest(ui::Point point) override;
-    /// The first cell that is asked about a touch beside an open cell closes all cells, and is not touched.
+    /// Hit-testing the first cell for a touch beside an open cell closes all cells, and misses.
     [[nodiscard]] bool pointInside(ui::Point point) override;
     void prepareForReuse() override;
     void willLeaveWindow() override;

@@ -2,7 +2,7 @@
 
 namespace tessivo::swipe {
 
-/// A light tap that the user feels. Main thread; failures are not told.
+/// A light tap that the user feels. Main thread; failures are ignored.
 class ImpactGenerator {
 public:
     virtual ~ImpactGenerator() = default;

@@ -12,7 +12,7 @@ class View;
 
 namespace tessivo::swipe {
 
-/// How the buttons of a row come out while the row widens. Stateless arithmetic, in points. Main thread.
+/// How the buttons of a row appear while the row widens. Stateless arithmetic, in points. Main thread.
 class SwipeTransitionLayout {
 public:
     virtual ~SwipeTransitionLayout() = default;

@@ -9,7 +9,7 @@
 namespace tessivo::unsplash {
 namespace {
 
-/// The text as AARRGGBB; empty for a length that is none of a colour's.
+/// The text as AARRGGBB; empty if no colour has that length.
 std::string eightDigits(std::string_view text) {
     switch (text.size()) {
     case 3: {

@@ -19,7 +19,7 @@ public:
     [[nodiscard]] const std::string& name() const { return name_; }
 
     void addOperation(std::shared_ptr<ConcurrentOperation> operation);
-    /// Cancels all that is not finished; each still ends, with its completion block.
+    /// Cancels all unfinished operations; each still ends, with its completion block.
     void cancelAllOperations();
     /// How many are not finished.
     [[nodiscard]] std::size_t operationCount() const;

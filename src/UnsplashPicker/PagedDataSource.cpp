@@ -87,15 +87,15 @@ void PagedDataSource::resume() {
 void PagedDataSource::fetchItems() {
     if (isFetching_)
         return fail(DataSourceError::dataSourceIsFetching());
-    const auto told = delegate.lock();
+    const auto listener = delegate.lock();
     if (!canFetchMore_) {
         setError(std::nullopt);
-        if (told)
-            told->dataSourceDidFetch(*this, {});
+        if (listener)
+            listener->dataSourceDidFetch(*this, {});
         return;
     }
-    if (told && items()->empty())
-        told->dataSourceWillStartFetching(*this);
+    if (listener && items()->empty())
+        listener->dataSourceWillStartFetching(*this);
     isFetching_ = true;
     const auto request = factory.request(cursor());
     // The block belongs to the request, and the request to the source's queue: it holds neither, so that a
@@ -125,14 +125,14 @@ void PagedDataSource::complete(const UnsplashPagedRequest& request, int round) {
         isFetching_ = false;
         error_.reset();
     }
-    if (const auto told = delegate.lock())
-        told->dataSourceDidFetch(*this, added);
+    if (const auto listener = delegate.lock())
+        listener->dataSourceDidFetch(*this, added);
 }
 
 void PagedDataSource::fail(const Error& error) {
     setError(error);
-    if (const auto told = delegate.lock())
-        told->dataSourceFetchDidFail(*this, error);
+    if (const auto listener = delegate.lock())
+        listener->dataSourceFetchDidFail(*this, error);
 }
 
 } // namespace tessivo::unsplash

@@ -32,7 +32,7 @@ private:
     std::string text_; ///< what is searched for, or the collection's identifier
 };
 
-/// Hears of fetches. `dataSourceWillStartFetching` comes on the main thread, the others on whatever thread
+/// Notified of fetches. `dataSourceWillStartFetching` comes on the main thread, the others on whatever thread
 /// the fetch ended on.
 class PagedDataSourceDelegate {
 public:

@@ -25,7 +25,7 @@ public:
     GradientView gradientView;
     ui::Label userNameLabel;
 
-    /// Shows `photo`, with its name or without. The view has its size already: the service is asked for a
+    /// Shows `photo`, with its name or without. The view must have its size: the service is asked for a
     /// picture of that width.
     void configure(const UnsplashPhoto& photo, bool showsUsername);
     void prepareForReuse();

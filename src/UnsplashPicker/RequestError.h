@@ -4,7 +4,7 @@
 
 namespace tessivo::unsplash {
 
-/// How a request fails of its own accord; what the network or a decoder says is handed on as it comes.
+/// The request layer's own errors; those of the network or a decoder are passed on unchanged.
 namespace RequestError {
 
 [[nodiscard]] Error http(int status);

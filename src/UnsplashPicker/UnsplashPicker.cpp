@@ -18,14 +18,14 @@ std::shared_ptr<UnsplashPicker> UnsplashPicker::make(PickerServices& services, u
 }
 
 void UnsplashPicker::photoPickerDidFinish(UnsplashPickerViewController&, const Photos& photos) {
-    if (const auto told = photoPickerDelegate.lock())
-        told->photoPickerDidSelect(*this, photos);
+    if (const auto listener = photoPickerDelegate.lock())
+        listener->photoPickerDidSelect(*this, photos);
     dismiss();
 }
 
 void UnsplashPicker::photoPickerDidCancel(UnsplashPickerViewController&) {
-    if (const auto told = photoPickerDelegate.lock())
-        told->photoPickerDidCancel(*this);
+    if (const auto listener = photoPickerDelegate.lock())
+        listener->photoPickerDidCancel(*this);
     dismiss();
 }
 

@@ -8,7 +8,7 @@ namespace tessivo::unsplash {
 
 class UnsplashPicker;
 
-/// Hears what the user chose. Held weakly.
+/// Notified of the user's choice. Held weakly.
 class UnsplashPickerDelegate {
 public:
     virtual ~UnsplashPickerDelegate() = default;

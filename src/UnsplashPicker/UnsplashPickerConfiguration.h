@@ -15,7 +15,7 @@ enum class ContentFilterLevel { low, high };
     return level == ContentFilterLevel::low ? "low" : "high";
 }
 
-/// What the host program tells the picker.
+/// What the host program configures.
 class UnsplashPickerConfiguration {
 public:
     /// For the photo service that the build is made for.

@@ -12,7 +12,7 @@
 namespace tessivo::unsplash {
 namespace {
 
-/// So many items before the end of the grid the next page is fetched.
+/// How many items before the end of the grid the next page is requested.
 constexpr int fetchDistance = 19;
 
 bool isConnectionError(const Error& error) {
@@ -267,14 +267,14 @@ void UnsplashPickerViewController::doneBarButtonTapped() {
 void UnsplashPickerViewController::finish(const Photos& photos) {
     for (const auto& photo : photos)
         services_.sendDownloadPing(*photo);
-    if (const auto told = delegate.lock())
-        told->photoPickerDidFinish(*this, photos);
+    if (const auto listener = delegate.lock())
+        listener->photoPickerDidFinish(*this, photos);
 }
 
 void UnsplashPickerViewController::cancelBarButtonTapped() {
     searchController.searchBar.endEditing();
-    if (const auto told = delegate.lock())
-        told->photoPickerDidCancel(*this);
+    if (const auto listener = delegate.lock())
+        listener->photoPickerDidCancel(*this);
 }
 
 std::shared_ptr<UnsplashPickerPreviewViewController> UnsplashPickerViewController::makePreview(int item) {

@@ -17,7 +17,7 @@ class PickerServices;
 class UnsplashPickerPreviewViewController;
 class UnsplashPickerViewController;
 
-/// Hears how the choice ended. Held weakly.
+/// Notified of the outcome. Held weakly.
 class UnsplashPickerViewControllerDelegate {
 public:
     virtual ~UnsplashPickerViewControllerDelegate() = default;

@@ -69,7 +69,7 @@ std::string SearchPhotosRequest::endpoint() const {
 }
 
 void SearchPhotosRequest::processJSONResponse() {
-    // An answer without results is one without hits, not a fault.
+    // A response without results means no hits, not an error.
     const auto* results = jsonResponse()->find("results");
     if (results && results->as<JsonValue::Array>())
         takeItems(*results);

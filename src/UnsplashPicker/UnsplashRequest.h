@@ -81,7 +81,7 @@ public:
 protected:
     [[nodiscard]] std::string endpoint() const override;
     [[nodiscard]] std::optional<Parameters> prepareParameters() const override;
-    /// The body itself is the list: what is no JSON is a decoding failure here.
+    /// The body itself is the list: a body that is not JSON is a decoding failure here.
     void processResponse(Result<JsonValue> json) override;
 
 private:

@@ -45,7 +45,7 @@ void WaterfallLayout::place(int count, WaterfallLayoutDelegate& sizes) {
     const double spacing = raw == 1 ? narrowSpacing : wideSpacing;
     const double columnWidth =
         raw == 1 ? contentWidth() : (contentWidth() - spacing * (columns - 1)) / columns;
-    // A column that is not there is never the shortest.
+    // A missing column is never the shortest.
     std::array<double, maximumColumns> heights;
     heights.fill(std::numeric_limits<double>::infinity());
     std::fill_n(heights.begin(), columns, topInset);

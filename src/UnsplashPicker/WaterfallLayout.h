@@ -12,12 +12,12 @@ class Console;
 
 namespace tessivo::unsplash {
 
-/// Tells a waterfall the sizes of its items. Held weakly by it.
+/// Supplies a waterfall with the sizes of its items. Held weakly by it.
 class WaterfallLayoutDelegate {
 public:
     virtual ~WaterfallLayoutDelegate() = default;
 
-    /// Of which only the aspect ratio counts; zero for an item that there is none of.
+    /// Only the aspect ratio counts; zero for an unknown item.
     [[nodiscard]] virtual ui::Size waterfallSizeForItem(int item) = 0;
 };
 

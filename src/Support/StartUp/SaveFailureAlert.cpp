@@ -14,8 +14,8 @@ SaveFailureAlert::SaveFailureAlert(CoreDataStack& events, PendingScreens& pendin
     : events_(events), pending_(pending), window_(window), texts_(texts) {
     events_.saveListener = [this](const std::shared_ptr<EventCoreData>& event, const Outcome& outcome) {
         if (!outcome)
-            told_.clear();
-        else if (told_.insert(event->title().value_or("")).second)
+            reported_.clear();
+        else if (reported_.insert(event->title().value_or("")).second)
             tell(event, *outcome);
     };
 }
@@ -32,7 +32,7 @@ void SaveFailureAlert::tell(const std::shared_ptr<EventCoreData>& event, const E
     alert->addAction({texts_.localizedString("close"), ui::AlertActionStyle::Cancel, {}});
     alert->addAction(
         {texts_.localizedString("notSaved.tryAgain"), ui::AlertActionStyle::Default, [this, event] {
-             told_.clear();
+             reported_.clear();
              events_.save(event);
          }});
     pending_.show(alert);

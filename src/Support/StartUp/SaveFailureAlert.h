@@ -18,7 +18,7 @@ struct WindowContext;
 }
 
 /// Tells the user of a change that could not be saved, by the event's title, and lets them try again. A
-/// change that goes on failing, as every minute's do on a full disk, is told once until something has been
+/// change that keeps failing, like each minute's on a full disk, is reported once until something has been
 /// saved.
 class SaveFailureAlert final {
 public:
@@ -36,7 +36,7 @@ private:
     PendingScreens& pending_;
     ui::WindowContext& window_;
     const LocalizedTexts& texts_;
-    std::set<std::string> told_; ///< titles
+    std::set<std::string> reported_; ///< titles
 };
 
 } // namespace tessivo
