@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,8 +15,11 @@ class View;
 /// Controls enter themselves as they are made; they and the registry belong to the same owner.
 class ControlRegistry {
 public:
-    /// A name entered twice names the later control.
-    void enter(std::string name, View& control) { controls_.insert_or_assign(std::move(name), &control); }
+    /// Throws `std::logic_error` for a name that is taken: a window could draw only one of the two.
+    void enter(const std::string& name, View& control) {
+        if (!controls_.try_emplace(name, &control).second)
+            throw std::logic_error("There are two controls named \"" + name + "\".");
+    }
 
     /// The control of that name; null where there is none.
     [[nodiscard]] View* find(std::string_view name) const {

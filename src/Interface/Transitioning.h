@@ -14,6 +14,8 @@ struct TransitionContext {
     View& to;
     /// To be called once, when the transition has ended.
     std::function<void()> completeTransition;
+    /// What holds both views; null where they lie side by side in no other.
+    View* container = nullptr;
 };
 
 /// Moves one screen in or out.

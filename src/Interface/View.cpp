@@ -21,8 +21,8 @@ std::size_t indexOf(AnimatableProperty property) {
 
 View::View() = default;
 
-View::View(ControlRegistry& registry, std::string name) : registry_(&registry) {
-    registry.enter(std::move(name), *this);
+View::View(ControlRegistry& registry, const std::string& name) : registry_(&registry) {
+    registry.enter(name, *this);
 }
 
 View::~View() {
@@ -224,8 +224,8 @@ View* View::hitTest(Point point) {
     const auto alive = lifetime();
     if (hidden_ || !interactionEnabled_ || alpha() < invisibleBelow || !pointInside(point) || alive.expired())
         return nullptr;
-    const auto asked = subviews_;
-    for (View* subview : asked | std::views::reverse) {
+    const auto candidates = subviews_;
+    for (View* subview : candidates | std::views::reverse) {
         if (std::ranges::find(subviews_, subview) == subviews_.end())
             continue;
         View* const hit = subview->hitTest(convertTo(*subview, point));

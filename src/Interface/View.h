@@ -43,7 +43,7 @@ enum class AnimatableProperty { CenterX, CenterY, Width, Height, BoundsX, Bounds
 class View {
 public:
     View();
-    View(ControlRegistry& registry, std::string name);
+    View(ControlRegistry& registry, const std::string& name);
     virtual ~View();
     View(const View&) = delete;
     View& operator=(const View&) = delete;

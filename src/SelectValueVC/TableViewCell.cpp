@@ -16,7 +16,7 @@ TableViewCell::TableViewCell() {
 }
 
 void TableViewCell::setSelected(bool selected) {
-    CollectionViewCell::setSelected(selected);
+    CollectionViewCell::setSelected(false);
     draw(selected);
 }
 

@@ -14,7 +14,7 @@ public:
     ui::Label label{controls, "label"};
     ui::ImageView checkmarkImageView{controls, "checkmarkImageView"};
 
-    /// The mark tells the selection; the platform's own highlight never shows.
+    /// Shows the selection by the mark and the font. `isSelected` stays false, so that no highlight shows.
     void setSelected(bool selected) override;
 
 private:

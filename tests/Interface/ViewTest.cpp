@@ -141,6 +141,13 @@ TEST_F(PanTest, TurningItOffCancelsIt) {
     EXPECT_FALSE(pan->begin({}, {8, 0}, {}));
 }
 
+TEST(ControlRegistryTest, ASecondControlOfOneNameIsRefused) {
+    ControlRegistry controls;
+    const View first(controls, "card");
+    EXPECT_THROW(View(controls, "card"), std::logic_error);
+    EXPECT_EQ(controls.find("card"), &first);
+}
+
 TEST_F(PanTest, ARemovedTargetHearsNothing) {
     pan->removeTarget(this);
     pan->begin({}, {8, 0}, {});

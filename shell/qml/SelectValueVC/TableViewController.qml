@@ -20,12 +20,13 @@ FocusScope {
 
             readonly property LabelItem label: cell.control("label") as LabelItem
             readonly property ImageItem mark: cell.control("checkmarkImageView") as ImageItem
+            readonly property bool chosen: mark.image !== ""
 
-            focus: cell.selected
+            focus: chosen
             Accessible.role: Accessible.RadioButton
             Accessible.name: label.text
             Accessible.checkable: true
-            Accessible.checked: cell.selected
+            Accessible.checked: chosen
 
             Rectangle {
                 anchors.fill: parent
@@ -50,7 +51,7 @@ FocusScope {
                 radius: row.mark.cornerRadius
                 color: row.mark.fill.color
                 border.color: row.mark.tint
-                border.width: row.cell.selected ? 0.5 : 1.5
+                border.width: row.chosen ? 0.5 : 1.5
                 Icon {
                     anchors.centerIn: parent
                     name: row.mark.image
