@@ -32,8 +32,8 @@ class HalfScreenTransitionAnimator final : public ui::AnimatedTransitioning {
 public:
     static constexpr Seconds transitionDuration{0.3};
 
-    HalfScreenTransitionAnimator(ui::Animations& animations, bool isPresentation)
-        : isPresentation(isPresentation), animations_(animations) {}
+    HalfScreenTransitionAnimator(ui::Animations& animations, bool presents)
+        : isPresentation(presents), animations_(animations) {}
 
     const bool isPresentation;
 

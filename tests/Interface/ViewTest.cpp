@@ -1,5 +1,6 @@
 #include "Interface/View.h"
 
+#include "Interface/ControlRegistry.h"
 #include "Interface/Gestures.h"
 
 #include <gmock/gmock.h>

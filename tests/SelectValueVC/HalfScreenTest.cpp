@@ -12,7 +12,10 @@ constexpr ui::Rect below{0, 800, 390, 400};
 
 class HalfScreenTest : public testing::Test {
 protected:
-    HalfScreenTest() { container.setFrame({0, 0, 390, 800}); }
+    HalfScreenTest() {
+        container.setFrame({0, 0, 390, 800});
+        container.setAnimations(&animations);
+    }
 
     fakes::Timeline line;
     ui::Animations animations{line, line};
