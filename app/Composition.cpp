@@ -22,6 +22,8 @@ Composition::Composition(const Machine::Settings& settings, Clock& clock, Consol
         services().photoPicker().setConfiguration(
             unsplash::UnsplashPickerConfiguration(settings.photoService));
     machine_.reviews().showOver(stack());
+    machine_.preferences().onChange(
+        [this](const UserPreferences& preferences) { screen_.setPreferences(preferences); });
     program_.screens().onOpenNotificationSettings([this] { permission_.openSettings(); });
 }
 

@@ -14,6 +14,7 @@
 #include "qt/QtMainQueue.h"
 #include "qt/QtTextMeasuring.h"
 #include "qt/QtTimers.h"
+#include "qtdesktop/DesktopPreferences.h"
 #include "qtdesktop/QtLinkOpener.h"
 #include "qtdesktop/QtMailComposing.h"
 #include "qtdesktop/QtPhotoLibrary.h"
@@ -74,6 +75,7 @@ public:
     /// The texts of the machine's own windows and alerts.
     [[nodiscard]] const LocalizedTexts& machineTexts() const { return machineTexts_; }
     [[nodiscard]] ReviewPrompt& reviews() { return reviews_; }
+    [[nodiscard]] DesktopPreferences& preferences() { return preferences_; }
 
     /// Waits until no thread has anything left to do for the program, so that all of their answers wait on
     /// the main queue: where time is virtual, nothing else would wait for a thread.
@@ -118,6 +120,7 @@ private:
     QtReachability network_;
     QtForeground foreground_;
     ReviewPrompt reviews_;
+    DesktopPreferences preferences_;
     LinuxDevice device_;
     Bundle bundle_;
     RemoteProject remoteProject_;

@@ -16,13 +16,19 @@ class WindowItem final : public QObject {
     QML_UNCREATABLE("There is one window")
     Q_PROPERTY(tessivo::shell::StackModel* stack READ stack CONSTANT FINAL)
     Q_PROPERTY(bool large READ large NOTIFY sizeChanged FINAL)
+    Q_PROPERTY(bool highContrast READ highContrast NOTIFY preferencesChanged FINAL)
     Q_PROPERTY(bool keysInUse READ keysInUse NOTIFY keysInUseChanged FINAL)
 
 public:
     WindowItem(ui::PresentationStack& stack, const BridgeContext& context)
-        : screen_(stack.window().screen), context_(context), stack_(stack, context) {}
+        : screen_(stack.window().screen), context_(context), stack_(stack, context) {
+        preferences_ = screen_.onPreferencesChange([this] { Q_EMIT preferencesChanged(); });
+    }
 
     [[nodiscard]] StackModel* stack() { return &stack_; }
+
+    /// Whether the user asks for strong contrast.
+    [[nodiscard]] bool highContrast() const { return screen_.preferences().highContrast; }
 
     /// Whether the screen counts as a large one.
     [[nodiscard]] bool large() const { return screen_.isLarge(); }
@@ -47,6 +53,7 @@ public:
 
 Q_SIGNALS:
     void sizeChanged();
+    void preferencesChanged();
     void keysInUseChanged();
 
 public:
@@ -57,6 +64,7 @@ private:
     ui::MainScreen& screen_;
     const BridgeContext& context_;
     StackModel stack_;
+    Subscription preferences_;
     bool keysInUse_ = false;
 };
 

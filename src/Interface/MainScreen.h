@@ -2,6 +2,7 @@
 
 #include "Interface/Geometry.h"
 #include "Interface/Signal.h"
+#include "Ports/UserPreferences.h"
 
 #include <functional>
 #include <utility>
@@ -36,6 +37,15 @@ public:
             keyboardChanges_.emit();
     }
 
+    [[nodiscard]] const UserPreferences& preferences() const { return preferences_; }
+    void setPreferences(const UserPreferences& preferences) {
+        if (std::exchange(preferences_, preferences) != preferences)
+            preferenceChanges_.emit();
+    }
+
+    [[nodiscard]] Subscription onPreferencesChange(std::function<void()> changed) {
+        return preferenceChanges_.subscribe(std::move(changed));
+    }
     [[nodiscard]] Subscription onKeyboardChange(std::function<void()> changed) {
         return keyboardChanges_.subscribe(std::move(changed));
     }
@@ -49,6 +59,8 @@ private:
     double keyboardHeight_ = 0;
     Signal<> changes_;
     Signal<> keyboardChanges_;
+    UserPreferences preferences_;
+    Signal<> preferenceChanges_;
 };
 
 } // namespace tessivo::ui

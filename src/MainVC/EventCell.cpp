@@ -15,11 +15,9 @@ constexpr double cardCornerRadius = 24;
 } // namespace
 
 EventCell::EventCell(SharedServices& services)
-    : SwipeCollectionViewCell({services.window().animations,
-                               services.platform().mainQueue,
-                               services.platform().textMeasuring,
-                               nullptr,
-                               {}}),
+    : SwipeCollectionViewCell(
+          {services.window().animations, services.platform().mainQueue, services.platform().textMeasuring,
+           nullptr, [&screen = services.window().screen] { return screen.preferences().screenReader; }}),
       services_(services),
       currentDate(services.platform().clock.now()),
       event_(services.platform()) {

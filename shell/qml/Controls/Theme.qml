@@ -12,10 +12,11 @@ QtObject {
     }
 
     readonly property color backdrop: "#DDE1EA"
+    readonly property bool highContrast: window ? window.highContrast : false
     readonly property color accent: named("button")
     readonly property color field: named("backText")
-    readonly property color line: named("Line")
-    readonly property color muted: named("disabled")
+    readonly property color line: highContrast ? "#3A3D45" : named("Line")
+    readonly property color muted: highContrast ? "#2B2E36" : named("disabled")
     readonly property color page: named("mainBack")
     readonly property color ink: "#15171C"
     readonly property color noPicture: "#5B6475"

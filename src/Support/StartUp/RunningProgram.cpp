@@ -9,6 +9,9 @@ RunningProgram::RunningProgram(const Platform& platform, FrameClock& frameClock,
       window_{screen, animations_},
       services_(platform, window_, screens_) {
     screens_.use(services_);
+    const auto follow = [this] { animations_.setReducedMotion(window_.screen.preferences().reducedMotion); };
+    follow();
+    preferences_ = screen.onPreferencesChange(follow);
 }
 
 void RunningProgram::launch() {

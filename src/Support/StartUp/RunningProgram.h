@@ -29,6 +29,7 @@ private:
     Screens screens_;
     SharedServices services_;
     ui::PresentationStack stack_{window_};
+    Subscription preferences_;
 };
 
 } // namespace tessivo
