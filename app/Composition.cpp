@@ -13,10 +13,11 @@ Composition::Composition(const Machine::Settings& settings, Clock& clock, Consol
                [this](std::function<void(bool)> answer) { permission_.ask(std::move(answer)); }),
       program_(machine_.platform(), machine_.frameClock(), screen_),
       permission_(pendingScreens_, stack().window(), machine_.notificationCenter(),
-                  services().platform().mainQueue,
+                  services().platform().mainQueue, services().platform().texts,
                   [this](bool allowed) { machine_.notificationCenter().setAuthorization(allowed); }),
       saveFailureAlert_(services().coreDataStack(), pendingScreens_, stack().window(),
                         machine_.machineTexts()),
+      translator_(services().platform().texts),
       shell_(stack(), services().platform().colors, console, machine_.snapshots()) {
     if (!settings.photoService.empty())
         services().photoPicker().setConfiguration(

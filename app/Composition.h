@@ -5,6 +5,7 @@
 #include "Support/StartUp/RunningProgram.h"
 #include "Support/StartUp/SaveFailureAlert.h"
 #include "app/Machine.h"
+#include "qt/QtTextTranslator.h"
 #include "shell/Shell.h"
 
 namespace tessivo {
@@ -36,6 +37,7 @@ private:
     PendingScreens pendingScreens_{stack()};
     NotificationPermission permission_;
     SaveFailureAlert saveFailureAlert_;
+    QtTextTranslator translator_;
     shell::Shell shell_;
 };
 

@@ -6,6 +6,7 @@
 #include "icu/IcuCalendar.h"
 #include "icu/IcuDateFormatters.h"
 #include "icu/IcuTextCounting.h"
+#include "json/JsonLocalizedTexts.h"
 
 #include <benchmark/benchmark.h>
 #include <unicode/smpdtfmt.h>
@@ -123,6 +124,7 @@ void countAllRows(benchmark::State& state) {
                                                   : texts.dates[row] + ' ' + texts.times[row]);
     const Instant now = instantAt(1'700'000'000);
     fakes::RecordingConsole console;
+    const JsonLocalizedTexts words;
     compare(
         state,
         [&] {
@@ -131,7 +133,7 @@ void countAllRows(benchmark::State& state) {
             for (std::size_t row = 0; row < rows; ++row) {
                 const auto moment = eventDateOf(texts.dates[row], texts.times[row], *full, *date);
                 benchmark::DoNotOptimize(
-                    counterText(*moment, now, static_cast<int>(row % 5), unitWords, console));
+                    counterText(*moment, now, static_cast<int>(row % 5), unitWords, words, console));
             }
         },
         [&] {
@@ -143,10 +145,11 @@ BENCHMARK(countAllRows)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void counterAlone(benchmark::State& state) {
     fakes::RecordingConsole console;
+    const JsonLocalizedTexts words;
     double event = 1'000'000'000;
     for (auto _ : state)
         benchmark::DoNotOptimize(
-            counterText(instantAt(event += 977), instantAt(1'700'000'000), 1, unitWords, console));
+            counterText(instantAt(event += 977), instantAt(1'700'000'000), 1, unitWords, words, console));
 }
 BENCHMARK(counterAlone);
 

@@ -21,18 +21,18 @@ std::unique_ptr<ui::LineLayout> stripLayout() {
 
 } // namespace
 
-BackgroundScreen::BackgroundScreen(SharedServices& services, std::string colorHeading)
+BackgroundScreen::BackgroundScreen(SharedServices& services, const char* colorHeading)
     : WizardScreen(services),
       currentDate(services.platform().clock.now()),
-      colorsLabel(controls, "colorsLabel", std::move(colorHeading)),
+      colorsLabel(controls, "colorsLabel", localized(colorHeading)),
       colorCollection(controls, "colorCollection", stripLayout()),
       gradientCollection(controls, "gradientCollection", stripLayout()) {}
 
 void BackgroundScreen::buildRows() {
     nextButton.addTarget(ui::PressEvent::UpInside, [this] { doneButtonTapped(); });
-    buildRow(photosButton, "Photo Library");
+    buildRow(photosButton, localized("Photo Library"));
     photosButton.addTarget(ui::PressEvent::UpInside, [this] { photosButtonTapped(); });
-    buildRow(imagesButton, "Image by Unsplash");
+    buildRow(imagesButton, localized("Image by Unsplash"));
     imagesButton.addTarget(ui::PressEvent::UpInside, [this] { imagesButtonTapped(); });
     for (ui::View* row : std::initializer_list<ui::View*>{
              &previewLabel, &card(), &photosLabel, &photosButton, &imagesLabel, &imagesButton, &colorsLabel,
@@ -68,7 +68,7 @@ std::shared_ptr<ui::CollectionViewCell> BackgroundScreen::cellForItem(ui::Collec
     const auto cell =
         std::static_pointer_cast<BackgrounCell>(collection.dequeueReusableCell(reuseIdentifier));
     const char* kind = &collection == &colorCollection ? "Color " : "Gradient ";
-    cell->setAccessibilityName(kind + std::to_string(item + 1));
+    cell->setAccessibilityName(localized(kind) + std::to_string(item + 1));
     if (&collection == &colorCollection) {
         cell->showColor(colorItemAt(item, platform().console));
         cell->setMarked(selectedColorIndexPath == item);

@@ -19,7 +19,7 @@ class BackgroundScreen : public WizardScreen,
                          public FullScreenImageDelegate,
                          public ImagePickerControllerDelegate {
 public:
-    BackgroundScreen(SharedServices& services, std::string colorHeading);
+    BackgroundScreen(SharedServices& services, const char* colorHeading);
 
     /// The marked item of each strip.
     std::optional<int> selectedColorIndexPath;
@@ -29,13 +29,13 @@ public:
     ui::Image unsplashImage;
     Instant currentDate;
 
-    InfoLabel previewLabel{controls, "previewLabel", "Preview"};
-    InfoLabel photosLabel{controls, "photosLabel", "Photos"};
+    InfoLabel previewLabel{controls, "previewLabel", localized("Preview")};
+    InfoLabel photosLabel{controls, "photosLabel", localized("Photos")};
     ui::Button photosButton{controls, "photosButton"};
-    InfoLabel imagesLabel{controls, "imagesLabel", "Images"};
+    InfoLabel imagesLabel{controls, "imagesLabel", localized("Images")};
     ui::Button imagesButton{controls, "imagesButton"};
     InfoLabel colorsLabel;
-    InfoLabel gradientsLabel{controls, "gradientsLabel", "Gradients"};
+    InfoLabel gradientsLabel{controls, "gradientsLabel", localized("Gradients")};
     ui::CollectionView colorCollection;
     ui::CollectionView gradientCollection;
 

@@ -29,7 +29,10 @@ DateAndTimeScreen::DateAndTimeScreen(SharedServices& services)
 void DateAndTimeScreen::buildRows() {
     dayField.setText(dateFormatter->string(currentDate));
     timeField.setText(timeFormatter->string(currentDate));
-    segmentedControl.setTitles({unitWords.begin(), unitWords.end()});
+    std::vector<std::string> units;
+    for (const std::string_view word : unitWords)
+        units.push_back(localized(word));
+    segmentedControl.setTitles(std::move(units));
     segmentedControl.setSelectedIndex(0);
     segmentedControl.setSelectedTint(ui::ColorRef::named("color 17"));
     segmentedControl.setCornerRadius(7);
@@ -97,7 +100,7 @@ void DateAndTimeScreen::showOrHideRepeatRow(bool past) {
 
 void DateAndTimeScreen::count() {
     const auto counter = counterText(chosenDate(), currentDate, segmentedControl.selectedIndex(), unitWords,
-                                     platform().console);
+                                     platform().texts, platform().console);
     if (counter)
         card().timeLabel.setStyledText(makeEventCardText(counter->unit, counter->number, screen()));
 }
@@ -150,8 +153,9 @@ void DateAndTimeScreen::switchValueChanged() {
 }
 
 void DateAndTimeScreen::handleViewLiveTap() {
-    present(TableViewController::make(window(), platform().console, dayRepeatTitles(), repEvent,
-                                      weakSelf<TableViewControllerDelegate>(this), repeatSheetHeight));
+    present(TableViewController::make(window(), platform().console, dayRepeatTitles(platform().texts),
+                                      repEvent, weakSelf<TableViewControllerDelegate>(this),
+                                      repeatSheetHeight));
 }
 
 void DateAndTimeScreen::didSelectValue(const std::string& title, int index) {

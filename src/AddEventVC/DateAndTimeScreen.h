@@ -32,14 +32,14 @@ public:
     ui::DatePicker timePicker;
     ui::Switch toggleSwitch{controls, "toggleSwitch"};
     ui::SegmentedControl segmentedControl{controls, "segmentedControl"};
-    InfoLabel dayLabel{controls, "dayLabel", "Day"};
-    InfoLabel timeLabel{controls, "timeLabel", "Time"};
-    InfoLabel repeatInfoLabel{controls, "repeatInfoLabel", "Repeat"};
-    InfoLabel unitsLabel{controls, "unitsLabel", "Units"};
+    InfoLabel dayLabel{controls, "dayLabel", localized("Day")};
+    InfoLabel timeLabel{controls, "timeLabel", localized("Time")};
+    InfoLabel repeatInfoLabel{controls, "repeatInfoLabel", localized("Repeat")};
+    InfoLabel unitsLabel{controls, "unitsLabel", localized("Units")};
     Label dayField{controls, "dayField", ""};
     Label timeField{controls, "timeField", ""};
-    Label repeatLapel{controls, "repeatLapel", "Never"};
-    Label switcherLabel{controls, "switcherLabel", "All Day"};
+    Label repeatLapel{controls, "repeatLapel", localized("Never")};
+    Label switcherLabel{controls, "switcherLabel", localized("All Day")};
     ui::Button repeatButton{controls, "repeatButton"};
 
     virtual void nextButtonTapped() = 0;

@@ -15,7 +15,7 @@ EditEventBackgroundViewController::EditEventBackgroundViewController(SharedServi
     : BackgroundScreen(services, "Colors"), eventView(controls, "timeLabel", services) {}
 
 void EditEventBackgroundViewController::viewDidLoad() {
-    buildFrame("Edit Background", "steps4", "Save");
+    buildFrame(localized("Edit Background"), "steps4", localized("Save"));
     if (eventData->color() != NO_VALUE)
         selectedColorIndexPath = eventData->color();
     if (eventData->gradient() != NO_VALUE)

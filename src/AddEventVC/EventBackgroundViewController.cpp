@@ -23,7 +23,7 @@ EventBackgroundViewController::EventBackgroundViewController(SharedServices& ser
       eventFormatter(services.platform().dateFormatters.make(fullFormat)) {}
 
 void EventBackgroundViewController::viewDidLoad() {
-    buildFrame("Background", "steps4", texts().done);
+    buildFrame(localized("Background"), "steps4", texts().done);
     // Confirming at once must give a whole event, so a background is chosen from the start.
     if (!eventData)
         eventData.emplace();
@@ -45,7 +45,7 @@ void EventBackgroundViewController::showDraft() {
     eventView.eventInformationLabel.setStyledText(
         makeEventCardText(eventData->dateEvent.value_or(""), eventData->title.value_or(""), screen()));
     const auto counter = counterText(eventDay(), currentDate, eventData->timeFormat.value_or(0), unitWords,
-                                     platform().console);
+                                     platform().texts, platform().console);
     if (counter)
         eventView.timeLabel.setStyledText(makeEventCardText(counter->unit, counter->number, screen()));
 }

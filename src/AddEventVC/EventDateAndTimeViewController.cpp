@@ -12,11 +12,11 @@ EventDateAndTimeViewController::EventDateAndTimeViewController(SharedServices& s
       eventView(controls, "eventView", services.platform().colors, services.platform().console) {}
 
 void EventDateAndTimeViewController::viewDidLoad() {
-    buildFrame("Add Day & Time", "steps2", "Next");
+    buildFrame(localized("Add Day & Time"), "steps2", localized("Next"));
     buildRows();
-    showEventInformation("Date of event");
+    showEventInformation(localized("Date of event"));
     eventView.timeLabel.setStyledText(
-        makeEventCardText(segmentedControl.selectedTitle(), "In a certain", screen()));
+        makeEventCardText(segmentedControl.selectedTitle(), localized("In a certain"), screen()));
 }
 
 std::string EventDateAndTimeViewController::eventTitle() const {

@@ -19,15 +19,15 @@ constexpr double keptQuality = 1;
 
 void ImagePickerController::viewDidLoad() {
     view().setBackgroundColor(ui::ColorRef::black());
-    titleLabel.setText("Move and Scale");
+    titleLabel.setText(localized("Move and Scale"));
     titleLabel.setFont({17, ui::FontWeight::Semibold});
     titleLabel.setTextColor(ui::ColorRef::white());
     messageLabel.setNumberOfLines(0);
     messageLabel.setTextColor(ui::ColorRef::white());
     messageLabel.setAlignment(ui::TextAlignment::Center);
-    imageView.setAccessibilityName("Photo");
-    const auto offer = [](ui::Button& button, const char* title, ui::FontWeight weight) {
-        button.setTitle(title);
+    imageView.setAccessibilityName(localized("Photo"));
+    const auto offer = [this](ui::Button& button, const char* title, ui::FontWeight weight) {
+        button.setTitle(localized(title));
         button.setFont({17, weight});
         button.setTitleColor(ui::ColorRef::white());
     };
@@ -90,10 +90,10 @@ void ImagePickerController::showPhoto(ui::Image photo) {
     screenSizeDidChange();
 }
 
-void ImagePickerController::tell(std::string message) {
+void ImagePickerController::tell(std::string_view message) {
     imageView.setImage({});
     chooseButton.setHidden(true);
-    messageLabel.setText(std::move(message));
+    messageLabel.setText(localized(message));
 }
 
 void ImagePickerController::screenSizeDidChange() {

@@ -70,7 +70,7 @@ private:
     void take(const PhotoLibrary::Choice& choice);
     void load(const Url& url);
     void showPhoto(ui::Image photo);
-    void tell(std::string message);
+    void tell(std::string_view message);
     [[nodiscard]] std::optional<ui::Image> framedPart() const;
 
     int choices_ = 0; ///< a photo that comes after a later choice is dropped

@@ -14,7 +14,7 @@ class TextCounting;
 /// "Title (7/20)".
 class LengthRule final {
 public:
-    /// `words` stand before the count. Counting and label outlive the rule.
+    /// `words` stand before the count, with the bracket that opens it. Counting and label outlive the rule.
     LengthRule(std::string words, int limit, const TextCounting& counting, ui::Label& counter)
         : words_(std::move(words)), limit_(limit), counting_(counting), counter_(counter) {}
 

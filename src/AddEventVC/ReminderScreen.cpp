@@ -12,7 +12,6 @@
 namespace tessivo {
 namespace {
 
-const std::string placeholderText = "Add Message";
 constexpr double repeatSheetHeight = 350;
 constexpr double alertSheetHeight = 550;
 
@@ -20,19 +19,20 @@ constexpr double alertSheetHeight = 550;
 
 ReminderScreen::ReminderScreen(SharedServices& services)
     : WizardScreen(services),
-      lengthRule_("Reminder Message", maxLength, services.platform().textCounting, CountLabel) {}
+      placeholderText_(localized("Add Message")),
+      lengthRule_(localized("Reminder Message ("), maxLength, services.platform().textCounting, CountLabel) {}
 
 void ReminderScreen::buildRows() {
     nextButton.addTarget(ui::PressEvent::UpInside, [this] { nextButtonTapped(); });
     addSwitchGradient(toggleSwitch, platform().colors, platform().console);
     toggleSwitch.setAccessibilityName(reminderLabel.text());
     toggleSwitch.addValueChangedTarget([this] { switchValueChanged(); });
-    reminderMess.setText(placeholderText);
+    reminderMess.setText(placeholderText_);
     reminderMess.setTextColor(ui::ColorRef::named("disabled"));
     reminderMess.setBackgroundColor(ui::ColorRef::named("backText"));
     reminderMess.setCornerRadius(16);
     reminderMess.setTextInsets({10, 16, 10, 16});
-    reminderMess.setAccessibilityName("Reminder Message");
+    reminderMess.setAccessibilityName(localized("Reminder Message"));
     reminderMess.delegate = weakSelf<ui::TextInputDelegate>(this);
     lengthRule_.show("");
     for (auto* button : {&repeatButton, &alertButton}) {
@@ -75,11 +75,11 @@ void ReminderScreen::actOn(AuthorizationStatus status) {
 }
 
 void ReminderScreen::showPermissionAlert() {
-    const auto alert =
-        std::make_shared<ui::AlertController>(window(), ui::AlertStyle::Alert, "Notifications Permission",
-                                              "In order to send reminders, the app needs to have a "
-                                              "permission for that. Please go to the Settings and "
-                                              "enable it");
+    const auto alert = std::make_shared<ui::AlertController>(
+        window(), ui::AlertStyle::Alert, localized("Notifications Permission"),
+        localized("In order to send reminders, the app needs to have a "
+                  "permission for that. Please go to the Settings and "
+                  "enable it"));
     alert->addAction({texts().alertNo, ui::AlertActionStyle::Destructive, [this] { turnSwitchOff(); }});
     alert->addAction({texts().alertYes, ui::AlertActionStyle::Default, [this] {
                           turnSwitchOff();
@@ -115,12 +115,12 @@ void ReminderScreen::hideRows() {
 
 void ReminderScreen::repeatButtonTapped() {
     selectedLabel = true;
-    handleViewLiveTap(repeatTitles(), repRemIndex, repeatSheetHeight);
+    handleViewLiveTap(repeatTitles(platform().texts), repRemIndex, repeatSheetHeight);
 }
 
 void ReminderScreen::alertButtonTapped() {
     selectedLabel = false;
-    handleViewLiveTap(alertTitles(), alertRemIndex, alertSheetHeight);
+    handleViewLiveTap(alertTitles(platform().texts), alertRemIndex, alertSheetHeight);
 }
 
 void ReminderScreen::handleViewLiveTap(const std::vector<std::string>& titles, int selected, double height) {
@@ -147,7 +147,7 @@ bool ReminderScreen::shouldChangeText(ui::TextInput& input, ui::TextRange range,
 }
 
 void ReminderScreen::didBeginEditing(ui::TextInput& input) {
-    if (input.text() == placeholderText) {
+    if (input.text() == placeholderText_) {
         input.setText("");
         input.setTextColor(ui::ColorRef::black());
     }
@@ -156,7 +156,7 @@ void ReminderScreen::didBeginEditing(ui::TextInput& input) {
 
 void ReminderScreen::didEndEditing(ui::TextInput& input) {
     if (input.text().empty()) {
-        input.setText(placeholderText);
+        input.setText(placeholderText_);
         input.setTextColor(ui::ColorRef::named("disabled"));
         messageText.clear();
     }
@@ -179,8 +179,8 @@ void ReminderScreen::fillRows(const Reminder& reminder) {
     };
     alertRemIndex = reminder.alertReminder;
     repRemIndex = reminder.repReminder;
-    alertlabel.setText(titleAt(alertTitles(), alertRemIndex));
-    repeatLabel.setText(titleAt(repeatTitles(), repRemIndex));
+    alertlabel.setText(titleAt(alertTitles(platform().texts), alertRemIndex));
+    repeatLabel.setText(titleAt(repeatTitles(platform().texts), repRemIndex));
     messageText = reminder.remMess;
     lengthRule_.show(messageText);
     if (!messageText.empty()) {

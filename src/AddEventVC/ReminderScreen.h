@@ -26,12 +26,12 @@ public:
     ui::Label CountLabel{controls, "CountLabel"};
     int repRemIndex = 0;
     int alertRemIndex = 0;
-    InfoLabel reminderInfoLabel{controls, "reminderInfoLabel", "Reminder"};
-    InfoLabel repeatInfoLabel{controls, "repeatInfoLabel", "Repeat"};
-    InfoLabel alertInfoLabel{controls, "alertInfoLabel", "Alert"};
-    Label reminderLabel{controls, "reminderLabel", "Reminder"};
-    Label alertlabel{controls, "alertlabel", "At time of event"};
-    Label repeatLabel{controls, "repeatLabel", "Every day"};
+    InfoLabel reminderInfoLabel{controls, "reminderInfoLabel", localized("Reminder")};
+    InfoLabel repeatInfoLabel{controls, "repeatInfoLabel", localized("Repeat")};
+    InfoLabel alertInfoLabel{controls, "alertInfoLabel", localized("Alert")};
+    Label reminderLabel{controls, "reminderLabel", localized("Reminder")};
+    Label alertlabel{controls, "alertlabel", localized("At time of event")};
+    Label repeatLabel{controls, "repeatLabel", localized("Every day")};
     ui::Button repeatButton{controls, "repeatButton"};
     ui::Button alertButton{controls, "alertButton"};
 
@@ -74,6 +74,7 @@ private:
     void moveNextButton(bool editing);
     [[nodiscard]] std::weak_ptr<ReminderScreen> weakThis();
 
+    const std::string placeholderText_;
     LengthRule lengthRule_;
 };
 

@@ -11,7 +11,7 @@ constexpr int allOptions = AuthorizeBadge | AuthorizeSound | AuthorizeAlert;
 } // namespace
 
 void ReminderViewController::viewDidLoad() {
-    buildFrame("Add Reminder", "steps3", "Next");
+    buildFrame(localized("Add Reminder"), "steps3", localized("Next"));
     buildRows();
     askPermission();
 }

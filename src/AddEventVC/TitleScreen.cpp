@@ -6,7 +6,8 @@
 namespace tessivo {
 
 TitleScreen::TitleScreen(SharedServices& services)
-    : WizardScreen(services), lengthRule_("Title", maxLength, services.platform().textCounting, CountLabel) {}
+    : WizardScreen(services),
+      lengthRule_(localized("Title ("), maxLength, services.platform().textCounting, CountLabel) {}
 
 void TitleScreen::buildField(const std::string& title, PreviewView& card) {
     nextButton.addTarget(ui::PressEvent::UpInside, [this] { nextButtonTapped(); });

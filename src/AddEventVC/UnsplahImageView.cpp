@@ -20,15 +20,15 @@ void UnsplahImageView::viewDidLoad() {
     view().setBackgroundColor(ui::ColorRef::white());
     prevButton.setImageName("chevron.backward");
     prevButton.setTint(ui::ColorRef::named("button"));
-    prevButton.setAccessibilityName("Back");
+    prevButton.setAccessibilityName(localized("Back"));
     prevButton.addTarget(ui::PressEvent::UpInside, [this] { prevButtonTapped(); });
-    saveButton.setTitle("Save");
+    saveButton.setTitle(localized("Save"));
     saveButton.setFont({17, ui::FontWeight::Medium});
     saveButton.setTitleColor(ui::ColorRef::named("button"));
     saveButton.addTarget(ui::PressEvent::UpInside, [this] { saveButtonTapped(); });
     photographerButton.setTitle(photographer.value_or(""));
     if (!photographer)
-        photographerButton.setAccessibilityName("Photographer");
+        photographerButton.setAccessibilityName(localized("Photographer"));
     photographerButton.setTitleColor(ui::ColorRef::white());
     photographerButton.setImageName("photographer");
     photographerButton.setBackgroundColor(ui::ColorRef::black());

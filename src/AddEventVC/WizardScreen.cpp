@@ -15,7 +15,7 @@ void WizardScreen::buildFrame(std::string heading, std::string stepImage, std::s
     nextButton.setTitle(std::move(nextTitle));
     prevButton.setImageName("chevron.backward");
     prevButton.setTint(ui::ColorRef::named("button"));
-    prevButton.setAccessibilityName("Back");
+    prevButton.setAccessibilityName(localized("Back"));
     prevButton.addTarget(ui::PressEvent::UpInside, [this] { prevButtonTapped(); });
     for (ui::View* part : std::initializer_list<ui::View*>{&titleLabel, &topImage, &nextButton, &prevButton})
         view().addSubview(*part);

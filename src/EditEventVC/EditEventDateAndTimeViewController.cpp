@@ -16,18 +16,19 @@ EditEventDateAndTimeViewController::EditEventDateAndTimeViewController(SharedSer
     : DateAndTimeScreen(services), eventView(controls, "eventTimeLabel", services) {}
 
 void EditEventDateAndTimeViewController::viewDidLoad() {
-    buildFrame("Edit Day & Time", "steps2", "Save");
+    buildFrame(localized("Edit Day & Time"), "steps2", localized("Save"));
     buildRows();
     eventView.show(*eventData, currentDate);
     fillRows();
 }
 
 void EditEventDateAndTimeViewController::fillRows() {
+    const auto repeats = dayRepeatTitles(platform().texts);
     const auto repeat = static_cast<std::size_t>(eventData->repEvent());
-    if (repeat >= dayRepeatTitles().size())
+    if (repeat >= repeats.size())
         platform().console.stopProgram("There is no repeat " + std::to_string(eventData->repEvent()) + ".");
     repEvent = eventData->repEvent();
-    repeatLapel.setText(dayRepeatTitles()[repeat]);
+    repeatLapel.setText(repeats[repeat]);
     segmentedControl.setSelectedIndex(eventData->timeFormat());
     dayField.setText(*eventData->dateEvent());
     const bool allDay = eventData->timeEvent().value_or("").empty();

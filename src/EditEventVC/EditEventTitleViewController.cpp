@@ -15,7 +15,7 @@ EditEventTitleViewController::EditEventTitleViewController(SharedServices& servi
       currentDate(services.platform().clock.now()) {}
 
 void EditEventTitleViewController::viewDidLoad() {
-    buildFrame("Edit Title", "steps1", "Save");
+    buildFrame(localized("Edit Title"), "steps1", localized("Save"));
     eventView.show(*eventData, currentDate);
     buildField(*eventData->title(), eventView);
 }

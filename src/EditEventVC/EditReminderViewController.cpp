@@ -10,7 +10,7 @@
 namespace tessivo {
 
 void EditReminderViewController::viewDidLoad() {
-    buildFrame("Edit Reminder", "steps3", "Save");
+    buildFrame(localized("Edit Reminder"), "steps3", localized("Save"));
     buildRows();
     if (eventData->alertReminder() != NO_VALUE)
         fillRows({eventData->alertReminder(), eventData->repReminder(), eventData->remMess().value_or("")});

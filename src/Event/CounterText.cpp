@@ -2,6 +2,7 @@
 
 #include "Event/EventDate.h"
 #include "Ports/Console.h"
+#include "Ports/LocalizedTexts.h"
 
 #include <cmath>
 #include <cstdint>
@@ -19,7 +20,7 @@ double inUnits(double seconds, std::size_t unit) {
 } // namespace
 
 std::optional<CounterText> counterText(Instant eventDate, Instant now, int unit, const UnitWords& words,
-                                       Console& console) {
+                                       const LocalizedTexts& texts, Console& console) {
     if (unit < 0 || unit >= static_cast<int>(words.size())) {
         console.print("nul");
         return std::nullopt;
@@ -32,9 +33,10 @@ std::optional<CounterText> counterText(Instant eventDate, Instant now, int unit,
         console.stopProgram("A counter is too large to show.");
 
     const auto whole = static_cast<std::int64_t>(count);
-    return CounterText{.number = isPast(eventDate, now) ? "Since " + std::to_string(whole)
-                                                        : "In " + std::to_string(-whole),
-                       .unit = std::string(words[index])};
+    return CounterText{.number = isPast(eventDate, now)
+                                     ? texts.localizedString("Since ") + std::to_string(whole)
+                                     : texts.localizedString("In ") + std::to_string(-whole),
+                       .unit = texts.localizedString(words[index])};
 }
 
 } // namespace tessivo

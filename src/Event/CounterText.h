@@ -10,8 +10,9 @@
 namespace tessivo {
 
 class Console;
+class LocalizedTexts;
 
-/// The words under a count, by the index of the unit in which an event counts.
+/// The words under a count, by the index of the unit in which an event counts: keys of the text table.
 using UnitWords = std::array<std::string_view, 5>;
 
 /// On cards, and wherever the user chooses a unit.
@@ -28,10 +29,11 @@ struct CounterText {
     friend bool operator==(const CounterText&, const CounterText&) = default;
 };
 
-/// Whole units between `now` and `eventDate`, the part of a unit dropped, with the word of `words` for the
-/// unit. A month counts 30 days and a year 365, whatever the calendar says. An unknown unit prints "nul"
+/// Whole units between `now` and `eventDate`, the part of a unit dropped, with the text of `texts` for the word
+/// of the unit. A month counts 30 days and a year 365, whatever the calendar says. An unknown unit prints "nul"
 /// and returns nothing; a count beyond 64 bits stops the program.
 [[nodiscard]] std::optional<CounterText> counterText(Instant eventDate, Instant now, int unit,
-                                                     const UnitWords& words, Console& console);
+                                                     const UnitWords& words, const LocalizedTexts& texts,
+                                                     Console& console);
 
 } // namespace tessivo

@@ -13,7 +13,7 @@ ui::StyledText makeEventCardText(std::string_view lower, std::string_view upper,
 ui::StyledText makeCounterText(std::string_view words, std::size_t count, int limit) {
     constexpr ui::Font font{15, ui::FontWeight::Regular};
     const auto color = ui::ColorRef::named("disabled");
-    return {{{std::string(words) + " (", font, color},
+    return {{{std::string(words), font, color},
              {std::to_string(count), font, color},
              {"/" + std::to_string(limit) + ")", font, color}}};
 }

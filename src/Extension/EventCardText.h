@@ -11,7 +11,8 @@ namespace tessivo {
 [[nodiscard]] ui::StyledText makeEventCardText(std::string_view lower, std::string_view upper,
                                                const ui::MainScreen& screen);
 
-/// "Title (7/20)": `words` before the count, and exactly the digits of the count at their own size.
+/// "Title (7/20)": `words`, such as "Title (", before the count, and exactly the digits of the count at their
+/// own size.
 [[nodiscard]] ui::StyledText makeCounterText(std::string_view words, std::size_t count, int limit);
 
 } // namespace tessivo

@@ -12,6 +12,7 @@ namespace tessivo {
 
 StoredEvent::StoredEvent(const Platform& platform)
     : console_(platform.console),
+      texts_(platform.texts),
       eventFormatter(platform.dateFormatters.make(fullFormat)),
       dateFormatter(platform.dateFormatters.make(dateFormat)) {}
 
@@ -31,7 +32,7 @@ Instant StoredEvent::date(const EventCoreData& row) const {
 
 std::optional<CounterText> StoredEvent::counter(const EventCoreData& row, Instant now,
                                                 const UnitWords& words) const {
-    return counterText(date(row), now, row.timeFormat(), words, console_);
+    return counterText(date(row), now, row.timeFormat(), words, texts_, console_);
 }
 
 EventBackground StoredEvent::background(const EventCoreData& row) const {

@@ -53,6 +53,7 @@ private:
     [[nodiscard]] const std::string& present(const std::optional<std::string>& text, const char* what) const;
 
     Console& console_;
+    const LocalizedTexts& texts_;
     std::unique_ptr<DateFormatter> eventFormatter;
     std::unique_ptr<DateFormatter> dateFormatter;
 };

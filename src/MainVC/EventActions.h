@@ -9,13 +9,14 @@
 
 namespace tessivo {
 
+class LocalizedTexts;
 class SharedServices;
 
 namespace ui {
 class AlertController;
 } // namespace ui
 
-/// A screen that changes an event, as menus and sheets offer it.
+/// A screen that changes an event, as menus and sheets offer it; the title is a key of the text table.
 struct EditChoice {
     EditScreen screen;
     const char* title;
@@ -30,9 +31,10 @@ inline constexpr std::array editChoices{
 };
 
 /// "Edit" with the four screens under it.
-[[nodiscard]] ui::MenuElement editMenu(const std::function<void(EditScreen)>& edit);
-[[nodiscard]] ui::MenuElement shareElement(std::function<void()> share);
-[[nodiscard]] ui::MenuElement deleteElement(std::function<void()> remove);
+[[nodiscard]] ui::MenuElement editMenu(const LocalizedTexts& texts,
+                                       const std::function<void(EditScreen)>& edit);
+[[nodiscard]] ui::MenuElement shareElement(const LocalizedTexts& texts, std::function<void()> share);
+[[nodiscard]] ui::MenuElement deleteElement(const LocalizedTexts& texts, std::function<void()> remove);
 
 /// Asks whether the event is to be deleted; `remove` is called on a yes.
 [[nodiscard]] std::shared_ptr<ui::AlertController> deletionQuestion(SharedServices& services,

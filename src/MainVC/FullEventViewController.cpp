@@ -33,14 +33,15 @@ FullEventViewController::FullEventViewController(SharedServices& services)
 void FullEventViewController::viewDidLoad() {
     prevButton.setImageName("chevron.backward");
     prevButton.setTint(ui::ColorRef::white());
-    prevButton.setAccessibilityName("Back");
+    prevButton.setAccessibilityName(localized("Back"));
     prevButton.addTarget(ui::PressEvent::UpInside, [this] { prevButtonTapped(); });
     fillterButton.setImageName("ellipsis\u0421ircle"); // the resource's own name, with a Cyrillic letter
     fillterButton.setTint(ui::ColorRef::white());
-    fillterButton.setAccessibilityName("Menu");
+    fillterButton.setAccessibilityName(localized("Menu"));
+    const auto& table = platform().texts;
     fillterButton.setMenu(
-        {{shareElement([this] { share(); }), editMenu([this](EditScreen kind) { edit(kind); }),
-          deleteElement([this] { confirmDeletion(); })}});
+        {{shareElement(table, [this] { share(); }), editMenu(table, [this](EditScreen kind) { edit(kind); }),
+          deleteElement(table, [this] { confirmDeletion(); })}});
     fillterButton.setShowsMenuAsPrimaryAction(true);
     timeLabel.setNumberOfLines(2);
     eventInformationLabel.setNumberOfLines(2);

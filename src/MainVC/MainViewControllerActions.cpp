@@ -39,11 +39,11 @@ std::optional<swipe::SwipeActions> MainViewController::editActions(ui::Collectio
         return std::nullopt;
     const EventSize* size = savedEventSize(platform());
     const double image = size ? size->swipeButtonWidth - 2 * swipeButtonPadding : 0;
-    return swipe::SwipeActions{makeAction(size ? size->deleteImage : nullptr, image, "Delete", false,
-                                          [this](int item) { confirmDeletion(item); }),
-                               makeAction(size ? size->shareImage : nullptr, image, "Share", true,
+    return swipe::SwipeActions{makeAction(size ? size->deleteImage : nullptr, image, localized("Delete"),
+                                          false, [this](int item) { confirmDeletion(item); }),
+                               makeAction(size ? size->shareImage : nullptr, image, localized("Share"), true,
                                           [this](int item) { shareCard(item); }),
-                               makeAction(size ? size->editImage : nullptr, image, "Edit", true,
+                               makeAction(size ? size->editImage : nullptr, image, localized("Edit"), true,
                                           [this](int item) { showEditSheet(item); })};
 }
 
@@ -78,22 +78,24 @@ void MainViewController::edit(EditScreen kind, int item) {
 }
 
 void MainViewController::showEditSheet(int item) {
-    const auto sheet = std::make_shared<ui::AlertController>(window(), ui::AlertStyle::ActionSheet, "Edit",
-                                                             "What do you want to edit?");
+    const auto sheet = std::make_shared<ui::AlertController>(
+        window(), ui::AlertStyle::ActionSheet, localized("Edit"), localized("What do you want to edit?"));
     for (const auto& choice : editChoices)
-        sheet->addAction({choice.title, ui::AlertActionStyle::Default,
+        sheet->addAction({localized(choice.title), ui::AlertActionStyle::Default,
                           [this, kind = choice.screen, id = rowAt(item).id()] {
                               actOn(id, [&](int at) { edit(kind, at); });
                           }});
-    sheet->addAction({"Cancel", ui::AlertActionStyle::Cancel, {}});
+    sheet->addAction({localized("Cancel"), ui::AlertActionStyle::Cancel, {}});
     present(sheet);
 }
 
 std::optional<ui::Menu> MainViewController::contextMenuForItem(ui::CollectionView&, int item, ui::Point) {
     const auto id = rowAt(item).id();
-    return ui::Menu{{editMenu([this, id](EditScreen kind) { actOn(id, [&](int at) { edit(kind, at); }); }),
-                     shareElement([this, id] { actOn(id, [this](int at) { shareCard(at); }); }),
-                     deleteElement([this, id] { actOn(id, [this](int at) { confirmDeletion(at); }); })}};
+    const auto& table = platform().texts;
+    return ui::Menu{
+        {editMenu(table, [this, id](EditScreen kind) { actOn(id, [&](int at) { edit(kind, at); }); }),
+         shareElement(table, [this, id] { actOn(id, [this](int at) { shareCard(at); }); }),
+         deleteElement(table, [this, id] { actOn(id, [this](int at) { confirmDeletion(at); }); })}};
 }
 
 void MainViewController::shareCard(int item) {

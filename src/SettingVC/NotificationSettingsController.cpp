@@ -1,5 +1,7 @@
 #include "SettingVC/NotificationSettingsController.h"
 
+#include "Ports/LocalizedTexts.h"
+
 namespace tessivo {
 namespace {
 
@@ -10,8 +12,13 @@ constexpr double sheetHeight = 260;
 NotificationSettingsController::NotificationSettingsController(ui::WindowContext& window,
                                                                NotificationCenter& center,
                                                                MainQueue& mainQueue,
+                                                               const LocalizedTexts& texts,
                                                                std::function<void(bool)> changeAnswer)
-    : ViewController(window), center_(center), mainQueue_(mainQueue), changeAnswer_(std::move(changeAnswer)) {
+    : ViewController(window),
+      center_(center),
+      mainQueue_(mainQueue),
+      texts_(texts),
+      changeAnswer_(std::move(changeAnswer)) {
     modalPresentationStyle = ui::PresentationStyle::Sheet;
     sheetPresentation.height = sheetHeight;
 }
@@ -19,11 +26,12 @@ NotificationSettingsController::NotificationSettingsController(ui::WindowContext
 void NotificationSettingsController::viewDidLoad() {
     view().setBackgroundColor(ui::ColorRef::white());
     titleLabel.setFont({22, ui::FontWeight::Bold});
-    titleLabel.setText("Notifications");
+    titleLabel.setText(texts_.localizedString("Notifications"));
     explanationLabel.setTextColor(ui::ColorRef::named("disabled"));
     explanationLabel.setNumberOfLines(0);
-    explanationLabel.setText("Tessivo reminds you of your events, also while its window is closed.");
-    allowLabel.setText("Allow Notifications");
+    explanationLabel.setText(
+        texts_.localizedString("Tessivo reminds you of your events, also while its window is closed."));
+    allowLabel.setText(texts_.localizedString("Allow Notifications"));
     allowSwitch.setAccessibilityName(allowLabel.text());
     allowSwitch.setUserInteractionEnabled(false);
     allowSwitch.addValueChangedTarget([this] { changeAnswer_(allowSwitch.isOn()); });

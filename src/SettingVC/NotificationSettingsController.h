@@ -9,13 +9,16 @@
 
 namespace tessivo {
 
+class LocalizedTexts;
+
 /// The page on which the user allows or forbids notifications, as a sheet. The switch stands still until the
 /// present answer is known.
 class NotificationSettingsController final : public ui::ViewController {
 public:
     /// `changeAnswer` stores what the user decides. The ports outlive the page.
     NotificationSettingsController(ui::WindowContext& window, NotificationCenter& center,
-                                   MainQueue& mainQueue, std::function<void(bool allowed)> changeAnswer);
+                                   MainQueue& mainQueue, const LocalizedTexts& texts,
+                                   std::function<void(bool allowed)> changeAnswer);
 
     ui::Label titleLabel{controls, "titleLabel"};
     ui::Label explanationLabel{controls, "explanationLabel"};
@@ -32,6 +35,7 @@ private:
 
     NotificationCenter& center_;
     MainQueue& mainQueue_;
+    const LocalizedTexts& texts_;
     std::function<void(bool)> changeAnswer_;
 };
 

@@ -2,6 +2,7 @@
 #include "Event/EventDate.h"
 #include "fakes/RecordingConsole.h"
 #include "icu/IcuDateFormatters.h"
+#include "json/JsonLocalizedTexts.h"
 
 #include <gmock/gmock.h>
 
@@ -35,12 +36,13 @@ Instant atMilliseconds(std::int64_t milliseconds) {
 class CounterTextTest : public testing::Test {
 protected:
     fakes::RecordingConsole console;
+    const JsonLocalizedTexts texts;
 };
 
 TEST_F(CounterTextTest, CountsAsWholeNumberArithmeticDoes) {
     for (const auto& [event, now, unit, number] : counterTable) {
         const auto counter =
-            counterText(atMilliseconds(event), atMilliseconds(now), unit, unitWords, console);
+            counterText(atMilliseconds(event), atMilliseconds(now), unit, unitWords, texts, console);
         ASSERT_TRUE(counter);
         EXPECT_EQ(counter->number, number) << event << " from " << now << " in " << unitWords[unit];
     }
@@ -49,7 +51,7 @@ TEST_F(CounterTextTest, CountsAsWholeNumberArithmeticDoes) {
 
 TEST_F(CounterTextTest, TheUnitLineIsTheWordOfTheUnitWhateverTheCount) {
     const auto lines = [this](int unit, const UnitWords& words) {
-        return counterText(instantAt(0), instantAt(3600), unit, words, console)->unit;
+        return counterText(instantAt(0), instantAt(3600), unit, words, texts, console)->unit;
     };
     EXPECT_EQ(lines(0, unitWords), "Hours");
     EXPECT_EQ(lines(2, unitWords), "Weeks");
@@ -59,11 +61,21 @@ TEST_F(CounterTextTest, TheUnitLineIsTheWordOfTheUnitWhateverTheCount) {
     EXPECT_EQ(lines(4, editPreviewUnitWords), "Year");
 }
 
+TEST_F(CounterTextTest, SpeaksTheLanguageOfTheTexts) {
+    const auto german =
+        JsonLocalizedTexts::fromJson(R"({"In ": "Noch ", "Since ": "Schon ", "Hours": "Stunden"})").value();
+    const auto in = [&](double event) {
+        return counterText(instantAt(event), instantAt(0), 0, unitWords, german, console);
+    };
+    EXPECT_THAT(in(7200), Optional(CounterText{"Noch 2", "Stunden"}));
+    EXPECT_THAT(in(-7200), Optional(CounterText{"Schon 2", "Stunden"}));
+}
+
 TEST_F(CounterTextTest, AUnitThatIsNonePrintsNulEvenWhereTheCountWouldNotFit) {
     const Instant never = instantAt(std::numeric_limits<double>::infinity());
     for (const int unit : {5, -1, 9999, -32768}) {
-        EXPECT_EQ(counterText(instantAt(0), instantAt(0), unit, unitWords, console), std::nullopt);
-        EXPECT_EQ(counterText(never, instantAt(0), unit, unitWords, console), std::nullopt);
+        EXPECT_EQ(counterText(instantAt(0), instantAt(0), unit, unitWords, texts, console), std::nullopt);
+        EXPECT_EQ(counterText(never, instantAt(0), unit, unitWords, texts, console), std::nullopt);
         EXPECT_THAT(console.take(), ElementsAre("nul", "nul"));
     }
 }
@@ -71,7 +83,7 @@ TEST_F(CounterTextTest, AUnitThatIsNonePrintsNulEvenWhereTheCountWouldNotFit) {
 TEST_F(CounterTextTest, ACountBeyondSixtyFourBitsStopsTheProgram) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     for (const double event : {infinity, -infinity, std::nan(""), 1e300, -1e300})
-        EXPECT_THROW((void)counterText(instantAt(event), instantAt(0), 4, unitWords, console),
+        EXPECT_THROW((void)counterText(instantAt(event), instantAt(0), 4, unitWords, texts, console),
                      fakes::ProgramStopped)
             << event;
 
@@ -79,11 +91,11 @@ TEST_F(CounterTextTest, ACountBeyondSixtyFourBitsStopsTheProgram) {
     const double tooMany = std::ldexp(3600.0, 63);
     const double most = std::nextafter(tooMany, 0);
     for (const double sign : {1.0, -1.0})
-        EXPECT_THROW((void)counterText(instantAt(sign * tooMany), instantAt(0), 0, unitWords, console),
+        EXPECT_THROW((void)counterText(instantAt(sign * tooMany), instantAt(0), 0, unitWords, texts, console),
                      fakes::ProgramStopped);
-    EXPECT_EQ(counterText(instantAt(most), instantAt(0), 0, unitWords, console)->number,
+    EXPECT_EQ(counterText(instantAt(most), instantAt(0), 0, unitWords, texts, console)->number,
               "In 9223372036854774784");
-    EXPECT_EQ(counterText(instantAt(-most), instantAt(0), 0, unitWords, console)->number,
+    EXPECT_EQ(counterText(instantAt(-most), instantAt(0), 0, unitWords, texts, console)->number,
               "Since 9223372036854774784");
 }
 

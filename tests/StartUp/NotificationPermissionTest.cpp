@@ -18,8 +18,12 @@ protected:
     Program program;
     std::vector<bool> answers;
     PendingScreens pending{program.stack()};
-    NotificationPermission permission{pending, program.stack().window(), program.notifications,
-                                      program.timeline, [this](bool allowed) { answers.push_back(allowed); }};
+    NotificationPermission permission{pending,
+                                      program.stack().window(),
+                                      program.notifications,
+                                      program.timeline,
+                                      program.services().platform().texts,
+                                      [this](bool allowed) { answers.push_back(allowed); }};
 };
 
 TEST_F(PermissionTest, TheQuestionWaitsForTheSlideToEnd) {

@@ -14,27 +14,13 @@
 namespace tessivo {
 namespace {
 
+using testing::IsSupersetOf;
 using testing::UnorderedElementsAre;
 using testing::UnorderedElementsAreArray;
 
 std::string contentsOf(const std::string& language, const std::string& folder = "texts") {
     return resource(folder + "/" + language + ".json");
 }
-
-/// What screens look up under its English words.
-constexpr const char* wordsOfTheirOwn[] = {"Small",
-                                           "Medium",
-                                           "Large",
-                                           "Past",
-                                           "Future",
-                                           "Back",
-                                           "General",
-                                           "Feedback",
-                                           "Help and Legal",
-                                           "What lies ahead is counted down here.",
-                                           "What is over is kept here.",
-                                           "All your events are under Past.",
-                                           "All your events are under Future."};
 
 /// Notes the keys that are asked for, and answers with the key in brackets.
 class AskedKeys final : public LocalizedTexts {
@@ -62,27 +48,44 @@ TEST(LocalizationVariables, AskOnceForEachKeyAndKeepTheAnswerUnderIt) {
 
 class EveryLanguage : public testing::TestWithParam<const char*> {};
 
-TEST_P(EveryLanguage, HasExactlyTheTextsThatScreensShow) {
+TextTable tableOf(const char* language) {
+    const auto table = readTextTable(contentsOf(language));
+    EXPECT_TRUE(table) << table.error().description;
+    return table ? table.value() : TextTable();
+}
+
+std::vector<std::string> keysOf(const TextTable& table) {
+    std::vector<std::string> keys;
+    for (const auto& [key, text] : table)
+        keys.push_back(key);
+    return keys;
+}
+
+TEST_P(EveryLanguage, HasTheKeysOfTheOthersEachWithAText) {
+    const TextTable table = tableOf(GetParam());
+    EXPECT_THAT(keysOf(table), UnorderedElementsAreArray(keysOf(tableOf("en"))));
+    for (const auto& [key, text] : table)
+        EXPECT_NE(text.find_first_not_of(" \n"), std::string::npos) << key << " is blank";
+}
+
+TEST_P(EveryLanguage, HasTheNamedTextsAndThoseOfTheApplications) {
     const AskedKeys wanted;
     const LocalizationVariables variables(wanted);
-    const auto table = readTextTable(contentsOf(GetParam()));
-    ASSERT_TRUE(table) << table.error().description;
-    std::vector<std::string> keys;
-    for (const auto& [key, text] : table.value()) {
-        keys.push_back(key);
-        EXPECT_NE(text.find_first_not_of(" \n"), std::string::npos) << key << " is blank";
-    }
-    for (const char* words : wordsOfTheirOwn)
-        wanted.asked.emplace_back(words);
     const auto applications = NlohmannJson().parse(resource("applications.json"));
     for (const auto& application : *applications.value().as<JsonValue::Array>()) {
         for (const char* field : {"title", "subTitle"})
             wanted.asked.push_back(*application.find(field)->as<std::string>());
     }
-    std::ranges::sort(wanted.asked);
-    const auto repeated = std::ranges::unique(wanted.asked);
-    wanted.asked.erase(repeated.begin(), repeated.end());
-    EXPECT_THAT(keys, UnorderedElementsAreArray(wanted.asked));
+    EXPECT_THAT(keysOf(tableOf(GetParam())), IsSupersetOf(wanted.asked));
+}
+
+TEST(EnglishTexts, AreTheKeysThemselvesWhereAKeyIsNoName) {
+    const AskedKeys named;
+    const LocalizationVariables variables(named);
+    for (const auto& [key, text] : tableOf("en")) {
+        if (std::ranges::count(named.asked, key) == 0)
+            EXPECT_EQ(text, key);
+    }
 }
 
 TEST_P(EveryLanguage, KeepsTheShapesThatScreensLeanOn) {
@@ -94,6 +97,11 @@ TEST_P(EveryLanguage, KeepsTheShapesThatScreensLeanOn) {
          {shown.next, shown.done, shown.eventTitle, shown.addTitle, shown.alertRate, shown.days,
           shown.inACertain, shown.yourEventTitle, shown.dateOfEvent})
         EXPECT_EQ(oneLine.find('\n'), std::string::npos) << oneLine;
+    for (const char* before : {"In ", "Since ", "Color ", "Gradient "})
+        EXPECT_TRUE(texts.value().localizedString(before).ends_with(' '))
+            << before << "a number follows at once";
+    for (const char* open : {"Title (", "Reminder Message ("})
+        EXPECT_TRUE(texts.value().localizedString(open).ends_with('(')) << "the count follows in brackets";
     EXPECT_NE(shown.alertYes, shown.alertNo);
     EXPECT_TRUE(shown.share.ends_with(' ') || shown.share.ends_with("：")) << "an address follows at once";
 }

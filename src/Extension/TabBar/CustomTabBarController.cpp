@@ -6,6 +6,7 @@
 #include "Interface/NavigationController.h"
 #include "MainVC/MainViewController.h"
 #include "Ports/Console.h"
+#include "Ports/LocalizedTexts.h"
 #include "Ports/MainQueue.h"
 #include "Ports/SavedSettings.h"
 #include "Support/Feedback/AlertManager.h"
@@ -37,7 +38,7 @@ void CustomTabBarController::viewDidLoad() {
     services_.fetchEventDataType().refreshEvents();
     addButton.setImageName("addButton");
     addButton.setBackgroundColor(ui::ColorRef::clear());
-    addButton.setAccessibilityName("Add Event");
+    addButton.setAccessibilityName(services_.platform().texts.localizedString("Add Event"));
     addButton.addTarget(ui::PressEvent::UpInside, [this] { addEvent(); });
     tabBar.setBackgroundColor(ui::ColorRef::white());
     view().addSubview(tabBar);
@@ -51,10 +52,11 @@ void CustomTabBarController::viewWillAppear() {
     if (!defaultScreen)
         services_.platform().console.stopProgram("The first tab is not set.");
     const auto titleColor = ui::ColorRef::named(*defaultScreen == 0 ? "pastColor" : "futureColor");
+    const auto& texts = services_.platform().texts;
     setViewControllers({std::make_shared<MainViewController>(services_, ListType::Past),
                         std::make_shared<MainViewController>(services_, ListType::Future)},
-                       {{"Past", "Past", "pastSelect", titleColor, {}},
-                        {"Future", "Future", "futureSelect", titleColor, {}}});
+                       {{texts.localizedString("Past"), "Past", "pastSelect", titleColor, {}},
+                        {texts.localizedString("Future"), "Future", "futureSelect", titleColor, {}}});
     placeBar();
     applySelectedTitleColors(tabBar);
     setSelectedIndex(static_cast<std::size_t>(*defaultScreen));

@@ -7,6 +7,7 @@
 
 namespace tessivo {
 
+class LocalizedTexts;
 class PendingScreens;
 
 namespace ui {
@@ -19,7 +20,8 @@ class NotificationPermission {
 public:
     /// `changeAnswer` stores what the user decides on the page. All others outlive this object.
     NotificationPermission(PendingScreens& pending, ui::WindowContext& window, NotificationCenter& center,
-                           MainQueue& mainQueue, std::function<void(bool allowed)> changeAnswer);
+                           MainQueue& mainQueue, const LocalizedTexts& texts,
+                           std::function<void(bool allowed)> changeAnswer);
 
     /// Asks the user; `answered` is called once, when they have answered.
     void ask(std::function<void(bool allowed)> answered);
@@ -32,6 +34,7 @@ private:
     ui::WindowContext& window_;
     NotificationCenter& center_;
     MainQueue& mainQueue_;
+    const LocalizedTexts& texts_;
     std::function<void(bool)> changeAnswer_;
 };
 
