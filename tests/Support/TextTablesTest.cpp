@@ -83,8 +83,9 @@ TEST(EnglishTexts, AreTheKeysThemselvesWhereAKeyIsNoName) {
     const AskedKeys named;
     const LocalizationVariables variables(named);
     for (const auto& [key, text] : tableOf("en")) {
-        if (std::ranges::count(named.asked, key) == 0)
+        if (std::ranges::count(named.asked, key) == 0) {
             EXPECT_EQ(text, key);
+        }
     }
 }
 

@@ -39,6 +39,9 @@ unsplash::UnsplashPickerViewController& Tour::photoScreen() const {
 
 void Tour::waitForPhotos() {
     waitFor("photos", [this] { return isComplete(photoScreen()); });
+    for (const auto& [item, cell] : photoScreen().collectionView.visibleCells())
+        texts_.allow(
+            QString::fromStdString(static_cast<unsplash::PhotoCell&>(*cell).photoView.userNameLabel.text()));
 }
 
 void Tour::openPhotos() {
@@ -51,7 +54,7 @@ void Tour::searchPhotos(const QString& text) {
     hand_.tap(field);
     if (!photoScreen().searchController.searchBar.text().empty())
         hand_.tap(QString::fromStdString(photoScreen().searchController.clearButton.accessibilityName()));
-    hand_.commit(text);
+    type(text);
     hand_.press(Qt::Key_Return);
     waitForPhotos();
 }

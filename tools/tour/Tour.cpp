@@ -13,6 +13,7 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QImage>
+#include <QLocale>
 #include <QQuickWindow>
 
 #include <algorithm>
@@ -35,7 +36,8 @@ Tour::Tour(Composition& program, const Stage& stage, const QDir& pictures)
       stage_(stage),
       pictures_(pictures),
       window_(*program.shell().window()),
-      hand_(window_, [this] { settle(); }) {
+      hand_(window_, [this] { settle(); }),
+      texts_(stage.language, QLocale(QLatin1String(stage.locale))) {
     QAccessible::setActive(true);
 }
 
@@ -52,14 +54,14 @@ void Tour::run() {
     addEvent({"Driving Test", 1, 0, 0, 0, 16, -1, false});
     addEvent({"Walk in the Hills", 1, 1, 0, 1, -1, -1, false, Picture::Service});
     addEvent({"Up Before the Sun", -1, 1, 1, 2, -1, -1, false, Picture::Library});
-    hand_.tap(QStringLiteral("Future"));
+    hand_.tap(said("Future"));
     picture("future");
     useCards();
     openEvent();
     showPictureCards();
     addEvent({"First Day at Work", 0, -1, -2, 4, -1, 13, false});
     addEvent({"Moved House", -2, -1, 0, 1, 22, -1, false});
-    hand_.tap(QStringLiteral("Past"));
+    hand_.tap(said("Past"));
     picture("past");
     useSettings();
 }
@@ -96,6 +98,10 @@ void Tour::useSettings() {
     picture("settings-by-keyboard");
     hand_.tap(nameOf("doneButton"));
     picture("large-cards");
+}
+
+QString Tour::said(const char* words) const {
+    return QString::fromStdString(program_.services().platform().texts.localizedString(words));
 }
 
 ui::ViewController& Tour::shown() const {
@@ -143,17 +149,17 @@ void Tour::swipeCard(int item, const char* halfWay) {
 void Tour::useCards() {
     swipeCard(0, "swipe");
     picture("open-row");
-    hand_.tap(QStringLiteral("Edit"));
+    hand_.tap(said("Edit"));
     picture("edit-sheet");
-    hand_.tap(QStringLiteral("Cancel"));
+    hand_.tap(said("Cancel"));
     swipeCard(1, "swipe-solid");
     picture("open-row-solid");
-    hand_.tap(QStringLiteral("Delete"));
+    hand_.tap(said("Delete"));
     picture("delete-sheet");
     hand_.tap(QString::fromStdString(program_.services().localizationVariables().alertNo));
-    hand_.tap(QStringLiteral("Share"));
-    picture("share-sheet");
-    hand_.tap(QStringLiteral("Cancel"));
+    hand_.tap(said("Share"));
+    pictureOfControls("share-sheet"); // its texts have no tables yet
+    hand_.tap(nameOf("cancelButton"));
     holdAt(middleOfCard(0));
     picture("menu");
     hand_.press(Qt::Key_Escape);
@@ -172,8 +178,8 @@ void Tour::openEvent() {
                                                          {"Edit Background", "edit-background"}};
     for (const auto& [title, name] : edits) {
         swipeCard(0);
-        hand_.tap(QStringLiteral("Edit"));
-        hand_.tap(QString::fromUtf8(title));
+        hand_.tap(said("Edit"));
+        hand_.tap(said(title));
         picture(name);
         goBack();
     }
@@ -181,14 +187,14 @@ void Tour::openEvent() {
 
 void Tour::goBack() {
     hand_.tap(nameOf("prevButton"));
-    hand_.tap(QStringLiteral("Future")); // the lists are made anew, on the tab of the user's choice
+    hand_.tap(said("Future")); // the lists are made anew, on the tab of the user's choice
 }
 
 void Tour::addEvent(const Wish& wish) {
-    hand_.tap(QStringLiteral("Add Event"));
+    hand_.tap(said("Add Event"));
     pictureIf(wish.inPictures, "title-empty");
     hand_.tap(nameOf("textField"));
-    hand_.commit(QString::fromUtf8(wish.title));
+    type(QString::fromUtf8(wish.title));
     pictureIf(wish.inPictures, "title");
     hand_.tap(nameOf("nextButton"));
     pictureIf(wish.inPictures, "date-empty");
@@ -198,7 +204,7 @@ void Tour::addEvent(const Wish& wish) {
     hand_.tap(nameOf("nextButton"));
     pictureIf(wish.inPictures, "permission");
     if (wish.inPictures)
-        hand_.tap(QStringLiteral("Allow"));
+        hand_.tap(said("Allow"));
     pictureIf(wish.inPictures, "reminder-off");
     if (wish.inPictures)
         chooseReminder(wish);
@@ -220,6 +226,11 @@ void Tour::addEvent(const Wish& wish) {
     hand_.tap(nameOf("nextButton"));
 }
 
+void Tour::type(const QString& text) {
+    texts_.allow(text);
+    hand_.commit(text);
+}
+
 void Tour::chooseDay(const Wish& wish) {
     hand_.tap(nameOf("dayField"));
     const QRectF row = hand_.placeOf(nameOf("dayField"));
@@ -228,31 +239,31 @@ void Tour::chooseDay(const Wish& wish) {
     turnWheel(row, 0, wish.days);
     pictureIf(wish.inPictures, "date-wheels");
     tapBeside();
-    hand_.tap(QString::fromUtf8(
+    hand_.tap(said(
         std::initializer_list<const char*>{"Hours", "Days", "Weeks", "Months", "Years"}.begin()[wish.unit]));
 }
 
 void Tour::chooseTimeAndRepeat(const Wish& wish) {
-    hand_.tap(QStringLiteral("All Day"));
+    hand_.tap(said("All Day"));
     hand_.tap(nameOf("timeField"));
     pictureIf(wish.inPictures, "time-wheels");
     tapBeside();
     hand_.tap(nameOf("repeatLapel"));
     pictureIf(wish.inPictures, "repeat-sheet");
-    hand_.tap(QStringLiteral("Every year"));
-    const QRectF chosen = hand_.placeOf(QStringLiteral("Every year"));
+    hand_.tap(said("Every year"));
+    const QRectF chosen = hand_.placeOf(said("Every year"));
     hand_.drag({chosen.center().x(), chosen.top() - 5 * 52 - 40},
                {chosen.center().x(), stage_.size.height() - 10.0});
     pictureIf(wish.inPictures, "date");
 }
 
 void Tour::chooseReminder(const Wish& wish) {
-    hand_.tap(QStringLiteral("Reminder"));
+    hand_.tap(said("Reminder"));
     hand_.tap(nameOf("alertlabel"));
     pictureIf(wish.inPictures, "alert-sheet");
     hand_.tapAt({window_.width() / 2.0, 40});
     hand_.tap(nameOf("reminderMess"));
-    hand_.commit(QStringLiteral("Pack sunscreen, tickets and a good book"));
+    type(QStringLiteral("Pack sunscreen, tickets and a good book"));
     tapBeside();
     pictureIf(wish.inPictures, "reminder");
 }
@@ -301,6 +312,12 @@ QString Tour::nameOf(const char* control) const {
 }
 
 void Tour::picture(const char* name) {
+    for (const QString& fault : texts_.faultsOf(window_))
+        qInfo("%s: %s", name, qPrintable(fault));
+    pictureOfControls(name);
+}
+
+void Tour::pictureOfControls(const char* name) {
     for (const QString& fault : faultsOf(window_))
         qWarning("%s: %s", name, qPrintable(fault));
     window_.grabWindow().save(pictures_.filePath(QStringLiteral("%1-%2-%3.png")

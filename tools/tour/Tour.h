@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Stage.h"
+#include "TextInspection.h"
 #include "hand/Hand.h"
 
 #include <QDir>
@@ -81,11 +82,17 @@ private:
     void settle();
     /// Until `done`; ends the tour where that does not come about.
     void waitFor(const char* what, const std::function<bool()>& done);
+    /// Types into what has the keyboard.
+    void type(const QString& text);
     void turnWheel(QRectF rowAbove, int wheel, int rows);
     void tapBeside();
     void picture(const char* name);
+    /// The same whatever the texts say.
+    void pictureOfControls(const char* name);
     void pictureIf(bool wanted, const char* name);
 
+    /// A text of the tables, in the stage's language.
+    [[nodiscard]] QString said(const char* words) const;
     /// The screen on top, without a frame around it.
     [[nodiscard]] ui::ViewController& shown() const;
     /// What a screen reader says of a control of the top screen.
@@ -98,6 +105,7 @@ private:
     QDir pictures_;
     QQuickWindow& window_;
     Hand hand_;
+    TextInspection texts_;
     int count_ = 0;
 };
 

@@ -20,6 +20,10 @@ ButtonArea {
         color: control.choice.destructive ? "#C6262E" : Theme.accent
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
+        fontSizeMode: Text.Fit
+        minimumPixelSize: 13
         elide: Text.ElideRight
         textFormat: Text.PlainText
     }

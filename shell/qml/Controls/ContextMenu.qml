@@ -72,7 +72,7 @@ Item {
 
             x: Math.max(edge, Math.min(overlay.at.x, overlay.width - width - edge))
             y: Math.max(edge, Math.min(overlay.at.y, overlay.height - height - edge))
-            width: 256
+            width: Math.min(320, overlay.width - 2 * edge)
             height: rows.height + 8
             radius: Theme.radius
             color: "white"

@@ -13,7 +13,7 @@ ButtonArea {
         nextItemInFocusChain(forward).forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
     }
 
-    implicitHeight: Theme.touch + 4
+    implicitHeight: Math.max(Theme.touch, caption.implicitHeight + 16) + 4
     radius: 12
     Keys.onUpPressed: go(false)
     Keys.onDownPressed: go(true)
@@ -30,14 +30,17 @@ ButtonArea {
         mirror: row.title.length === 0 && Qt.application.layoutDirection === Qt.RightToLeft
     }
     Text {
+        id: caption
         anchors.left: icon.right
-        anchors.right: more.left
+        anchors.right: more.visible ? more.left : parent.right
         anchors.margins: 12
         anchors.verticalCenter: parent.verticalCenter
         text: row.title
         font.pixelSize: Theme.body
         color: Theme.ink
         horizontalAlignment: Text.AlignLeft
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
         elide: Text.ElideRight
         textFormat: Text.PlainText
     }

@@ -57,13 +57,18 @@ Rectangle {
                 Accessible.selectable: true
                 Accessible.selected: selected
                 Text {
-                    anchors.centerIn: parent
-                    width: Math.min(implicitWidth, parent.width - 4)
+                    anchors.fill: parent
+                    anchors.margins: 2
                     text: segment.modelData
                     font.pixelSize: Theme.caption
                     font.weight: Font.Medium
                     color: segment.selected ? "white" : Theme.muted
+                    fontSizeMode: Text.HorizontalFit // the longest words of all languages stay whole
+                    minimumPixelSize: 10
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
                     elide: Text.ElideRight
+                    textFormat: Text.PlainText
                 }
             }
         }

@@ -28,6 +28,8 @@ ButtonArea {
         opacity: control.pressed && !control.filled ? 0.5 : 1
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 13
         elide: Text.ElideRight
         textFormat: Text.PlainText
     }
