@@ -82,6 +82,7 @@ public:
     [[nodiscard]] QList<AlertChoice> choices() const;
     Q_INVOKABLE void choose(int index) { alert_.choose(static_cast<std::size_t>(index)); }
     Q_INVOKABLE void cancel() { alert_.cancel(); }
+    Q_INVOKABLE void decline() { alert_.decline(); }
 
 private:
     ui::AlertController& alert_;
@@ -101,6 +102,7 @@ public:
           content_(ScreenItem::make(frame->topViewController().shared_from_this(), context, this)) {}
 
     [[nodiscard]] ScreenItem* content() const { return content_; }
+    [[nodiscard]] QString title() override { return content_->title(); }
 
 private:
     ScreenItem* content_;

@@ -29,6 +29,10 @@ QStringList SegmentedItem::titles() const {
     return toQStrings(control_.titles());
 }
 
+QString DatePickerItem::wheelName(int wheel) const {
+    return QString::fromStdString(picker_.wheelName(static_cast<std::size_t>(wheel)));
+}
+
 QStringList DatePickerItem::rows(int wheel) const {
     return toQStrings(picker_.wheel(static_cast<std::size_t>(wheel)).rows);
 }

@@ -61,6 +61,7 @@ public:
         : ViewItem(picker, context, parent), picker_(picker) {}
 
     [[nodiscard]] int wheelCount() const { return static_cast<int>(picker_.wheelCount()); }
+    Q_INVOKABLE QString wheelName(int wheel) const;
     Q_INVOKABLE QStringList rows(int wheel) const;
     Q_INVOKABLE int selectedRow(int wheel) const;
     Q_INVOKABLE bool wraps(int wheel) const;

@@ -46,6 +46,8 @@ void DateAndTimeScreen::buildRows() {
     showAllDay(true);
     showOrHideRepeatRow(true);
     datePicker.setHidden(true);
+    datePicker.setWheelNames({localized("Day"), localized("Month"), localized("Year")});
+    timePicker.setWheelNames({localized("Hour"), localized("Minute"), localized("AM/PM")});
     view().addSubview(scroll);
     scroll.addSubview(contentView);
     for (ui::View* row : std::initializer_list<ui::View*>{

@@ -20,6 +20,7 @@ constexpr double keptQuality = 1;
 void ImagePickerController::viewDidLoad() {
     view().setBackgroundColor(ui::ColorRef::black());
     titleLabel.setText(localized("Move and Scale"));
+    view().setAccessibilityName(titleLabel.text());
     titleLabel.setFont({17, ui::FontWeight::Semibold});
     titleLabel.setTextColor(ui::ColorRef::white());
     messageLabel.setNumberOfLines(0);

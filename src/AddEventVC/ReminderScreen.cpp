@@ -80,7 +80,7 @@ void ReminderScreen::showPermissionAlert() {
         localized("In order to send reminders, the app needs to have a "
                   "permission for that. Please go to the Settings and "
                   "enable it"));
-    alert->addAction({texts().alertNo, ui::AlertActionStyle::Destructive, [this] { turnSwitchOff(); }});
+    alert->addAction({texts().alertNo, ui::AlertActionStyle::Destructive, [this] { turnSwitchOff(); }, true});
     alert->addAction({texts().alertYes, ui::AlertActionStyle::Default, [this] {
                           turnSwitchOff();
                           services().screens().openNotificationSettings();

@@ -9,6 +9,7 @@ void WizardScreen::buildFrame(std::string heading, std::string stepImage, std::s
     view().setBackgroundColor(ui::ColorRef::white());
     titleLabel.setFont({32, ui::FontWeight::Bold});
     titleLabel.setText(std::move(heading));
+    view().setAccessibilityName(titleLabel.text());
     topImage.setImage(ui::Image::named(std::move(stepImage)));
     nextButton.setFont({screen().isLarge() ? 19.0 : 17.0, ui::FontWeight::Medium});
     nextButton.setTitleColor(ui::ColorRef::named("button"));

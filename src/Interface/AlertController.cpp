@@ -26,4 +26,13 @@ void AlertController::cancel() {
         choose(static_cast<std::size_t>(found - actions_.begin()));
 }
 
+void AlertController::decline() {
+    const auto declines = [](const AlertAction& action) {
+        return action.style == AlertActionStyle::Cancel || action.declines;
+    };
+    const auto found = std::ranges::find_if(actions_, declines);
+    if (found != actions_.end())
+        choose(static_cast<std::size_t>(found - actions_.begin()));
+}
+
 } // namespace tessivo::ui

@@ -11,6 +11,7 @@ struct AlertAction {
     std::string title;
     AlertActionStyle style = AlertActionStyle::Default;
     std::function<void()> handler; ///< may be empty
+    bool declines = false;         ///< leaves all as it is, like a cancel action, but not by a tap beside
 };
 
 /// A question with its answers, in the order in which they are shown.
@@ -30,6 +31,8 @@ public:
     void choose(std::size_t index);
     /// The user taps beside it: the cancel action where there is one, otherwise nothing.
     void cancel();
+    /// The user presses Escape or Back: the first action that cancels or declines, otherwise nothing.
+    void decline();
 
 private:
     AlertStyle style_;

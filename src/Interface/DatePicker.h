@@ -4,6 +4,8 @@
 #include "Ports/Calendar.h"
 #include "Ports/DateFormatter.h"
 
+#include <array>
+
 namespace tessivo::ui {
 
 enum class DatePickerMode { Date, Time };
@@ -33,6 +35,10 @@ public:
     [[nodiscard]] std::size_t wheelCount() const { return 3; }
     [[nodiscard]] Wheel wheel(std::size_t index) const;
 
+    /// What assistive technology calls each wheel; empty until it is set.
+    [[nodiscard]] const std::string& wheelName(std::size_t wheel) const { return wheelNames_.at(wheel); }
+    void setWheelNames(std::array<std::string, 3> names) { wheelNames_ = std::move(names); }
+
     /// The user turns a wheel to a row: the date follows and the value-changed targets are called. Rows or
     /// wheels that do not exist, and the row where it stands, change nothing.
     void turn(std::size_t wheel, int row);
@@ -55,6 +61,7 @@ private:
     const Calendar& calendar_;
     const DateFormatters& formatters_;
     Instant date_;
+    std::array<std::string, 3> wheelNames_;
     Signal<> targets_;
 };
 

@@ -38,7 +38,7 @@ std::shared_ptr<ui::AlertController> deletionQuestion(SharedServices& services,
         std::make_shared<ui::AlertController>(services.window(), ui::AlertStyle::ActionSheet,
                                               services.platform().texts.localizedString(deletionTitle), "");
     // The look of danger stands on the answer that keeps the event.
-    question->addAction({texts.alertNo, ui::AlertActionStyle::Destructive, {}});
+    question->addAction({texts.alertNo, ui::AlertActionStyle::Destructive, {}, true});
     question->addAction({texts.alertYes, ui::AlertActionStyle::Default, std::move(remove)});
     return question;
 }

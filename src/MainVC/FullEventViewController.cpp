@@ -56,6 +56,7 @@ void FullEventViewController::viewWillAppear() {
                                   ? ui::ContentMode::AspectFill
                                   : ui::ContentMode::ScaleToFill);
     showBackground(background, view(), eventImage, view().bounds().size(), services());
+    view().setAccessibilityName(event_.title(*record));
     eventInformationLabel.setStyledText(
         twoLines(event_.title(*record), titleFont, event_.dateText(*record), dateFont));
     if (const auto counter = event_.counter(*record, currentDate, unitWords))

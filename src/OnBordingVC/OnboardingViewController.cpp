@@ -23,6 +23,7 @@ OnboardingViewController::OnboardingViewController(SharedServices& services)
 
 void OnboardingViewController::viewDidLoad() {
     view().setBackgroundColor(ui::ColorRef::named("mainBack"));
+    view().setAccessibilityName("Tessivo");
     const auto background = std::make_shared<ui::GradientLayer>();
     applyGradientItem(*background, sectionsGradient[buttonGradientRow], platform().colors,
                       platform().console);

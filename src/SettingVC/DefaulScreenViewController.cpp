@@ -40,6 +40,7 @@ void DefaulScreenViewController::viewDidLoad() {
     IslandView.setBackgroundColor(ui::ColorRef::named("Line"));
     titleLabel.setFont({20, ui::FontWeight::Bold});
     titleLabel.setText(type == sizeType ? texts().eventSize : texts().defaultScreen);
+    view().setAccessibilityName(titleLabel.text());
     prevButton.setImageName("chevronbackward");
     prevButton.setTint(ui::ColorRef::named("button"));
     prevButton.setAccessibilityName(localized("Back"));

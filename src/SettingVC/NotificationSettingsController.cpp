@@ -27,6 +27,7 @@ void NotificationSettingsController::viewDidLoad() {
     view().setBackgroundColor(ui::ColorRef::white());
     titleLabel.setFont({22, ui::FontWeight::Bold});
     titleLabel.setText(texts_.localizedString("Notifications"));
+    view().setAccessibilityName(titleLabel.text());
     explanationLabel.setTextColor(ui::ColorRef::named("disabled"));
     explanationLabel.setNumberOfLines(0);
     explanationLabel.setText(

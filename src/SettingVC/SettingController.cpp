@@ -106,6 +106,7 @@ std::string SettingController::headingOf(Kind kind) const {
 void SettingController::buildBar() {
     mainLabel.setFont({20, ui::FontWeight::Bold});
     mainLabel.setText(texts().setting);
+    view().setAccessibilityName(texts().setting);
     mainButton.setAccessibilityName(texts().setting);
     mainButton.addTarget(ui::PressEvent::UpInside, [this] { collectionView.setContentOffset({}); });
     doneButton.setFont({17, ui::FontWeight::Semibold});

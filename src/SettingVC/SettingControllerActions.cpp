@@ -31,7 +31,7 @@ void SettingController::rate() {
         };
     };
     question->addAction(
-        {texts().alertNo, ui::AlertActionStyle::Destructive, act(&SettingController::writeToSupport)});
+        {texts().alertNo, ui::AlertActionStyle::Destructive, act(&SettingController::writeToSupport), true});
     question->addAction({texts().alertYes, ui::AlertActionStyle::Default, [this, weak = weak_from_this()] {
                              if (weak.lock())
                                  open(addresses::storePage);

@@ -176,7 +176,7 @@ TEST_F(ControlWindow, AnAlertStaysUntilItIsAnswered) {
     std::vector<std::string> answers;
     auto question =
         std::make_shared<ui::AlertController>(windowContext, ui::AlertStyle::Alert, "Title", "Text");
-    question->addAction({"No", ui::AlertActionStyle::Default, [&] { answers.push_back("No"); }});
+    question->addAction({"Maybe", ui::AlertActionStyle::Default, [&] { answers.push_back("Maybe"); }});
     question->addAction({"Yes", ui::AlertActionStyle::Default, [&] { answers.push_back("Yes"); }});
     screen->present(question, false);
     draw(*question, "AlertDialog { anchors.fill: parent; focus: true; alert: root.screen as AlertItem }");
@@ -231,6 +231,28 @@ TEST_F(DrawnSheet, GoesByATapBesideIt) {
     show();
     hand.tapAt({195, 100});
     EXPECT_TRUE(runUntil([&] { return hasGone(); }));
+}
+
+TEST_F(ControlWindow, EscapeAndBackAnswerNoWhereATapBesideTheQuestionDoesNothing) {
+    for (const auto style : {ui::AlertStyle::Alert, ui::AlertStyle::ActionSheet}) {
+        for (const auto key : {Qt::Key_Escape, Qt::Key_Back}) {
+            std::vector<std::string> answers;
+            auto question = std::make_shared<ui::AlertController>(windowContext, style, "Delete?", "");
+            question->addAction({"Yes", ui::AlertActionStyle::Default, [&] { answers.push_back("Yes"); }});
+            question->addAction(
+                {"No", ui::AlertActionStyle::Destructive, [&] { answers.push_back("No"); }, true});
+            screen->present(question, false);
+            draw(*question, style == ui::AlertStyle::Alert
+                                ? "AlertDialog { anchors.fill: parent; alert: root.screen as AlertItem }"
+                                : "ActionSheet { anchors.fill: parent; alert: root.screen as AlertItem }");
+            hand.tapAt({195, 30});
+            EXPECT_EQ(stack.top(), question.get());
+            hand.press(key);
+            EXPECT_THAT(answers, ElementsAre("No"));
+            EXPECT_EQ(stack.top(), screen.get());
+            undraw();
+        }
+    }
 }
 
 TEST_F(ControlWindow, ADisabledButtonTakesNoTouchAndNoKey) {
@@ -305,6 +327,15 @@ TEST_F(Wheels, TakeAClickOnARowTypedNumbersAndArrowsFromWheelToWheel) {
     hand.press(Qt::Key_Right);
     hand.press(Qt::Key_Up);
     EXPECT_TRUE(standAt({8, start[1] - 1, start[2]})) << testing::PrintToString(rows());
+}
+
+TEST_F(Wheels, AreNamedByTheirFieldAndWhereTheyStand) {
+    picker.setWheelNames({"Day", "Month", "Year"});
+    draw(*screen, "WheelPicker { width: parent.width\n"
+                  "picker: root.screen.control('picker') as DatePickerItem }");
+    picker.setDate(instantAt(1908261015));
+    for (const char* name : {"Day, 21", "Month, June", "Year, 2030"})
+        EXPECT_TRUE(hand.find(QString::fromLatin1(name))) << name;
 }
 
 TEST_F(ControlWindow, AControlThatTheScreenLacksStopsTheProgram) {

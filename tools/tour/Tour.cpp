@@ -232,8 +232,9 @@ void Tour::type(const QString& text) {
 }
 
 void Tour::chooseDay(const Wish& wish) {
-    hand_.tap(nameOf("dayField"));
-    const QRectF row = hand_.placeOf(nameOf("dayField"));
+    const QString day = nameOfValue("dayLabel", "dayField");
+    hand_.tap(day);
+    const QRectF row = hand_.placeOf(day);
     turnWheel(row, 2, wish.years);
     turnWheel(row, 1, wish.months);
     turnWheel(row, 0, wish.days);
@@ -245,10 +246,10 @@ void Tour::chooseDay(const Wish& wish) {
 
 void Tour::chooseTimeAndRepeat(const Wish& wish) {
     hand_.tap(said("All Day"));
-    hand_.tap(nameOf("timeField"));
+    hand_.tap(nameOfValue("timeLabel", "timeField"));
     pictureIf(wish.inPictures, "time-wheels");
     tapBeside();
-    hand_.tap(nameOf("repeatLapel"));
+    hand_.tap(nameOfValue("repeatInfoLabel", "repeatLapel"));
     pictureIf(wish.inPictures, "repeat-sheet");
     hand_.tap(said("Every year"));
     const QRectF chosen = hand_.placeOf(said("Every year"));
@@ -259,7 +260,7 @@ void Tour::chooseTimeAndRepeat(const Wish& wish) {
 
 void Tour::chooseReminder(const Wish& wish) {
     hand_.tap(said("Reminder"));
-    hand_.tap(nameOf("alertlabel"));
+    hand_.tap(nameOfValue("alertInfoLabel", "alertlabel"));
     pictureIf(wish.inPictures, "alert-sheet");
     hand_.tapAt({window_.width() / 2.0, 40});
     hand_.tap(nameOf("reminderMess"));
@@ -296,6 +297,10 @@ void Tour::tapBeside() {
 QString Tour::nameOfRow(const char* section, int row) const {
     const auto& rows = dynamic_cast<const ui::CollectionView&>(*shown().controls.find(section));
     return QString::fromStdString(rows.cellForItem(row)->accessibilityName());
+}
+
+QString Tour::nameOfValue(const char* heading, const char* value) const {
+    return nameOf(heading) + QStringLiteral(", ") + nameOf(value);
 }
 
 QString Tour::nameOf(const char* control) const {

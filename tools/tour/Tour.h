@@ -97,6 +97,8 @@ private:
     [[nodiscard]] ui::ViewController& shown() const;
     /// What a screen reader says of a control of the top screen.
     [[nodiscard]] QString nameOf(const char* control) const;
+    /// The same of a row that shows a value under its heading.
+    [[nodiscard]] QString nameOfValue(const char* heading, const char* value) const;
     /// The same of a row of the settings.
     [[nodiscard]] QString nameOfRow(const char* section, int row) const;
 

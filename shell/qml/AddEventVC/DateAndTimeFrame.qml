@@ -17,6 +17,7 @@ WizardFrame {
     SectionLabel { label: step.screen.control("dayLabel") as LabelItem }
     ValueRow {
         label: step.screen.control("dayField") as LabelItem
+        heading: step.screen.control("dayLabel") as LabelItem
         width: parent.width
     }
     WheelPicker {
@@ -27,6 +28,7 @@ WizardFrame {
     SectionLabel { label: step.screen.control("timeLabel") as LabelItem }
     ValueRow {
         label: step.timeField
+        heading: step.screen.control("timeLabel") as LabelItem
         width: parent.width
     }
     WheelPicker {
@@ -42,6 +44,7 @@ WizardFrame {
     SectionLabel { label: step.screen.control("repeatInfoLabel") as LabelItem }
     ValueRow {
         label: step.screen.control("repeatLapel") as LabelItem
+        heading: step.screen.control("repeatInfoLabel") as LabelItem
         chevron: step.repeatButton
         width: parent.width
     }

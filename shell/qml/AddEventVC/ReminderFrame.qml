@@ -14,12 +14,14 @@ WizardFrame {
     SectionLabel { label: step.screen.control("alertInfoLabel") as LabelItem }
     ValueRow {
         label: step.screen.control("alertlabel") as LabelItem
+        heading: step.screen.control("alertInfoLabel") as LabelItem
         chevron: step.screen.control("alertButton") as ButtonItem
         width: parent.width
     }
     SectionLabel { label: step.screen.control("repeatInfoLabel") as LabelItem }
     ValueRow {
         label: step.screen.control("repeatLabel") as LabelItem
+        heading: step.screen.control("repeatInfoLabel") as LabelItem
         chevron: step.screen.control("repeatButton") as ButtonItem
         width: parent.width
     }

@@ -8,7 +8,8 @@ RisingPanel {
     required property AlertItem alert
 
     topPadding: 16
-    onDismissed: alert.cancel()
+    onDismissed: alert.decline()
+    onTappedBeside: alert.cancel()
 
     Text {
         width: parent.width

@@ -13,6 +13,7 @@ RisingPanel {
     topPadding: 20
     spacing: 16
     onDismissed: cancel.releaseInside()
+    onTappedBeside: cancel.releaseInside()
 
     PicturePaint {
         x: Theme.margin

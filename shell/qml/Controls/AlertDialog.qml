@@ -8,7 +8,8 @@ FocusScope {
     required property AlertItem alert
 
     focus: true
-    Keys.onEscapePressed: alert.cancel()
+    Keys.onEscapePressed: alert.decline()
+    Keys.onBackPressed: alert.decline()
 
     Rectangle {
         anchors.fill: parent

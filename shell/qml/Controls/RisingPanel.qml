@@ -1,8 +1,8 @@
 import QtQuick
 import Tessivo
 
-// A panel that rises over a dimmed screen: to its foot, or to its middle where the screen is large. A tap beside it
-// or Escape leaves it.
+// A panel that rises over a dimmed screen: to its foot, or to its middle where the screen is large. What a tap
+// beside it does, and Escape, is for its user to say.
 FocusScope {
     id: sheet
 
@@ -10,7 +10,8 @@ FocusScope {
     property alias topPadding: column.topPadding
     property alias spacing: column.spacing
 
-    signal dismissed
+    signal dismissed // by Escape or Back
+    signal tappedBeside
 
     focus: true
     Keys.onEscapePressed: dismissed()
@@ -23,7 +24,7 @@ FocusScope {
     }
     MouseArea {
         anchors.fill: parent
-        onClicked: sheet.dismissed()
+        onClicked: sheet.tappedBeside()
         onWheel: event => event.accepted = true
     }
     Rectangle {

@@ -25,9 +25,6 @@ FocusScope {
     MouseArea {
         anchors.fill: parent
         onClicked: sheet.close()
-        Accessible.role: Accessible.Button
-        Accessible.name: qsTr("Close")
-        Accessible.onPressAction: sheet.close()
     }
     Rectangle {
         id: panel

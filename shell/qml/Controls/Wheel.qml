@@ -21,7 +21,7 @@ FocusScope {
 
     activeFocusOnTab: true
     Accessible.role: Accessible.SpinBox
-    Accessible.name: picker.accessibleName.length > 0 ? picker.accessibleName + ", " + current : current
+    Accessible.name: [picker.wheelName(wheelIndex), current].filter(part => part.length > 0).join(", ")
     Accessible.focusable: true
     Accessible.onIncreaseAction: turnBy(1)
     Accessible.onDecreaseAction: turnBy(-1)

@@ -36,6 +36,7 @@ CustomTabBarController::CustomTabBarController(SharedServices& services)
 void CustomTabBarController::viewDidLoad() {
     services_.platform().settings.setBoolean(settingKeys::isFirstLaunch, true);
     services_.fetchEventDataType().refreshEvents();
+    view().setAccessibilityName("Tessivo");
     addButton.setImageName("addButton");
     addButton.setBackgroundColor(ui::ColorRef::clear());
     addButton.setAccessibilityName(services_.platform().texts.localizedString("Add Event"));
