@@ -1,38 +1,42 @@
 #include "Interface/ActivityViewController.h"
 
 #include "Interface/AlertController.h"
+#include "Ports/LocalizedTexts.h"
 
 namespace tessivo::ui {
 namespace {
 
-void showAlert(ViewController& screen, WindowContext& window, const char* title, const std::string& message) {
+void showAlert(ViewController& screen, WindowContext& window, const LocalizedTexts& texts, const char* title,
+               const std::string& message) {
     ViewController* top = &screen;
     while (auto* above = top->presentedViewController())
         top = above;
-    auto alert = std::make_shared<AlertController>(window, AlertStyle::Alert, title, message);
-    alert->addAction({"OK", AlertActionStyle::Cancel, {}});
+    auto alert = std::make_shared<AlertController>(window, AlertStyle::Alert, texts.localizedString(title),
+                                                   texts.localizedString(message));
+    alert->addAction({texts.localizedString("OK"), AlertActionStyle::Cancel, {}});
     top->present(std::move(alert));
 }
 
 } // namespace
 
-ActivityViewController::ActivityViewController(WindowContext& window) : ViewController(window) {
+ActivityViewController::ActivityViewController(WindowContext& window, const LocalizedTexts& texts)
+    : ViewController(window), texts_(texts) {
     modalPresentationStyle = PresentationStyle::ActionSheet;
-    view().setAccessibilityName("Share");
+    view().setAccessibilityName(texts.localizedString("Share"));
     preview.setContentMode(ContentMode::AspectFit);
     for (View* view : std::initializer_list<View*>{&preview, &textPreview, &saveButton, &copyButton,
                                                    &openButton, &mailButton, &messageButton})
         view->setHidden(true);
-    cancelButton.setTitle("Cancel");
+    cancelButton.setTitle(texts.localizedString("Cancel"));
     cancelButton.setTitleColor(ColorRef::named("button"));
     cancelButton.addTarget(PressEvent::UpInside, [this] { dismiss(); });
 }
 
-ActivityViewController::ActivityViewController(WindowContext& window, PictureSharing& sharing,
-                                               std::shared_ptr<const Bitmap> picture)
-    : ActivityViewController(window) {
+ActivityViewController::ActivityViewController(WindowContext& window, const LocalizedTexts& texts,
+                                               PictureSharing& sharing, std::shared_ptr<const Bitmap> picture)
+    : ActivityViewController(window, texts) {
     preview.setImage({"", picture});
-    preview.setAccessibilityName("The picture to share");
+    preview.setAccessibilityName(texts.localizedString("The picture to share"));
     preview.setHidden(false);
     offer(saveButton, "Save", "shareSave", [&sharing, picture](Tell tell) {
         sharing.save(picture, [tell = std::move(tell)](const Result<std::string>& path) {
@@ -51,8 +55,9 @@ ActivityViewController::ActivityViewController(WindowContext& window, PictureSha
     offer(mailButton, "Mail", "shareMail", handOver(&PictureSharing::mail), "The Picture Was Not Sent");
 }
 
-ActivityViewController::ActivityViewController(WindowContext& window, TextSharing& sharing, std::string text)
-    : ActivityViewController(window) {
+ActivityViewController::ActivityViewController(WindowContext& window, const LocalizedTexts& texts,
+                                               TextSharing& sharing, std::string text)
+    : ActivityViewController(window, texts) {
     textPreview.setText(text);
     textPreview.setHidden(false);
     const auto handOver = [&sharing, text = std::move(text)](auto act) {
@@ -67,7 +72,7 @@ ActivityViewController::ActivityViewController(WindowContext& window, TextSharin
 
 void ActivityViewController::offer(Button& button, const char* title, const char* image,
                                    std::function<void(Tell)> act) {
-    button.setTitle(title);
+    button.setTitle(texts_.localizedString(title));
     button.setImageName(image);
     button.setHidden(false);
     button.addTarget(PressEvent::UpInside, [this, act = std::move(act)] {
@@ -90,11 +95,11 @@ void ActivityViewController::offer(Button& button, const char* title, const char
 }
 
 ActivityViewController::Tell ActivityViewController::tellOver(ViewController& screen) {
-    return
-        [weak = screen.weak_from_this(), &window = window()](const char* title, const std::string& message) {
-            if (const auto standing = weak.lock())
-                showAlert(*standing, window, title, message);
-        };
+    return [weak = screen.weak_from_this(), &window = window(), &texts = texts_](const char* title,
+                                                                                 const std::string& message) {
+        if (const auto standing = weak.lock())
+            showAlert(*standing, window, texts, title, message);
+    };
 }
 
 } // namespace tessivo::ui

@@ -10,6 +10,10 @@
 #include <functional>
 #include <string>
 
+namespace tessivo {
+class LocalizedTexts;
+}
+
 namespace tessivo::ui {
 
 /// The share sheet: one picture or one text, and what can be done with it. What cannot be done with it is
@@ -17,10 +21,11 @@ namespace tessivo::ui {
 /// an alert says on the screen that is on top by then.
 class ActivityViewController final : public ViewController {
 public:
-    /// `sharing` outlives the sheet.
-    ActivityViewController(WindowContext& window, PictureSharing& sharing,
+    /// `texts` and `sharing` outlive the sheet and what it has handed over.
+    ActivityViewController(WindowContext& window, const LocalizedTexts& texts, PictureSharing& sharing,
                            std::shared_ptr<const Bitmap> picture);
-    ActivityViewController(WindowContext& window, TextSharing& sharing, std::string text);
+    ActivityViewController(WindowContext& window, const LocalizedTexts& texts, TextSharing& sharing,
+                           std::string text);
 
     [[nodiscard]] std::string screenName() const override { return "ActivityViewController"; }
 
@@ -38,10 +43,12 @@ private:
     using Tell = std::function<void(const char* title, const std::string& message)>;
     using HandOver = std::function<void(std::function<void(Outcome)>)>;
 
-    explicit ActivityViewController(WindowContext& window);
+    ActivityViewController(WindowContext& window, const LocalizedTexts& texts);
     void offer(Button& button, const char* title, const char* image, std::function<void(Tell)> act);
     void offer(Button& button, const char* title, const char* image, HandOver act, const char* failure);
     [[nodiscard]] Tell tellOver(ViewController& screen);
+
+    const LocalizedTexts& texts_;
 };
 
 } // namespace tessivo::ui

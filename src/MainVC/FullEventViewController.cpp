@@ -87,7 +87,7 @@ void FullEventViewController::share() {
         self->showButtons(true);
         if (picture)
             self->present(std::make_shared<ui::ActivityViewController>(
-                self->window(), self->platform().pictureSharing, std::move(picture)));
+                self->window(), self->platform().texts, self->platform().pictureSharing, std::move(picture)));
     });
 }
 

@@ -102,12 +102,12 @@ void MainViewController::shareCard(int item) {
     const auto cell = collection.cellForItem(item);
     if (!cell)
         return;
-    platform().snapshots.snapshot(
-        *cell, [weak = std::weak_ptr(self())](std::shared_ptr<const Bitmap> picture) {
-            if (const auto list = weak.lock(); list && picture)
-                list->present(std::make_shared<ui::ActivityViewController>(
-                    list->window(), list->platform().pictureSharing, std::move(picture)));
-        });
+    platform().snapshots.snapshot(*cell, [weak =
+                                              std::weak_ptr(self())](std::shared_ptr<const Bitmap> picture) {
+        if (const auto list = weak.lock(); list && picture)
+            list->present(std::make_shared<ui::ActivityViewController>(
+                list->window(), list->platform().texts, list->platform().pictureSharing, std::move(picture)));
+    });
 }
 
 void MainViewController::confirmDeletion(int item) {

@@ -52,7 +52,7 @@ void SettingController::writeReview() {
 }
 
 void SettingController::shareTheApp() {
-    present(std::make_shared<ui::ActivityViewController>(window(), platform().textSharing,
+    present(std::make_shared<ui::ActivityViewController>(window(), platform().texts, platform().textSharing,
                                                          texts().share + std::string(addresses::storePage)));
 }
 

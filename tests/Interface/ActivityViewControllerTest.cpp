@@ -2,6 +2,7 @@
 #include "Interface/AlertController.h"
 #include "Interface/Animation.h"
 #include "Interface/PresentationStack.h"
+#include "fakes/KeysAsTexts.h"
 #include "fakes/RecordingPictureSharing.h"
 #include "fakes/Timeline.h"
 
@@ -27,12 +28,13 @@ protected:
     MainScreen screen;
     Animations animations{line, line};
     WindowContext window{screen, animations};
+    fakes::KeysAsTexts texts;
     fakes::RecordingPictureSharing sharing;
     std::shared_ptr<const Bitmap> picture = std::make_shared<Bitmap>(Bitmap{1, 1, {1, 2, 3, 4}});
     PresentationStack stack{window};
     std::shared_ptr<PlainScreen> root = std::make_shared<PlainScreen>(window);
     std::shared_ptr<ActivityViewController> sheet =
-        std::make_shared<ActivityViewController>(window, sharing, picture);
+        std::make_shared<ActivityViewController>(window, texts, sharing, picture);
 };
 
 TEST_F(ShareSheetTest, EachActHandsThePictureOverAndLeaves) {

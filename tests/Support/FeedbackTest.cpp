@@ -7,8 +7,8 @@
 #include "Interface/AlertController.h"
 #include "Interface/Animation.h"
 #include "Interface/PresentationStack.h"
-#include "Ports/LocalizedTexts.h"
 #include "Support/LocalizationVariables.h"
+#include "fakes/KeysAsTexts.h"
 #include "fakes/MemorySavedSettings.h"
 #include "fakes/StandInDevice.h"
 #include "fakes/Timeline.h"
@@ -19,13 +19,6 @@ namespace tessivo {
 namespace {
 
 using testing::Optional;
-
-class KeysAsTexts final : public LocalizedTexts {
-public:
-    [[nodiscard]] std::string localizedString(std::string_view key) const override {
-        return std::string(key);
-    }
-};
 
 class PlainScreen final : public ui::ViewController {
 public:
@@ -47,7 +40,7 @@ protected:
     ui::WindowContext window{screen, animations};
     ui::PresentationStack stack{window};
     std::shared_ptr<PlainScreen> root = std::make_shared<PlainScreen>(window);
-    KeysAsTexts table;
+    fakes::KeysAsTexts table;
     LocalizationVariables texts{table};
     fakes::StandInDevice device;
     Bundle bundle{"1.2", "34"};

@@ -1,4 +1,5 @@
 #include "Interface/ActivityViewController.h"
+#include "fakes/KeysAsTexts.h"
 #include "fakes/RecordingPictureSharing.h"
 #include "shell/ControlWindow.h"
 
@@ -54,9 +55,10 @@ TEST_F(ShareSheetWindow, AViewThatIsNotDrawnOrNoLongerDrawnHasNoPicture) {
 }
 
 TEST_F(ShareSheetWindow, TheSheetShowsThePictureAndEachButtonSharesIt) {
+    const fakes::KeysAsTexts texts;
     fakes::RecordingPictureSharing sharing;
     const auto picture = std::make_shared<Bitmap>(Bitmap{1, 1, {255, 0, 255, 255}});
-    const auto sheet = std::make_shared<ui::ActivityViewController>(windowContext, sharing, picture);
+    const auto sheet = std::make_shared<ui::ActivityViewController>(windowContext, texts, sharing, picture);
     for (const char* act : {"Save", "Copy", "Open", "Mail"}) {
         screen->present(sheet);
         draw(*sheet, "ActivityViewController { anchors.fill: parent; screen: root.screen }");
@@ -74,9 +76,10 @@ TEST_F(ShareSheetWindow, TheSheetShowsThePictureAndEachButtonSharesIt) {
 }
 
 TEST_F(ShareSheetWindow, TheKeyboardLeavesAndCancelsWithoutSharing) {
+    const fakes::KeysAsTexts texts;
     fakes::RecordingPictureSharing sharing;
     const auto sheet = std::make_shared<ui::ActivityViewController>(
-        windowContext, sharing, std::make_shared<Bitmap>(Bitmap{1, 1, {1, 2, 3, 255}}));
+        windowContext, texts, sharing, std::make_shared<Bitmap>(Bitmap{1, 1, {1, 2, 3, 255}}));
     screen->present(sheet);
     draw(*sheet, "ActivityViewController { anchors.fill: parent; focus: true; screen: root.screen }");
     hand.press(Qt::Key_Escape);
