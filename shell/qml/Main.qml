@@ -19,8 +19,8 @@ Window {
     Rectangle { // what a sheet dims of the screen, it dims of the backdrop beside it
         anchors.fill: parent
         color: "black"
-        readonly property ScreenItem top: (screens.itemAt(screens.count - 1) as ScreenLoader)?.screen ?? null
-        opacity: top && top.kind !== ScreenItem.Full ? 0.32 : 0
+        readonly property ScreenItem front: (screens.itemAt(screens.count - 1) as ScreenLoader)?.screen ?? null
+        opacity: front && front.kind !== ScreenItem.Full ? 0.32 : 0
         Behavior on opacity { NumberAnimation { duration: Theme.calm } }
     }
     Item {

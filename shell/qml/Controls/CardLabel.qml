@@ -25,6 +25,7 @@ Column {
         id: lines
         model: column.label.pieces
         Text {
+            id: line
             required property textPiece modelData
             required property int index
             readonly property bool grows: index === 0 && column.room > 0
@@ -50,8 +51,8 @@ Column {
 
             FontMetrics {
                 id: metrics
-                font.pixelSize: parent.modelData.size
-                font.weight: parent.modelData.weight
+                font.pixelSize: line.modelData.size
+                font.weight: line.modelData.weight
             }
         }
     }
