@@ -41,7 +41,7 @@ TEST(JsonTables, WhatIsNoObjectOfTextsIsAnErrorThatSaysWhy) {
              Case{"null", "no JSON object"},
              Case{R"({"a": 1})", "\"a\" is no text"},
              Case{R"({"a": {"b": "c"}})", "\"a\" is no text"},
-             Case{R"({"a": "x", "b": "y", "a": "z"})", "\"a\" stands twice"},
+             Case{R"({"a": "x", "b": "y", "a": "z"})", "\"a\" appears twice"},
          }) {
         const auto texts = JsonLocalizedTexts::fromJson(json);
         ASSERT_FALSE(texts) << json;
