@@ -29,9 +29,9 @@ struct CounterText {
     friend bool operator==(const CounterText&, const CounterText&) = default;
 };
 
-/// Whole units between `now` and `eventDate`, the part of a unit dropped, with the text of `texts` for the word
-/// of the unit. A month counts 30 days and a year 365, whatever the calendar says. An unknown unit prints "nul"
-/// and returns nothing; a count beyond 64 bits stops the program.
+/// Whole units between `now` and `eventDate`, the part of a unit dropped, with the text of `texts` for the
+/// word of the unit. A month counts 30 days and a year 365, whatever the calendar says. An unknown unit
+/// prints "nul" and returns nothing; a count beyond 64 bits stops the program.
 [[nodiscard]] std::optional<CounterText> counterText(Instant eventDate, Instant now, int unit,
                                                      const UnitWords& words, const LocalizedTexts& texts,
                                                      Console& console);
