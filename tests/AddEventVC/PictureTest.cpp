@@ -228,6 +228,7 @@ TEST_F(PictureTest, APhotoOfTheUsersIsReadFromWhereItLies) {
         program.http.answer(std::move(answer));
         program.timeline.runPosted();
     };
+    program.timeline.runPosted();
     (void)program.console.take();
     load(Error{std::string(urlErrorDomain), UrlErrorFileDoesNotExist, "gone"});
     EXPECT_THAT(program.console.take(), ElementsAre("Ошибка загрузки изображения: gone"));

@@ -94,6 +94,7 @@ protected:
             .year = 2030, .month = 6, .day = 25, .hour = 18, .minute = 20, .second = 0};
         sqlite::SqliteSavedSettings settings(folder.path() / "settings.sqlite", console);
         settings.setBoolean(settingKeys::isFirstLaunch, true);
+        settings.setInteger(settingKeys::secondOpen, 3);    // the rating prompt has had its turn
         settings.setInteger(settingKeys::defaultScreen, 1); // what lies ahead
         EXPECT_EQ(queue.setAuthorization(AuthorizationStatus::Authorized), std::nullopt);
         EXPECT_EQ(queue.add(reminder), std::nullopt);
