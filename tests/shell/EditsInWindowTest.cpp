@@ -96,6 +96,7 @@ protected:
         settings.setBoolean(settingKeys::isFirstLaunch, true);
         settings.setInteger(settingKeys::secondOpen, 3);    // the rating prompt has had its turn
         settings.setInteger(settingKeys::defaultScreen, 1); // what lies ahead
+        settings.setInteger(settingKeys::secondOpen, 3);    // nobody asks for a rating any more
         EXPECT_EQ(queue.setAuthorization(AuthorizationStatus::Authorized), std::nullopt);
         EXPECT_EQ(queue.add(reminder), std::nullopt);
         sqlite::SqliteEventStore store(folder.path() / "events.sqlite");
@@ -196,20 +197,20 @@ protected:
     }
 
     void moveDayAhead() {
-        press("25 June 2030");
+        press("Day, 25 June 2030");
         if (byTouch()) {
             constexpr double oneRow = 36 + 12; // and what tells a drag from a tap
-            const QPointF wheel = hand->placeOf(QStringLiteral("25")).center();
+            const QPointF wheel = hand->placeOf(QStringLiteral("Day, 25")).center();
             hand->drag(wheel, wheel - QPointF(0, oneRow));
             settle();
         } else {
-            reach("25");
+            reach("Day, 25");
             key(Qt::Key_Down);
         }
     }
 
     void remindAnHourBefore() {
-        press("10 minutes before");
+        press("Alert, 10 minutes before");
         press("1 hour before");
         if (byTouch())
             hand->tapAt({program->shell().window()->width() / 2.0, 40}); // beside the sheet
