@@ -19,7 +19,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, Gio, GLib  # noqa: E402 (the version is chosen first)
 
-PATIENCE = 90  # seconds
+PATIENCE = 200  # seconds
 PRESSING = ("Press", "Toggle")
 
 
