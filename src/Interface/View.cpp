@@ -225,7 +225,8 @@ View* View::hitTest(Point point) {
     if (hidden_ || !interactionEnabled_ || alpha() < invisibleBelow || !pointInside(point) || alive.expired())
         return nullptr;
     const auto candidates = subviews_;
-    for (View* subview : candidates | std::views::reverse) {
+    for (auto candidate = candidates.rbegin(); candidate != candidates.rend(); ++candidate) {
+        View* const subview = *candidate;
         if (std::ranges::find(subviews_, subview) == subviews_.end())
             continue;
         View* const hit = subview->hitTest(convertTo(*subview, point));

@@ -94,7 +94,6 @@ protected:
             .year = 2030, .month = 6, .day = 25, .hour = 18, .minute = 20, .second = 0};
         sqlite::SqliteSavedSettings settings(folder.path() / "settings.sqlite", console);
         settings.setBoolean(settingKeys::isFirstLaunch, true);
-        settings.setInteger(settingKeys::secondOpen, 3);    // the rating prompt has had its turn
         settings.setInteger(settingKeys::defaultScreen, 1); // what lies ahead
         settings.setInteger(settingKeys::secondOpen, 3);    // nobody asks for a rating any more
         EXPECT_EQ(queue.setAuthorization(AuthorizationStatus::Authorized), std::nullopt);
