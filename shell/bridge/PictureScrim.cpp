@@ -9,7 +9,8 @@ namespace {
 
 constexpr double brightestForWhiteText = 0.466; // of grey, 0 to 1: the contrast to white is 4.5
 constexpr double ignoredShare = 0.02;           // of the pixels: glints that no letter hides in
-constexpr double reachOfScrim = 0.22;           // of the height: where it has faded, beyond its text
+constexpr double reachAcross = 0.6;             // of the width: where a scrim has faded, beyond its text
+constexpr double reachDown = 0.4;               // of the shorter side
 
 /// The grey, 0 to 255, that is as bright as the color.
 int greyOf(int red, int green, int blue) {
@@ -51,30 +52,42 @@ int outside(int at, int first, int last) {
     return std::max({first - at, at - last, 0});
 }
 
-/// A shade over the picture's whole width.
+/// A shade from a text to the edges that it stands at.
 struct Scrim {
-    int first = 0; ///< of the rows that are wholly shaded
-    int last = 0;
+    QRect solid;
     double strength = 0;
+    double across = 1; ///< in pixels, until it has faded
+    double down = 1;
 
-    /// What it takes of a row's light.
-    [[nodiscard]] double at(int row, double reach) const {
-        const double near = std::max(0.0, 1 - outside(row, first, last) / reach);
+    /// What it takes of a pixel's light.
+    [[nodiscard]] double at(int column, int row) const {
+        if (strength == 0)
+            return 0;
+        const double far = std::hypot(outside(column, solid.left(), solid.right()) / across,
+                                      outside(row, solid.top(), solid.bottom()) / down);
+        const double near = std::max(0.0, 1 - far);
         return strength * near * near * (3 - 2 * near);
     }
 };
 
 Scrim scrimBehind(const QRectF& text, const QImage& picture) {
-    const QRect under = text.toAlignedRect() & picture.rect();
-    if (under.isEmpty())
+    const QRect whole = picture.rect();
+    QRect solid = text.toAlignedRect() & whole;
+    if (solid.isEmpty())
         return {};
-    const double bright = brightest(picture, under);
+    const double bright = brightest(picture, solid);
     if (bright <= brightestForWhiteText)
         return {};
-    const double strength = 1 - brightestForWhiteText / bright;
-    if (2 * under.center().y() < picture.height())
-        return {0, under.bottom(), strength};
-    return {under.top(), picture.height() - 1, strength};
+    if (solid.center().y() < whole.center().y())
+        solid.setTop(whole.top());
+    else
+        solid.setBottom(whole.bottom());
+    if (solid.left() < whole.right() - solid.right())
+        solid.setLeft(whole.left());
+    else
+        solid.setRight(whole.right());
+    return {solid, 1 - brightestForWhiteText / bright, reachAcross * whole.width(),
+            reachDown * std::min(whole.width(), whole.height())};
 }
 
 QRgb shaded(QRgb pixel, double kept) {
@@ -86,14 +99,13 @@ QRgb shaded(QRgb pixel, double kept) {
 
 void shadeBehindTexts(QImage& picture, const std::array<QRectF, 2>& texts) {
     const std::array scrims{scrimBehind(texts[0], picture), scrimBehind(texts[1], picture)};
-    const double reach = reachOfScrim * picture.height();
     for (int row = 0; row < picture.height(); ++row) {
-        const double shade = std::max(scrims[0].at(row, reach), scrims[1].at(row, reach));
-        if (shade == 0)
-            continue;
         auto* line = reinterpret_cast<QRgb*>(picture.scanLine(row));
-        std::transform(line, line + picture.width(), line,
-                       [shade](QRgb pixel) { return shaded(pixel, 1 - shade); });
+        for (int column = 0; column < picture.width(); ++column) {
+            const double shade = std::max(scrims[0].at(column, row), scrims[1].at(column, row));
+            if (shade > 0)
+                line[column] = shaded(line[column], 1 - shade);
+        }
     }
 }
 
