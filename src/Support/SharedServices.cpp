@@ -98,9 +98,9 @@ NetworkActivityIndicatorManager& SharedServices::networkActivityIndicatorManager
 
 MailManager& SharedServices::mailManager() {
     if (!mailManager_)
-        mailManager_ = std::make_unique<MailManager>(
-            window_, platform_.mail, networkActivityIndicatorManager().local, platform_.device,
-            platform_.bundle, std::string(addresses::support));
+        mailManager_ =
+            std::make_unique<MailManager>(window_, platform_.mail, platform_.texts, platform_.device,
+                                          platform_.bundle, std::string(addresses::support));
     return *mailManager_;
 }
 

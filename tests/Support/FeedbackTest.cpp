@@ -46,7 +46,7 @@ protected:
     Bundle bundle{"1.2", "34"};
     fakes::RecordingMail mail;
     fakes::RecordingReviews reviews;
-    MailManager mailManager{window, mail, texts, device, bundle, "help@example.org"};
+    MailManager mailManager{window, mail, table, device, bundle, "help@example.org"};
     AlertManager alertManager{window, texts, mailManager, reviews, line};
 };
 

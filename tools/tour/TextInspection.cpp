@@ -44,18 +44,26 @@ TextInspection::TextInspection(const char* language, const QLocale& locale) {
          {QStringLiteral("texts"), QStringLiteral("unsplash-texts"), QStringLiteral("machine-texts")})
         addTable(folder, language, texts);
     addWordsOfDates(locale, texts);
-    for (QString& text : texts)
-        text =
-            QRegularExpression::escape(text.simplified()).replace(QLatin1String("%d"), QLatin1String("\\d+"));
-    texts.removeAll(QString());
-    // Of two texts that begin alike, the longer one is looked for first.
-    std::ranges::sort(texts, std::ranges::greater{}, [](const QString& text) { return text.size(); });
-    known_.setPattern(QStringLiteral("(?<!\\p{L})(%1)(?!\\p{L})").arg(texts.join(QLatin1Char('|'))));
+    for (const QString& text : texts)
+        patterns_ << QRegularExpression::escape(text.simplified())
+                         .replace(QLatin1String("%d"), QLatin1String("\\d+"));
+    patterns_.removeAll(QString());
     known_.setPatternOptions(QRegularExpression::UseUnicodePropertiesOption);
+    compileKnown();
+}
+
+void TextInspection::compileKnown() {
+    // Of two texts that begin alike, the longer one is looked for first.
+    std::ranges::sort(patterns_, std::ranges::greater{}, [](const QString& text) { return text.size(); });
+    known_.setPattern(QStringLiteral("(?<!\\p{L})(%1)(?!\\p{L})").arg(patterns_.join(QLatin1Char('|'))));
 }
 
 void TextInspection::allow(const QString& words) {
+    if (words.isEmpty())
+        return;
     ofTheUser_ << words.simplified();
+    patterns_ << QRegularExpression::escape(words.simplified());
+    compileKnown();
 }
 
 QStringList TextInspection::faultsOf(QQuickWindow& window) const {
@@ -79,8 +87,6 @@ QStringList TextInspection::faultsOf(QQuickWindow& window) const {
 
 bool TextInspection::isForeign(const QString& text) const {
     QString rest = text;
-    for (const QString& words : ofTheUser_)
-        rest.remove(words);
     rest.remove(known_);
     return std::ranges::any_of(rest, [](QChar character) { return character.isLetter(); });
 }

@@ -22,9 +22,12 @@ public:
     [[nodiscard]] QStringList faultsOf(QQuickWindow& window) const;
 
 private:
+    /// Makes `known_` anew from the patterns.
+    void compileKnown();
     [[nodiscard]] bool isForeign(const QString& text) const;
     [[nodiscard]] bool isOfTheUser(const QString& text) const;
 
+    QStringList patterns_; ///< of each text that may be shown
     QRegularExpression known_;
     QStringList ofTheUser_;
 };

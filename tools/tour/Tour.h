@@ -87,8 +87,6 @@ private:
     void turnWheel(QRectF rowAbove, int wheel, int rows);
     void tapBeside();
     void picture(const char* name);
-    /// The same whatever the texts say.
-    void pictureOfControls(const char* name);
     void pictureIf(bool wanted, const char* name);
 
     /// A text of the tables, in the stage's language.

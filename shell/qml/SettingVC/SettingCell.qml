@@ -49,6 +49,8 @@ CollectionCell {
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignLeft
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 12
         Accessible.ignored: true
     }
     Loader {

@@ -2,15 +2,15 @@
 
 #include "Interface/AlertController.h"
 #include "Ports/Device.h"
+#include "Ports/LocalizedTexts.h"
 #include "Ports/MailComposing.h"
 #include "Support/Feedback/DeviceName.h"
-#include "Support/LocalizationVariables.h"
 
 #include <utility>
 
 namespace tessivo {
 
-MailManager::MailManager(ui::WindowContext& window, MailComposing& mail, const LocalizationVariables& texts,
+MailManager::MailManager(ui::WindowContext& window, MailComposing& mail, const LocalizedTexts& texts,
                          const Device& device, const Bundle& bundle, std::string recipient)
     : systemVersion(device.systemVersion()),
       deviceName(tessivo::deviceName(device)),
@@ -45,9 +45,10 @@ void MailManager::showError(const std::string& message) {
     const auto presenter = controller.lock();
     if (!presenter)
         return;
-    const auto alert =
-        std::make_shared<ui::AlertController>(window_, ui::AlertStyle::Alert, "Mail Error", message);
-    alert->addAction({texts_.alertOk, ui::AlertActionStyle::Default, {}});
+    const auto alert = std::make_shared<ui::AlertController>(window_, ui::AlertStyle::Alert,
+                                                             texts_.localizedString("Mail Error"),
+                                                             texts_.localizedString(message));
+    alert->addAction({texts_.localizedString("alertOk"), ui::AlertActionStyle::Default, {}});
     presenter->present(alert);
 }
 

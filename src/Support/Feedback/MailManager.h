@@ -7,7 +7,7 @@
 namespace tessivo {
 
 class Device;
-class LocalizationVariables;
+class LocalizedTexts;
 class MailComposing;
 struct Bundle;
 
@@ -20,7 +20,7 @@ struct WindowContext;
 class MailManager {
 public:
     /// `recipient` is the support's address. The references outlive the manager.
-    MailManager(ui::WindowContext& window, MailComposing& mail, const LocalizationVariables& texts,
+    MailManager(ui::WindowContext& window, MailComposing& mail, const LocalizedTexts& texts,
                 const Device& device, const Bundle& bundle, std::string recipient);
 
     const std::string systemVersion;
@@ -39,7 +39,7 @@ private:
 
     ui::WindowContext& window_;
     MailComposing& mail_;
-    const LocalizationVariables& texts_;
+    const LocalizedTexts& texts_;
     std::string recipient_;
 };
 
