@@ -18,7 +18,7 @@ constexpr double gapUnderButtons = 5;
 
 void UnsplahImageView::viewDidLoad() {
     view().setBackgroundColor(ui::ColorRef::white());
-    view().setAccessibilityName("Picture");
+    view().setAccessibilityName(localized("Picture"));
     prevButton.setImageName("chevron.backward");
     prevButton.setTint(ui::ColorRef::named("button"));
     prevButton.setAccessibilityName(localized("Back"));

@@ -61,7 +61,7 @@ void UnsplashPickerViewController::viewDidLoad() {
     cancelBarButtonItem.addTarget(ui::PressEvent::UpInside, [this] { cancelBarButtonTapped(); });
     doneBarButtonItem.setTitle(services_.text("done"));
     doneBarButtonItem.setTitleColor(ui::ColorRef::named("button"));
-    view().setAccessibilityName(services_.text("title"));
+    view().setAccessibilityName(titleFor(services_.text("title"), 0));
     doneBarButtonItem.setEnabled(false);
     doneBarButtonItem.setHidden(!services_.configuration().allowsMultipleSelection);
     doneBarButtonItem.addTarget(ui::PressEvent::UpInside, [this] { doneBarButtonTapped(); });
