@@ -165,7 +165,8 @@ TEST_F(QueuedNotificationCenterTest, ALossIsMadeGoodOnceAndTheHelperIsToldAtEach
         done.get_future().wait();
         line.runPosted();
         center->finish();
-        EXPECT_GT(timesTold, toldBefore) << "at the start; of the change with it where that comes soon enough";
+        EXPECT_GT(timesTold, toldBefore)
+            << "at the start; of the change with it where that comes soon enough";
     }
     EXPECT_EQ(restored, 1);
     EXPECT_THAT(identifiers(), ElementsAre("a"));
