@@ -92,11 +92,11 @@ TEST_F(RemindersEndToEndTest, AReminderArrivesThoughTheHelperWasKilledMeanwhile)
 
 TEST_F(RemindersEndToEndTest, AReminderWaitsForADaemonAndForTheNextOne) {
     startHelper();
-    ASSERT_EQ(add("Early", "bird", 1), std::nullopt);
+    ASSERT_EQ(add("Early", "bird", 3), std::nullopt);
     session->startDaemon();
     EXPECT_TRUE(arrives("Early", "bird"));
     session->killDaemon();
-    ASSERT_EQ(add("Late", "owl", 1), std::nullopt);
+    ASSERT_EQ(add("Late", "owl", 3), std::nullopt);
     session->startDaemon();
     EXPECT_TRUE(arrives("Late", "owl"));
 }
@@ -104,7 +104,7 @@ TEST_F(RemindersEndToEndTest, AReminderWaitsForADaemonAndForTheNextOne) {
 TEST_F(RemindersEndToEndTest, TheBusStartsTheHelperWhenTheQueueChanges) {
     session->addService(remindersName, TESSIVO_HELPER);
     session->startDaemon();
-    ASSERT_EQ(add("Start", "me", 1), std::nullopt);
+    ASSERT_EQ(add("Start", "me", 3), std::nullopt);
     EXPECT_TRUE(arrives("Start", "me"));
 }
 
