@@ -148,7 +148,7 @@ TEST_F(RemindersEndToEndTest, AClickOpensTheProgram) {
     StandInProgram program;
     session->startDaemon();
     startHelper();
-    ASSERT_EQ(add("Click", "me", 1), std::nullopt);
+    ASSERT_EQ(add("Click", "me", 3), std::nullopt);
     ASSERT_TRUE(eventually([&] { return queue->pending().value()->empty(); }));
     (void)outputOf({"dunstctl", "action", "0"});
     EXPECT_TRUE(program.isAskedFor("show-event Click"));
@@ -165,7 +165,7 @@ TEST_F(RemindersEndToEndTest, WhereNothingIsInstalledAClickStartsTheProgramByIts
     session->startDaemon();
     helper = Process({copy});
     ASSERT_TRUE(eventually([] { return PrivateSession::isOnBus(remindersName); }));
-    ASSERT_EQ(add("Click", "me", 1), std::nullopt);
+    ASSERT_EQ(add("Click", "me", 3), std::nullopt);
     ASSERT_TRUE(eventually([&] { return queue->pending().value()->empty(); }));
     (void)outputOf({"dunstctl", "action", "0"});
     EXPECT_TRUE(eventually([&] { return std::filesystem::exists(started); }));
