@@ -81,13 +81,19 @@ std::shared_ptr<const Bitmap> QtImageCoding::decode(std::string_view data,
     const QSize size = reader.size();
     if (size.isValid() && isTooLarge(size))
         return nullptr;
+    const auto drawn = covering;
     if (covering && size.isValid() && !size.isEmpty()) {
         if (reader.transformation().testFlag(QImageIOHandler::TransformationRotate90))
             std::swap(covering->width, covering->height);
         reader.setScaledSize(reduced(size, *covering));
     }
     QImage image = reader.read();
-    return image.isNull() || isTooLarge(image.size()) ? nullptr : bitmapOf(std::move(image));
+    if (image.isNull() || isTooLarge(image.size()))
+        return nullptr;
+    // The first frame of an animation may be larger than its header says.
+    if (drawn && image.width() > drawn->width + 1 && image.height() > drawn->height + 1)
+        image = image.scaled(reduced(image.size(), *drawn), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return bitmapOf(std::move(image));
 }
 
 std::optional<std::string> QtImageCoding::jpeg(const Bitmap& bitmap, double quality) const {
