@@ -35,7 +35,7 @@ void AppDelegate::didFinishLaunching(ui::PresentationStack& window) {
         window.setRoot(screens.makeTabShell());
     else
         window.setRoot(std::make_shared<ui::NavigationController>(window.window(), screens.makeOnboarding()));
-    // Twice: the second fetch finds what the first one's registration has changed.
+    // Twice at each start; nothing waits for either.
     services_.firebaseManager().fetch();
     services_.firebaseManager().fetch();
 }
