@@ -60,13 +60,16 @@ public:
     ui::Size waterfallSizeForItem(int item) override { return {400, 300.0 + item % 7 * 40}; }
 };
 
-/// Three columns of 514 points, each item in the shortest.
+/// Three columns of 514 points, each item in the shortest, and the two figures that the layout keeps of each:
+/// its frame and the lowest edge so far.
 void placeInPlainLoop(benchmark::State& state) {
     const std::shared_ptr<WaterfallLayoutDelegate> sizes = std::make_shared<Sizes>();
     std::vector<ui::Rect> frames(itemCount);
+    std::vector<double> lowestEdges(itemCount);
     constexpr double columnWidth = (514 - 2 * 16) / 3.0;
     for (auto _ : state) {
         std::array<double, 3> heights{16, 16, 16};
+        double lowestEdge = 0;
         for (int item = 0; item < itemCount; ++item) {
             const ui::Size size = sizes->waterfallSizeForItem(item);
             const auto shortest = std::ranges::min_element(heights);
@@ -74,9 +77,12 @@ void placeInPlainLoop(benchmark::State& state) {
             const ui::Rect frame{x, *shortest, std::floor(columnWidth),
                                  std::floor(columnWidth * size.height / size.width)};
             *shortest += frame.height + 16;
+            lowestEdge = std::max(lowestEdge, frame.maxY());
             frames[static_cast<std::size_t>(item)] = frame;
+            lowestEdges[static_cast<std::size_t>(item)] = lowestEdge;
         }
         benchmark::DoNotOptimize(frames.data());
+        benchmark::DoNotOptimize(lowestEdges.data());
     }
 }
 BENCHMARK(placeInPlainLoop);

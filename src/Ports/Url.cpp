@@ -104,9 +104,9 @@ bool isAuthority(std::string_view text) {
     return std::ranges::all_of(host.substr(colon + 1), isDigit);
 }
 
-/// Cuts `text` before the first of `marks` and gives what was cut off, mark included.
-std::string_view cutAt(std::string_view& text, std::string_view marks) {
-    const auto at = std::min(text.find_first_of(marks), text.size());
+/// Cuts `text` before the first `mark` and gives what was cut off, mark included.
+std::string_view cutAt(std::string_view& text, char mark) {
+    const auto at = std::min(text.find(mark), text.size());
     const std::string_view tail = text.substr(at);
     text = text.substr(0, at);
     return tail;
@@ -119,8 +119,8 @@ std::optional<Url> Url::parse(std::string_view text) {
         return std::nullopt;
     Url url;
     std::string_view rest = text;
-    std::string_view fragment = cutAt(rest, "#");
-    std::string_view query = cutAt(rest, "?");
+    std::string_view fragment = cutAt(rest, '#');
+    std::string_view query = cutAt(rest, '?');
     if (!fragment.empty()) {
         fragment.remove_prefix(1);
         if (!isWellFormed(fragment, queryCharacters))
@@ -141,7 +141,7 @@ std::optional<Url> Url::parse(std::string_view text) {
     }
     if (rest.starts_with("//")) {
         std::string_view authority = rest.substr(2);
-        const std::string_view path = cutAt(authority, "/");
+        const std::string_view path = cutAt(authority, '/');
         if (!isAuthority(authority))
             return std::nullopt;
         url.origin_ += "//";

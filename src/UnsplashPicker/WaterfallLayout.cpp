@@ -49,16 +49,18 @@ void WaterfallLayout::place(int count, WaterfallLayoutDelegate& sizes) {
     std::array<double, maximumColumns> heights;
     heights.fill(std::numeric_limits<double>::infinity());
     std::fill_n(heights.begin(), columns, topInset);
+    std::array<double, maximumColumns> lefts{}; // a single column keeps no margin
+    for (int column = 0; columns > 1 && column < columns; ++column)
+        lefts[static_cast<std::size_t>(column)] = (columnWidth + spacing) * column + layoutMargins().left;
 
     const double width = std::floor(columnWidth);
     double lowestEdge = -std::numeric_limits<double>::infinity();
     for (int item = 0; item < count; ++item) {
         const ui::Size size = sizes.waterfallSizeForItem(item);
-        const auto shortest = std::ranges::min_element(heights);
-        const auto column = static_cast<double>(shortest - heights.begin());
-        const double x = columns == 1 ? 0 : (columnWidth + spacing) * column + layoutMargins().left;
-        const ui::Rect frame{x, *shortest, width, std::floor(columnWidth * size.height / size.width)};
-        *shortest += frame.height + spacing;
+        const auto column = static_cast<std::size_t>(std::ranges::min_element(heights) - heights.begin());
+        const ui::Rect frame{lefts[column], heights[column], width,
+                             std::floor(columnWidth * size.height / size.width)};
+        heights[column] += frame.height + spacing;
         lowestEdge = std::max(lowestEdge, frame.maxY());
         frames_[static_cast<std::size_t>(item)] = frame;
         lowestEdgeUpTo_[static_cast<std::size_t>(item)] = lowestEdge;
