@@ -41,6 +41,11 @@ struct PictureLoader::Job final : Load, std::enable_shared_from_this<Job> {
             loader->finish(shared_from_this(), nullptr, false);
     }
 
+    void cancelUnlessFetching() override {
+        if (!task)
+            cancel();
+    }
+
     [[nodiscard]] std::shared_ptr<const Bitmap> decode(const std::string& body) const {
         return isCancelled ? nullptr : machine.images.decode(body, request.covering);
     }

@@ -53,6 +53,8 @@ public:
         virtual ~Load() = default;
         /// The picture is no longer wanted: `Loaded` is not called, and what is not decoded yet never is.
         virtual void cancel() = 0;
+        /// The picture has left the screen, perhaps not for good: cancels it, unless its download has begun.
+        virtual void cancelUnlessFetching() = 0;
     };
 
     static constexpr std::size_t maximumUnderWay = 16;

@@ -31,4 +31,9 @@ void ImageDownloader::cancel() {
         task->cancel();
 }
 
+void ImageDownloader::cancelUnlessFetching() {
+    if (imageDataTask)
+        imageDataTask->cancelUnlessFetching();
+}
+
 } // namespace tessivo::unsplash

@@ -22,6 +22,8 @@ public:
     /// `completion` is called once the picture is there; not if the download fails or is cancelled.
     void download(const Url& url, PixelSize size, Completion completion);
     void cancel();
+    /// Cancels what is not on its way over the network yet.
+    void cancelUnlessFetching();
 
 private:
     PickerServices& services_;

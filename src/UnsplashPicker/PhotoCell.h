@@ -27,6 +27,7 @@ public:
     CheckmarkView checkmarkView{controls};
 
     void prepareForReuse() override;
+    void willLeaveWindow() override { photoView.willLeaveScreen(); }
     void setSelected(bool selected) override;
 
 protected:

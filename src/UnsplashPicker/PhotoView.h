@@ -29,6 +29,8 @@ public:
     /// picture of that width.
     void configure(const UnsplashPhoto& photo, bool showsUsername);
     void prepareForReuse();
+    /// A picture of the cache whose turn has not come yet is not worth decoding any more.
+    void willLeaveScreen() { imageDownloader.cancelUnlessFetching(); }
 
     /// The photo shown at the moment.
     [[nodiscard]] const std::optional<std::string>& currentPhotoID() const { return currentPhotoID_; }

@@ -21,6 +21,7 @@ namespace tessivo::unsplash {
 class SizeImages final : public ImageCoding {
 public:
     std::shared_ptr<const Bitmap> decode(std::string_view data, std::optional<PixelSize>) const override {
+        ++decoded;
         Bitmap bitmap;
         if (std::sscanf(std::string(data).c_str(), "%dx%d", &bitmap.width, &bitmap.height) != 2)
             return nullptr;
@@ -29,6 +30,8 @@ public:
     }
     std::optional<std::string> jpeg(const Bitmap&, double) const override { return std::nullopt; }
     std::optional<std::string> png(const Bitmap&) const override { return std::nullopt; }
+
+    mutable int decoded = 0;
 };
 
 /// The module's own texts in a language.

@@ -356,6 +356,25 @@ TEST_F(UnsplashPickerTest, ALatePictureDoesNotLandOnAReusedCell) {
     EXPECT_TRUE(caches.bodies.empty()) << "nobody wants it any more, so it is not decoded";
 }
 
+TEST_F(UnsplashPickerTest, AFlingDecodesOnlyWhatIsStillOnTheScreenWhenItsTurnComes) {
+    auto& screen = openWith(30);
+    const std::string first = http.exchanges()[newest("i.test/p1?")]->request.url;
+    for (int photo = 1; photo <= 30; ++photo)
+        caches.bodies["https://i.test/p" + std::to_string(photo) + first.substr(first.find('?'))] = "4x3";
+    screen.collectionView.setContentOffset({0, 1500});
+    timeline.runPosted();
+    images.decoded = 0;
+    // From a screen with five rows to one with four, before any picture of the first has had its turn.
+    screen.collectionView.setContentOffset({0, 150});
+    const auto passed = screen.collectionView.visibleCells().size();
+    screen.collectionView.setContentOffset({0, 1425});
+    ASSERT_LT(screen.collectionView.visibleCells().size(), passed);
+    timeline.runPosted();
+    EXPECT_EQ(images.decoded, std::ssize(screen.collectionView.visibleCells()));
+    for (const auto& [item, visible] : screen.collectionView.visibleCells())
+        EXPECT_TRUE(static_cast<PhotoCell&>(*visible).photoView.imageView.image().isSet()) << item;
+}
+
 TEST_F(UnsplashPickerTest, BrokenPicturesStayPlaceholders) {
     openWith(1);
     answer(newest("i.test/p1"), 200, "no picture");
