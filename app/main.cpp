@@ -79,21 +79,22 @@ int main(int argc, char** argv) {
     if (!activation.claim(addsEvent ? QStringLiteral("new-event") : QString()))
         return 0;
 
-    desktop::DesktopPortal portal(bus);
-    // A sandbox has no autostart entry.
-    if (QFile::exists(QStringLiteral("/.flatpak-info")))
-        portal.startAtLogin(QStringLiteral("Show reminders while the window is closed"),
-                            {QStringLiteral("tessivo-reminders")},
-                            [&](desktop::DesktopPortal::Answer answer) {
-                                if (answer == desktop::DesktopPortal::Answer::Absent)
-                                    console.print("The reminder helper cannot be started at login.");
-                            });
-
     const auto caches = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation).toStdString();
     Composition composition(
         {freedesktop::dataFolder(), caches + "/tessivo", language, freedesktop::tellReminderHelper}, clock,
         console);
     running = &composition;
     composition.start();
+
+    desktop::DesktopPortal portal(bus);
+    // A sandbox has no autostart entry.
+    if (QFile::exists(QStringLiteral("/.flatpak-info")))
+        portal.startAtLogin(QString::fromStdString(composition.services().platform().texts.localizedString(
+                                "Show reminders while the window is closed")),
+                            {QStringLiteral("tessivo-reminders")},
+                            [&](desktop::DesktopPortal::Answer answer) {
+                                if (answer == desktop::DesktopPortal::Answer::Absent)
+                                    console.print("The reminder helper cannot be started at login.");
+                            });
     return QGuiApplication::exec();
 }

@@ -98,7 +98,7 @@ ActivityViewController::Tell ActivityViewController::tellOver(ViewController& sc
     return [weak = screen.weak_from_this(), &window = window(), &texts = texts_](const char* title,
                                                                                  const std::string& message) {
         if (const auto standing = weak.lock())
-            showAlert(*standing, window, texts, title, message);
+            showAlert(*standing, window, texts, title, texts.localizedString(message));
     };
 }
 

@@ -28,7 +28,7 @@ void SaveFailureAlert::tell(const std::shared_ptr<EventCoreData>& event, const E
     const auto alert = std::make_shared<ui::AlertController>(
         window_, ui::AlertStyle::Alert,
         filledText(texts_.localizedString("notSaved.title"), event->title().value_or("")),
-        filledText(texts_.localizedString("notSaved.message"), error.description));
+        filledText(texts_.localizedString("notSaved.message"), texts_.localizedString(error.description)));
     alert->addAction({texts_.localizedString("close"), ui::AlertActionStyle::Cancel, {}});
     alert->addAction(
         {texts_.localizedString("notSaved.tryAgain"), ui::AlertActionStyle::Default, [this, event] {

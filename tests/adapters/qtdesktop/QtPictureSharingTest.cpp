@@ -1,12 +1,11 @@
 #include "qtdesktop/QtPictureSharing.h"
 #include "adapters/qtdesktop/OnPortal.h"
+#include "adapters/qtdesktop/StandInPrograms.h"
 #include "qt/QtMainQueue.h"
 #include "qtimage/QtImageCoding.h"
 #include "standard/ThreadWorkQueue.h"
-#include "support/TemporaryFolder.h"
 
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QImage>
 
@@ -15,20 +14,12 @@
 #include <sys/stat.h>
 
 #include <chrono>
-#include <fstream>
-#include <functional>
-#include <iterator>
 
 namespace tessivo {
 namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
-
-std::string read(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 mode_t modeOf(const fs::path& path) {
     struct stat status {};
@@ -44,48 +35,22 @@ class Sharing : public testing::Test {
 protected:
     Sharing() : Sharing(QDBusConnection(QStringLiteral("there is none"))) {}
     explicit Sharing(const QDBusConnection& bus)
-        : sharing({folder / "Pictures", folder / "lent"}, bus, images, background, mainQueue) {
-        fs::create_directory(programs);
-        ::setenv("PATH", (programs.string() + ":/usr/bin:/bin").c_str(), 1);
-        install("xdg-open", 0);
-        install("xdg-email", 0);
-    }
-    ~Sharing() override { ::setenv("PATH", path.c_str(), 1); }
-
-    /// A program that writes down what it was asked, and ends with that code.
-    void install(const std::string& name, int code) const {
-        std::ofstream(programs / name) << "#!/bin/sh\nprintf '%s\\n' \"$@\" > '"
-                                       << (folder / "called").string() << "'\nexit " << code << '\n';
-        fs::permissions(programs / name, fs::perms::owner_all);
-    }
+        : sharing({folder / "Pictures", folder / "lent"}, bus, images, background, mainQueue) {}
 
     using Act = void (PictureSharing::*)(std::shared_ptr<const Bitmap>, PictureSharing::Done);
 
-    /// Asks and waits for the answer, which must not come inline.
-    template <class Answer>
-    Answer await(const std::function<void(std::function<void(Answer)>)>& ask) {
-        std::optional<Answer> answer;
-        ask([&](Answer given) { answer = std::move(given); });
-        EXPECT_FALSE(answer);
-        QElapsedTimer timer;
-        timer.start();
-        while (!answer && timer.elapsed() < 10'000)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
-        return answer.value_or(Error{"Test", 0, "Nobody answered."});
-    }
     Outcome share(Act act) {
         return await<Outcome>(
-            [&](auto answer) { (static_cast<PictureSharing&>(sharing).*act)(picture, std::move(answer)); });
+            [&](auto answer) { (static_cast<PictureSharing&>(sharing).*act)(picture, std::move(answer)); },
+            Error{"Test", 0, "Nobody answered."});
     }
     Result<std::string> save() {
-        return await<Result<std::string>>([&](auto answer) { sharing.save(picture, std::move(answer)); });
+        return await<Result<std::string>>([&](auto answer) { sharing.save(picture, std::move(answer)); },
+                                          Error{"Test", 0, "Nobody answered."});
     }
 
-    [[nodiscard]] std::string called() const { return read(folder / "called"); }
-
-    std::string path = ::getenv("PATH");
     TemporaryFolder folder;
-    fs::path programs = folder / "programs";
+    StandInPrograms programs;
     std::shared_ptr<const Bitmap> picture =
         std::make_shared<Bitmap>(Bitmap{2, 1, {250, 10, 20, 255, 0, 0, 0, 0}});
     QtImageCoding images;
@@ -101,9 +66,9 @@ TEST_F(Sharing, EachPictureIsSavedBesideTheOthersAndReplacesNone) {
         const auto saved = save();
         ASSERT_TRUE(saved) << saved.error().description;
         EXPECT_EQ(saved.value(), (folder / "Pictures" / name).string());
-        EXPECT_EQ(*images.decode(read(folder / "Pictures" / name), {}), *picture) << name;
+        EXPECT_EQ(*images.decode(contentsOf(folder / "Pictures" / name), {}), *picture) << name;
     }
-    EXPECT_EQ(read(folder / "Pictures" / "Tessivo 2.png"), "the user's own");
+    EXPECT_EQ(contentsOf(folder / "Pictures" / "Tessivo 2.png"), "the user's own");
 }
 
 TEST_F(Sharing, APictureThatCannotBeSavedIsAnErrorThatNamesThePlace) {
@@ -132,13 +97,13 @@ TEST_F(Sharing, TheClipboardGetsThePicture) {
 TEST_F(Sharing, WithoutAPortalProgramsGetAFileThatOthersCannotRead) {
     EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
     const auto lent = folder / "lent" / "Tessivo.png";
-    EXPECT_EQ(called(), lent.string() + "\n");
-    EXPECT_EQ(*images.decode(read(lent), {}), *picture);
+    EXPECT_EQ(programs.called(), lent.string() + "\n");
+    EXPECT_EQ(*images.decode(contentsOf(lent), {}), *picture);
     EXPECT_EQ(modeOf(lent), 0600U);
     EXPECT_EQ(modeOf(folder / "lent"), 0700U);
 
     EXPECT_EQ(share(&PictureSharing::mail), std::nullopt);
-    EXPECT_EQ(called(), "--attach\n" + (folder / "lent" / "Tessivo 2.png").string() + "\n");
+    EXPECT_EQ(programs.called(), "--attach\n" + (folder / "lent" / "Tessivo 2.png").string() + "\n");
 }
 
 TEST_F(Sharing, WhatWasLentLongAgoIsTakenBack) {
@@ -151,12 +116,12 @@ TEST_F(Sharing, WhatWasLentLongAgoIsTakenBack) {
 }
 
 TEST_F(Sharing, AProgramThatFailsOrIsMissingIsAnError) {
-    install("xdg-open", 3);
+    programs.install("xdg-open", 3);
     const auto failed = share(&PictureSharing::open);
     ASSERT_TRUE(failed);
     EXPECT_EQ(failed->description, "No program opened the picture.");
 
-    ::setenv("PATH", (folder / "nowhere").c_str(), 1);
+    programs.removeAll();
     const auto missing = share(&PictureSharing::mail);
     ASSERT_TRUE(missing);
     EXPECT_THAT(missing->description, HasSubstr("xdg-email"));
@@ -179,22 +144,22 @@ TEST_F(SharingByPortal, ThePortalGetsThePictureAndAsksTheUserWhoOpensIt) {
         ASSERT_TRUE(handedOver) << asked.method;
         EXPECT_EQ(*handedOver, *picture) << asked.method;
     }
-    EXPECT_EQ(called(), "") << "no other program is needed";
+    EXPECT_EQ(programs.called(), "") << "no other program is needed";
 }
 
 TEST_F(SharingByPortal, AUserWhoTurnsAwayIsNotAskedAgain) {
     portal.response = 1;
     EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
-    EXPECT_EQ(called(), "");
+    EXPECT_EQ(programs.called(), "");
 }
 
 TEST_F(SharingByPortal, APortalThatCannotLeavesItToTheDesktopsPrograms) {
     portal.response = 2;
     EXPECT_EQ(share(&PictureSharing::open), std::nullopt);
-    EXPECT_THAT(called(), HasSubstr("Tessivo.png"));
+    EXPECT_THAT(programs.called(), HasSubstr("Tessivo.png"));
     portal.refuses = true;
     EXPECT_EQ(share(&PictureSharing::mail), std::nullopt);
-    EXPECT_THAT(called(), HasSubstr("--attach"));
+    EXPECT_THAT(programs.called(), HasSubstr("--attach"));
 }
 
 } // namespace
