@@ -6,6 +6,8 @@
 
 #include <QDBusConnection>
 #include <QFile>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QStandardPaths>
 
 #include <array>
@@ -36,6 +38,13 @@ std::filesystem::path picturesFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation).toStdString();
 }
 
+/// Desktops on X11 tell of larger letters as dots per inch, by which Qt enlarges the whole window.
+bool windowSystemScalesText() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen && screen->devicePixelRatio() != 1 &&
+           QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
 } // namespace
 
 Machine::Machine(const Settings& settings, Clock& clock, Console& console,
@@ -59,7 +68,7 @@ Machine::Machine(const Settings& settings, Clock& clock, Console& console,
       textSharing_(QDBusConnection::sessionBus(), mainQueue_),
       mail_(QDBusConnection::sessionBus()),
       reviews_(links_, texts_, [this] { return foreground_.isActive(); }),
-      preferences_(QDBusConnection::sessionBus()),
+      preferences_(QDBusConnection::sessionBus(), windowSystemScalesText()),
       bundle_{.shortVersion = TESSIVO_VERSION,
               .version = TESSIVO_BUILD_NUMBER,
               .preferredLocalization = settings.language},

@@ -7,6 +7,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
+#include <algorithm>
 #include <utility>
 
 namespace tessivo {
@@ -20,6 +21,7 @@ constexpr const char* statusInterface = "org.a11y.Status";
 
 const QString animations = QStringLiteral("enable-animations");
 const QString contrast = QStringLiteral("high-contrast");
+const QString textScale = QStringLiteral("text-scaling-factor");
 const QString screenReader = QStringLiteral("ScreenReaderEnabled");
 
 /// A portal wraps a value in one or more variants.
@@ -43,6 +45,8 @@ void DesktopPreferences::onChange(Changed changed) {
                  QString::fromLatin1(propertiesInterface), QStringLiteral("PropertiesChanged"), this,
                  SLOT(statusChanged(QString, QVariantMap, QStringList)));
     read(QStringLiteral("org.gnome.desktop.interface"), animations);
+    if (!scalesAll_)
+        read(QStringLiteral("org.gnome.desktop.interface"), textScale);
     read(QStringLiteral("org.gnome.desktop.a11y.interface"), contrast);
     read(QString(), screenReader);
 }
@@ -82,6 +86,8 @@ void DesktopPreferences::take(const QString& key, const QVariant& value) {
         preferences_.reducedMotion = !value.toBool();
     else if (key == contrast)
         preferences_.highContrast = value.toBool();
+    else if (key == textScale && !scalesAll_)
+        preferences_.textScale = std::clamp(value.toDouble(), 0.8, 2.0);
     else if (key == screenReader)
         preferences_.screenReader = value.toBool();
     if (preferences_ != former)

@@ -21,7 +21,10 @@ class DesktopPreferences final : public QObject {
 public:
     using Changed = std::function<void(const UserPreferences&)>;
 
-    explicit DesktopPreferences(const QDBusConnection& bus) : bus_(bus) {}
+    /// `scalesAll`: the window system makes everything larger by the user's text scale, so that the letters
+    /// need not grow by themselves.
+    explicit DesktopPreferences(const QDBusConnection& bus, bool scalesAll = false)
+        : bus_(bus), scalesAll_(scalesAll) {}
 
     /// Starts to follow them. `changed` is called in later turns of the main loop, whenever one of them is
     /// found to differ from its default or changes.
@@ -36,6 +39,7 @@ private:
     void take(const QString& key, const QVariant& value);
 
     QDBusConnection bus_;
+    bool scalesAll_;
     Changed changed_;
     UserPreferences preferences_;
 };

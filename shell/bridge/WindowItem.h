@@ -17,6 +17,7 @@ class WindowItem final : public QObject {
     Q_PROPERTY(tessivo::shell::StackModel* stack READ stack CONSTANT FINAL)
     Q_PROPERTY(bool large READ large NOTIFY sizeChanged FINAL)
     Q_PROPERTY(bool highContrast READ highContrast NOTIFY preferencesChanged FINAL)
+    Q_PROPERTY(double textScale READ textScale NOTIFY preferencesChanged FINAL)
     Q_PROPERTY(bool keysInUse READ keysInUse NOTIFY keysInUseChanged FINAL)
 
 public:
@@ -29,6 +30,7 @@ public:
 
     /// Whether the user asks for strong contrast.
     [[nodiscard]] bool highContrast() const { return screen_.preferences().highContrast; }
+    [[nodiscard]] double textScale() const { return screen_.preferences().textScale; }
 
     /// Whether the screen counts as a large one.
     [[nodiscard]] bool large() const { return screen_.isLarge(); }

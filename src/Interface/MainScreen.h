@@ -4,6 +4,7 @@
 #include "Interface/Signal.h"
 #include "Ports/UserPreferences.h"
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -39,8 +40,15 @@ public:
 
     [[nodiscard]] const UserPreferences& preferences() const { return preferences_; }
     void setPreferences(const UserPreferences& preferences) {
-        if (std::exchange(preferences_, preferences) != preferences)
+        const UserPreferences former = std::exchange(preferences_, preferences);
+        if (former != preferences)
             preferenceChanges_.emit();
+        if (former.textScale != preferences.textScale)
+            changes_.emit();
+    }
+    /// The height of a row that is `usual` points high where letters have their usual size.
+    [[nodiscard]] double rowHeight(double usual) const {
+        return usual * std::max(1.0, preferences_.textScale);
     }
 
     [[nodiscard]] Subscription onPreferencesChange(std::function<void()> changed) {

@@ -7,6 +7,7 @@ struct UserPreferences {
     bool reducedMotion = false; ///< nothing slides, springs or fades
     bool highContrast = false;
     bool screenReader = false; ///< one is running
+    double textScale = 1;      ///< how much larger than usual all letters are, from 0.8 to 2
 
     friend bool operator==(const UserPreferences&, const UserPreferences&) = default;
 };

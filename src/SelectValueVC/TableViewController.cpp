@@ -25,7 +25,7 @@ TableViewController::make(ui::WindowContext& window, Console& console, std::vect
     picker->dataArray = std::move(texts);
     picker->selectedItem = selectedItem;
     picker->delegate = std::move(delegate);
-    picker->sheetPresentation.height = height;
+    picker->sheetPresentation.height = window.screen.rowHeight(height);
     return picker;
 }
 
@@ -59,7 +59,7 @@ std::shared_ptr<ui::CollectionViewCell> TableViewController::cellForItem(ui::Col
 }
 
 ui::Size TableViewController::sizeForItem(ui::CollectionView& collection, int) {
-    return {collection.bounds().width, rowHeight};
+    return {collection.bounds().width, window().screen.rowHeight(rowHeight)};
 }
 
 void TableViewController::didSelectItem(ui::CollectionView&, int item) {

@@ -53,7 +53,7 @@ void DefaulScreenViewController::viewDidLoad() {
          std::initializer_list<ui::View*>{&eventView, &tableView, &titleLabel, &IslandView, &prevButton})
         view().addSubview(*part);
     buildCard();
-    const double list = static_cast<double>(dataArray.size()) * rowHeight;
+    const double list = static_cast<double>(dataArray.size()) * screen().rowHeight(rowHeight);
     // Room for the largest card, so that the rows stay where they are when another size is chosen.
     const double card = type == sizeType ? screen().height() / largestCardDivisor + margin : 0;
     sheetPresentation.height = barHeight + card + list + 2 * margin;
@@ -111,7 +111,7 @@ DefaulScreenViewController::cellForItem(ui::CollectionView& collection, int item
 }
 
 ui::Size DefaulScreenViewController::sizeForItem(ui::CollectionView& collection, int) {
-    return {collection.bounds().width, rowHeight};
+    return {collection.bounds().width, screen().rowHeight(rowHeight)};
 }
 
 void DefaulScreenViewController::didSelectItem(ui::CollectionView&, int item) {

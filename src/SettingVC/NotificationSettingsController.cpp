@@ -20,7 +20,7 @@ NotificationSettingsController::NotificationSettingsController(ui::WindowContext
       texts_(texts),
       changeAnswer_(std::move(changeAnswer)) {
     modalPresentationStyle = ui::PresentationStyle::Sheet;
-    sheetPresentation.height = sheetHeight;
+    sheetPresentation.height = screen().rowHeight(sheetHeight);
 }
 
 void NotificationSettingsController::viewDidLoad() {

@@ -127,18 +127,19 @@ void SettingController::screenSizeDidChange() {
 
 void SettingController::placeSections() {
     const double rowHeight = sizeForItem(rowsOf(1), 0).height;
+    const double header = screen().rowHeight(headerHeight);
     double y = 0;
     for (std::size_t index = 0; index < views_.size(); ++index) {
         const auto count = static_cast<double>(sections[index].items.size());
         const bool strip = sections[index].kind == Kind::ourApplications;
-        const double height = strip ? screen().height() / stripDivisor
+        const double height = strip ? screen().rowHeight(screen().height() / stripDivisor)
                                     : count * rowHeight + std::max(0.0, count - 1) * rowSpacing;
-        views_[index]->header.setFrame({margin, y, screen().width() - 2 * margin, headerHeight});
+        views_[index]->header.setFrame({margin, y, screen().width() - 2 * margin, header});
         ui::CollectionView& rows = views_[index]->rows;
         // How wide the sheet is drawn is the window's, which tells it once it is there.
         const double width = rows.bounds().width > 0 ? rows.bounds().width : screen().width() - 2 * margin;
-        rows.setFrame({margin, y + headerHeight, width, height});
-        y += headerHeight + height;
+        rows.setFrame({margin, y + header, width, height});
+        y += header + height;
     }
     collectionView.setContentSize({screen().width(), y + margin});
 }
@@ -186,8 +187,10 @@ std::string SettingController::savedValue(int row) const {
 
 ui::Size SettingController::sizeForItem(ui::CollectionView& collection, int) {
     if (sectionOf(collection) == 0)
-        return {collection.bounds().width * columnShare, screen().height() / stripDivisor * applicationShare};
-    return {collection.bounds().width, std::max(smallestRow, screen().height() / rowDivisor)};
+        return {collection.bounds().width * columnShare,
+                screen().rowHeight(screen().height() / stripDivisor * applicationShare)};
+    return {collection.bounds().width,
+            screen().rowHeight(std::max(smallestRow, screen().height() / rowDivisor))};
 }
 
 void SettingController::didSelectItem(ui::CollectionView& collection, int item) {

@@ -79,6 +79,10 @@ TEST_F(SettingsTest, RowsAndApplicationsAreAsTallAsTheScreenSays) {
     program.screen.resize({390, 640}, 1);
     EXPECT_EQ(screen.rowsOf(1).cellForItem(1)->frame().height, 44) << "a finger still finds it";
     EXPECT_LT(screen.rowsOf(3).frame().maxY(), formerEnd);
+    program.screen.setPreferences({.textScale = 2});
+    EXPECT_EQ(screen.rowsOf(1).cellForItem(1)->frame().height, 88) << "larger letters need taller rows";
+    EXPECT_NEAR(screen.rowsOf(0).cellForItem(2)->frame().height, 2 * 640 / 5.64 / 2, 1e-9);
+    EXPECT_GT(screen.rowsOf(3).frame().maxY(), formerEnd);
 }
 
 TEST_F(SettingsTest, TheValuesOfTheRowsAreTheSavedOnes) {

@@ -24,9 +24,9 @@ namespace tessivo::tour {
 namespace {
 
 constexpr std::chrono::milliseconds settlingTime{900}; ///< the longest motion, and the frames around it
-constexpr double rowHeight = 36;
-constexpr double dragThreshold = 12; ///< what a drag uses up before anything moves
-constexpr double wheelsMiddle = 98;  ///< below the row that they belong to
+constexpr int everyYear = 5;                           ///< in the sheet of the repeats
+constexpr double dragThreshold = 12;                   ///< what a drag uses up before anything moves
+constexpr double wheelsTop = 8;                        ///< below the row that they belong to
 constexpr double dayShares[] = {0.12, 0.47, 0.85};
 
 } // namespace
@@ -43,6 +43,7 @@ Tour::Tour(Composition& program, const Stage& stage, const QDir& pictures)
 
 void Tour::run() {
     window_.resize(stage_.size);
+    program_.services().window().screen.setPreferences({.textScale = stage_.textScale});
     window_.requestActivate();
     waitFor("window", [this] { return window_.isExposed() && window_.isActive(); });
     settle();
@@ -251,10 +252,12 @@ void Tour::chooseTimeAndRepeat(const Wish& wish) {
     tapBeside();
     hand_.tap(nameOfValue("repeatInfoLabel", "repeatLapel"));
     pictureIf(wish.inPictures, "repeat-sheet");
+    dynamic_cast<ui::CollectionView&>(*shown().controls.find("tableView")).scrollToItem(everyYear);
+    settle();
     hand_.tap(said("Every year"));
-    const QRectF chosen = hand_.placeOf(said("Every year"));
-    hand_.drag({chosen.center().x(), chosen.top() - 5 * 52 - 40},
-               {chosen.center().x(), stage_.size.height() - 10.0});
+    const double sheetTop = std::max(24.0, stage_.size.height() - shown().sheetPresentation.height.value());
+    hand_.drag({stage_.size.width() / 2.0, sheetTop + 12},
+               {stage_.size.width() / 2.0, stage_.size.height() - 10.0});
     pictureIf(wish.inPictures, "date");
 }
 
@@ -262,7 +265,7 @@ void Tour::chooseReminder(const Wish& wish) {
     hand_.tap(said("Reminder"));
     hand_.tap(nameOfValue("alertInfoLabel", "alertlabel"));
     pictureIf(wish.inPictures, "alert-sheet");
-    hand_.tapAt({window_.width() / 2.0, 40});
+    hand_.tapAt({window_.width() / 2.0, 12});
     hand_.tap(nameOf("reminderMess"));
     type(QStringLiteral("Pack sunscreen, tickets and a good book"));
     tapBeside();
@@ -285,7 +288,9 @@ void Tour::turnWheel(QRectF rowAbove, int wheel, int rows) {
         return;
     const bool reversed = QGuiApplication::layoutDirection() == Qt::RightToLeft;
     const double share = reversed ? 1 - dayShares[wheel] : dayShares[wheel];
-    const QPointF start(rowAbove.left() + rowAbove.width() * share, rowAbove.bottom() + wheelsMiddle);
+    const double rowHeight = std::max(36.0, 20 * stage_.textScale + 14);
+    const QPointF start(rowAbove.left() + rowAbove.width() * share,
+                        rowAbove.bottom() + wheelsTop + 2.5 * rowHeight);
     const double slack = rows > 0 ? dragThreshold : -dragThreshold;
     hand_.drag(start, start - QPointF(0, rows * rowHeight + slack));
 }

@@ -10,6 +10,11 @@ Item {
     readonly property ButtonItem chooseButton: screen.control("chooseButton") as ButtonItem
     readonly property int barHeight: 56
 
+    // Three buttons share the foot.
+    function room(wanted: real): real {
+        return Math.min(wanted, width / 3 - 4);
+    }
+
     anchors.fill: parent
 
     StyledLabel {
@@ -30,17 +35,20 @@ Item {
         button: bars.screen.control("cancelButton") as ButtonItem
         anchors.left: parent.left
         anchors.leftMargin: 4
+        width: bars.room(implicitWidth)
         anchors.verticalCenter: foot.verticalCenter
     }
     TextButton {
         button: bars.screen.control("libraryButton") as ButtonItem
         anchors.horizontalCenter: parent.horizontalCenter
+        width: bars.room(implicitWidth)
         anchors.verticalCenter: foot.verticalCenter
     }
     TextButton {
         button: bars.chooseButton
         anchors.right: parent.right
         anchors.rightMargin: 4
+        width: bars.room(implicitWidth)
         anchors.verticalCenter: foot.verticalCenter
     }
     Item {

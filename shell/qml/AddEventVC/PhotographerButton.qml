@@ -36,7 +36,7 @@ ButtonArea {
             width: Math.min(implicitWidth, control.maximumWidth - 40)
             text: control.button.title
             color: control.button.titleColor
-            font.pixelSize: 15
+            font.pixelSize: Theme.type(15)
             elide: Text.ElideRight
             textFormat: Text.PlainText
         }

@@ -60,8 +60,10 @@ FocusScope {
                 Accessible.name: text
             }
         }
-        Row {
+        Grid { // answers that do not fit beside each other stand one over the other
             id: answers
+            property real widest: 0
+            columns: widest * dialog.alert.choices.length <= width ? dialog.alert.choices.length : 1
             width: parent.width
             anchors.bottom: parent.bottom
             Repeater {
@@ -69,7 +71,8 @@ FocusScope {
                 ChoiceButton {
                     required property alertChoice modelData
                     required property int index
-                    width: answers.width / dialog.alert.choices.length
+                    width: answers.width / answers.columns
+                    Component.onCompleted: answers.widest = Math.max(answers.widest, implicitWidth)
                     choice: modelData
                     radius: 20
                     focus: index === dialog.alert.choices.length - 1

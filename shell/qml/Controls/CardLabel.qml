@@ -7,6 +7,7 @@ Column {
 
     required property LabelItem label
     property real room: 0 // for both lines; none to spare if 0
+    property real textScale: Theme.textScale
     property bool onPicture: false // a soft shadow parts the letters from what lies behind them
     /// Where the letters stand, in the column's parent.
     readonly property rect textArea: {
@@ -35,7 +36,7 @@ Column {
             height: grows ? Math.max(metrics.height, share) : implicitHeight
             text: modelData.text
             color: modelData.color
-            font.pixelSize: modelData.size
+            font.pixelSize: Theme.scaledType(modelData.size, column.textScale)
             font.weight: modelData.weight
             fontSizeMode: grows ? Text.Fit : Text.HorizontalFit
             minimumPixelSize: 13
@@ -51,7 +52,7 @@ Column {
 
             FontMetrics {
                 id: metrics
-                font.pixelSize: line.modelData.size
+                font.pixelSize: Theme.scaledType(line.modelData.size, column.textScale)
                 font.weight: line.modelData.weight
             }
         }

@@ -11,11 +11,14 @@ Item {
     property bool onPicture: false
     readonly property rect countArea: countText.textArea
     readonly property rect informationArea: informationText.textArea
+    // A card keeps its height, so letters grow as far as four lines of them have room in it.
+    readonly property real textScale: Math.min(Theme.textScale, Math.max(1, height / 150))
     readonly property real margin: Math.max(12, Math.min(24, height * 0.16 - 10))
 
     CardLabel {
         id: countText
         label: texts.count
+        textScale: texts.textScale
         onPicture: texts.onPicture
         anchors.top: parent.top
         anchors.right: parent.right
@@ -25,6 +28,7 @@ Item {
     CardLabel {
         id: informationText
         label: texts.information
+        textScale: texts.textScale
         onPicture: texts.onPicture
         room: texts.height - 2 * texts.margin - countText.height - 4
         anchors.left: parent.left

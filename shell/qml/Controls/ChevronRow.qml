@@ -5,7 +5,7 @@ import Tessivo
 ButtonArea {
     id: row
 
-    implicitHeight: Theme.rowHeight
+    implicitHeight: Math.max(Theme.rowHeight, caption.implicitHeight + 20)
 
     Rectangle {
         anchors.fill: parent
@@ -14,6 +14,7 @@ ButtonArea {
         color: Theme.field
     }
     Text {
+        id: caption
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: parent.left
         anchors.right: chevron.left
@@ -21,7 +22,7 @@ ButtonArea {
         anchors.rightMargin: 8
         text: row.button.title
         color: row.button.titleColor
-        font.pixelSize: row.button.size
+        font.pixelSize: Theme.type(row.button.size)
         font.weight: row.button.weight
         horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight

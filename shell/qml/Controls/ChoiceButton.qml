@@ -7,10 +7,12 @@ ButtonArea {
 
     required property alertChoice choice
 
-    implicitHeight: 52
+    implicitWidth: caption.implicitWidth + 16
+    implicitHeight: Math.max(52, Theme.body + 35)
     Accessible.name: choice.title
 
     Text {
+        id: caption
         anchors.fill: parent
         anchors.leftMargin: 8
         anchors.rightMargin: 8

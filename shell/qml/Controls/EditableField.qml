@@ -33,7 +33,7 @@ FocusScope {
         horizontalAlignment: TextInput.AlignLeft
         clip: true
         selectByMouse: true
-        font.pixelSize: control.input.size
+        font.pixelSize: Theme.type(control.input.size)
         color: control.input.color
         selectionColor: Theme.accent
         EnterKey.type: control.enterKey
@@ -54,6 +54,8 @@ FocusScope {
         text: control.input.placeholder
         font: field.font
         color: Theme.muted
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 13
         horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

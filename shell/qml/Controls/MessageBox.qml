@@ -30,7 +30,7 @@ FocusScope {
         clip: true
         selectByMouse: true
         textFormat: TextEdit.PlainText
-        font.pixelSize: control.input.size
+        font.pixelSize: Theme.type(control.input.size)
         color: control.input.color
         selectionColor: Theme.accent
         onTextChanged: if (activeFocus) control.input.edit(text)

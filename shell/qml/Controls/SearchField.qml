@@ -7,7 +7,7 @@ EditableField {
 
     required property ButtonItem clearButton
 
-    implicitHeight: Theme.touch
+    implicitHeight: Math.max(Theme.touch, Theme.body + 20)
     nearRoom: 40
     farRoom: Theme.touch
     inputMethodHints: Qt.ImhNoAutoUppercase

@@ -7,9 +7,12 @@ Rectangle {
 
     required property SegmentedItem item
     readonly property int count: item.titles.length
+    // The longest words of all languages stay whole, and all are as large as the longest.
+    readonly property real widest: Math.max(...item.titles.map(title => metrics.advanceWidth(title)))
+    readonly property int letters: Math.max(10, Math.min(Theme.caption, Math.floor(Theme.caption * (width / count - 8) / widest)))
     readonly property bool reversed: Qt.application.layoutDirection === Qt.RightToLeft
 
-    implicitHeight: Theme.touch
+    implicitHeight: Math.max(Theme.touch, Theme.caption + 24)
     radius: 10
     color: Theme.field
     activeFocusOnTab: true
@@ -60,11 +63,9 @@ Rectangle {
                     anchors.fill: parent
                     anchors.margins: 2
                     text: segment.modelData
-                    font.pixelSize: Theme.caption
+                    font.pixelSize: segments.letters
                     font.weight: Font.Medium
                     color: segment.selected ? "white" : Theme.muted
-                    fontSizeMode: Text.HorizontalFit // the longest words of all languages stay whole
-                    minimumPixelSize: 10
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                     elide: Text.ElideRight
@@ -72,6 +73,11 @@ Rectangle {
                 }
             }
         }
+    }
+    FontMetrics {
+        id: metrics
+        font.pixelSize: Theme.caption
+        font.weight: Font.Medium
     }
     FocusRing { radius: 13 }
 }

@@ -5,7 +5,7 @@ import Tessivo
 ButtonArea {
     id: control
 
-    implicitHeight: 84
+    implicitHeight: 60 + word.implicitHeight + 8
 
     Column {
         width: parent.width
@@ -23,12 +23,15 @@ ButtonArea {
             }
         }
         Text {
+            id: word
             width: parent.width
             text: control.button.title
             font.pixelSize: Theme.caption
             font.weight: Font.Medium
             color: Theme.ink
             horizontalAlignment: Text.AlignHCenter
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 11
             elide: Text.ElideRight
             textFormat: Text.PlainText
         }

@@ -10,11 +10,11 @@ Text {
     visible: label.shown
     text: label.text
     color: label.pieces.length > 0 ? label.pieces[0].color : label.color
-    font.pixelSize: label.pieces.length > 0 ? label.pieces[0].size : label.size
+    font.pixelSize: Theme.type(label.pieces.length > 0 ? label.pieces[0].size : label.size)
     font.weight: label.pieces.length > 0 ? label.pieces[0].weight : label.weight
     horizontalAlignment: label.alignment
-    maximumLineCount: label.lineLimit
-    wrapMode: label.lineLimit === 1 ? Text.NoWrap : Text.Wrap
+    maximumLineCount: Theme.largeText ? 2 * label.lineLimit : label.lineLimit
+    wrapMode: maximumLineCount === 1 ? Text.NoWrap : Text.Wrap
     elide: Text.ElideRight
     textFormat: Text.PlainText
     Accessible.role: Accessible.StaticText

@@ -8,11 +8,12 @@ Rectangle {
     required property LabelItem label
     required property SwitchItem item
 
-    implicitHeight: Theme.rowHeight
+    implicitHeight: Math.max(Theme.rowHeight, caption.implicitHeight + 20)
     radius: Theme.radius
     color: Theme.field
 
     StyledLabel {
+        id: caption
         label: row.label
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: parent.left

@@ -8,7 +8,7 @@ ButtonArea {
     property bool filled: false
 
     implicitWidth: Math.max(Theme.touch, caption.implicitWidth + 32)
-    implicitHeight: filled ? 54 : Theme.touch
+    implicitHeight: Math.max(filled ? 54 : Theme.touch, caption.implicitHeight + 16)
 
     Rectangle {
         anchors.fill: parent
@@ -22,7 +22,7 @@ ButtonArea {
         id: caption
         anchors.fill: parent
         text: control.button.title
-        font.pixelSize: control.button.size
+        font.pixelSize: Theme.type(control.button.size)
         font.weight: control.button.weight
         color: control.filled && control.button.enabled ? "white" : control.button.titleColor
         opacity: control.pressed && !control.filled ? 0.5 : 1

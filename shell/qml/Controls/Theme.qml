@@ -24,11 +24,21 @@ QtObject {
 
     readonly property int margin: 16
     readonly property int touch: 44
-    readonly property int rowHeight: 52
+    readonly property int rowHeight: 52 // at least: rows grow with their letters
     readonly property int radius: 16
-    readonly property int caption: 13
-    readonly property int body: 17
-    readonly property int headline: 20
+    readonly property real textScale: window ? window.textScale : 1
+    readonly property bool largeText: textScale > 1.2
+    readonly property int caption: type(13)
+    readonly property int body: type(17)
+    readonly property int headline: type(20)
+
+    // A size of letters as the user wants it. Large letters grow by no more than the text around them.
+    function type(size: real): int {
+        return scaledType(size, textScale);
+    }
+    function scaledType(size: real, scale: real): int {
+        return Math.round(size + Math.min(size, 20) * (scale - 1));
+    }
 
     readonly property int quick: 160
     readonly property int calm: 280

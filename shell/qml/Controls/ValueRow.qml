@@ -9,7 +9,7 @@ ButtonArea {
     property LabelItem heading: null // what the value is of, for those who cannot see what stands over the row
     property ButtonItem chevron: null
 
-    implicitHeight: Theme.rowHeight
+    implicitHeight: Math.max(Theme.rowHeight, caption.implicitHeight + 20)
     visible: label.shown
     onClicked: label.tap()
     Accessible.name: heading ? heading.text + ", " + label.accessibleName : label.accessibleName
@@ -21,6 +21,7 @@ ButtonArea {
         color: Theme.field
     }
     StyledLabel {
+        id: caption
         label: row.label
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: parent.left

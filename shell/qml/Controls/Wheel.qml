@@ -8,7 +8,7 @@ FocusScope {
 
     required property DatePickerItem picker
     required property int wheelIndex
-    readonly property real rowHeight: 36
+    required property real rowHeight
     readonly property string current: list.rows[value - 1] ?? ""
 
     // What assistive technology says of it: the row's number among all.
@@ -103,12 +103,14 @@ FocusScope {
             Text {
                 anchors.fill: parent
                 text: list.rows.length > 0 ? list.rows[row.index % list.rows.length] : ""
-                font.pixelSize: 20
+                font.pixelSize: Theme.type(20)
                 color: row.hovered ? Theme.accent : Theme.ink
                 opacity: Math.max(0.12, 1 - 1.7 * row.distance)
                 scale: 1 - 0.25 * row.distance
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 13
                 elide: Text.ElideRight
                 textFormat: Text.PlainText
             }

@@ -6,15 +6,16 @@ Item {
     id: control
 
     required property DatePickerItem picker
+    readonly property real rowHeight: Math.max(36, Theme.type(20) + 14)
     property list<real> shares: [0.34, 0.33, 0.33]
 
-    implicitHeight: 180
+    implicitHeight: 5 * rowHeight
     visible: picker.shown
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         width: parent.width
-        height: 36
+        height: control.rowHeight
         radius: 10
         color: Theme.field
     }
@@ -30,6 +31,7 @@ Item {
                 required property int index
                 picker: control.picker
                 wheelIndex: index
+                rowHeight: control.rowHeight
                 width: row.width * control.shares[index]
                 height: row.height
                 onLeftTowards: forward => dials.itemAt(index + (forward ? 1 : -1))?.forceActiveFocus(Qt.TabFocusReason)

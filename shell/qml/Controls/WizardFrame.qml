@@ -91,6 +91,7 @@ FocusScope {
             x: Theme.margin
             y: 8
             width: parent.width - 2 * Theme.margin
+            maximumLineCount: 1
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 22
             Accessible.role: Accessible.Heading

@@ -27,7 +27,7 @@ ButtonArea {
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             text: control.entry.title
-            font.pixelSize: Theme.large ? 16 : 12
+            font.pixelSize: Theme.type(Theme.large ? 16 : 12)
             font.weight: control.selected ? Font.DemiBold : Font.Medium
             color: control.tint
         }

@@ -31,9 +31,10 @@ FocusScope {
     Rectangle {
         id: header
         width: parent.width
-        height: 64
+        height: Math.max(64, heading.implicitHeight + 8)
         color: list.screen.view.fill.color
         StyledLabel {
+            id: heading
             label: list.titleLabel
             anchors.left: parent.left
             anchors.leftMargin: 20

@@ -21,7 +21,7 @@ Column {
             width: column.width
             text: modelData.text
             color: modelData.color
-            font.pixelSize: modelData.size
+            font.pixelSize: Theme.type(modelData.size)
             font.weight: modelData.weight
             horizontalAlignment: Text.AlignLeft
             style: column.onPicture ? Text.Raised : Text.Normal

@@ -5,7 +5,7 @@ import Tessivo
 ButtonArea {
     id: control
 
-    implicitHeight: 56
+    implicitHeight: Math.max(56, caption.implicitHeight + 20)
     radius: button.cornerRadius
 
     CardPaint {
@@ -17,10 +17,11 @@ ButtonArea {
         SoftShadow { radius: control.button.cornerRadius }
     }
     Text {
+        id: caption
         anchors.fill: parent
         text: control.button.title
         color: control.button.titleColor
-        font.pixelSize: control.button.size
+        font.pixelSize: Theme.type(control.button.size)
         font.weight: control.button.weight
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter

@@ -44,22 +44,12 @@ FocusScope {
             radius: options.card.cornerRadius
             fill: options.card.fill
             Accessible.role: Accessible.StaticText
-            Accessible.name: information.label.text + ", " + time.label.text
-            CardLabel {
-                id: time
-                label: options.screen.control("timeLabel") as LabelItem
-                anchors.top: parent.top
-                anchors.right: parent.right
-                anchors.margins: 24
-                width: parent.width - 48
-            }
-            CardLabel {
-                id: information
-                label: options.screen.control("eventInformationLabel") as LabelItem
-                anchors.left: parent.left
-                anchors.bottom: parent.bottom
-                anchors.margins: 24
-                width: parent.width - 48
+            Accessible.name: texts.information.text + ", " + texts.count.text
+            CardTexts {
+                id: texts
+                anchors.fill: parent
+                count: options.screen.control("timeLabel") as LabelItem
+                information: options.screen.control("eventInformationLabel") as LabelItem
             }
         }
     }

@@ -49,7 +49,10 @@ CollectionCell {
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignLeft
-        fontSizeMode: Text.HorizontalFit
+        height: parent.height - 8
+        verticalAlignment: Text.AlignVCenter
+        wrapMode: Theme.largeText ? Text.WordWrap : Text.NoWrap
+        fontSizeMode: Text.Fit
         minimumPixelSize: 12
         Accessible.ignored: true
     }
@@ -62,6 +65,9 @@ CollectionCell {
         sourceComponent: StyledLabel {
             label: row.cell.control("mainText") as LabelItem
             width: Math.min(implicitWidth, row.width * 0.42)
+            maximumLineCount: 1
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 12
             horizontalAlignment: Text.AlignRight
             Accessible.ignored: true
         }

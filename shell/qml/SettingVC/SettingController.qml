@@ -23,10 +23,14 @@ FocusScope {
     Rectangle {
         id: bar
         width: parent.width
-        height: 56
+        height: Math.max(56, heading.implicitHeight + 8)
         color: "white"
         StyledLabel {
+            id: heading
             label: settings.screen.control("mainLabel") as LabelItem
+            maximumLineCount: 1
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: label.size
             anchors.left: parent.left
             anchors.leftMargin: 20
             anchors.right: done.left

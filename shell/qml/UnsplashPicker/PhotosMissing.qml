@@ -27,6 +27,8 @@ Rectangle {
         StyledLabel {
             label: missing.screen.control("emptyTitleLabel") as LabelItem
             width: parent.width
+            fontSizeMode: Text.HorizontalFit // no word in two pieces
+            minimumPixelSize: label.size
             Accessible.role: Accessible.Heading
         }
         StyledLabel {

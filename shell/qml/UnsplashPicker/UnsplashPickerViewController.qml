@@ -54,7 +54,7 @@ FocusScope {
     Rectangle {
         id: header
         width: parent.width
-        height: picker.searchBar.placed ? 112 : 56
+        height: picker.searchBar.placed ? search.y + search.height + 12 : 56
         color: picker.screen.view.fill.color
 
         MouseArea { anchors.fill: parent }
@@ -79,6 +79,7 @@ FocusScope {
             anchors.verticalCenter: cancel.verticalCenter
         }
         SearchField {
+            id: search
             input: picker.searchBar as TextInputItem
             clearButton: picker.screen.control("clearButton") as ButtonItem
             visible: picker.searchBar.placed

@@ -28,7 +28,7 @@ public:
     QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
         const auto found = values.find(message.arguments().value(1).toString().toStdString());
-        const auto twice = [](bool value) {
+        const auto twice = [](const QVariant& value) {
             return QVariant::fromValue(QDBusVariant(QVariant::fromValue(QDBusVariant(value))));
         };
         return connection.send(found == values.end()
@@ -36,7 +36,7 @@ public:
                                    : message.createReply(twice(found->second)));
     }
 
-    void changeSetting(const char* key, bool value) const {
+    void changeSetting(const char* key, const QVariant& value) const {
         auto signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/portal/desktop"),
                                                  QStringLiteral("org.freedesktop.portal.Settings"),
                                                  QStringLiteral("SettingChanged"));
@@ -55,7 +55,7 @@ public:
     }
 
     QDBusConnection bus;
-    std::map<std::string, bool> values;
+    std::map<std::string, QVariant> values;
 };
 
 TEST(DesktopPreferencesTest, AreReadAtTheStartAndFollowed) {
@@ -64,7 +64,10 @@ TEST(DesktopPreferencesTest, AreReadAtTheStartAndFollowed) {
     const PrivateSession session;
     const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     StandInDesktop desktop(address);
-    desktop.values = {{"enable-animations", false}, {"high-contrast", true}, {"ScreenReaderEnabled", true}};
+    desktop.values = {{"enable-animations", false},
+                      {"high-contrast", true},
+                      {"ScreenReaderEnabled", true},
+                      {"text-scaling-factor", 1.5}};
 
     UserPreferences now;
     const auto become = [&](const UserPreferences& wanted) {
@@ -79,12 +82,15 @@ TEST(DesktopPreferencesTest, AreReadAtTheStartAndFollowed) {
             QDBusConnection::connectToBus(address, QStringLiteral("preferences of the test")));
         preferences.onChange([&](const UserPreferences& changed) { now = changed; });
         EXPECT_EQ(now, UserPreferences()) << "nobody waits for the bus";
-        EXPECT_TRUE(become({.reducedMotion = true, .highContrast = true, .screenReader = true}));
+        EXPECT_TRUE(
+            become({.reducedMotion = true, .highContrast = true, .screenReader = true, .textScale = 1.5}));
         desktop.changeSetting("enable-animations", true);
         desktop.changeSetting("color-scheme", true);
-        EXPECT_TRUE(become({.reducedMotion = false, .highContrast = true, .screenReader = true}));
+        desktop.changeSetting("text-scaling-factor", 300.0);
+        EXPECT_TRUE(become({.highContrast = true, .screenReader = true, .textScale = 2}));
         desktop.changeStatus(false);
         desktop.changeSetting("high-contrast", false);
+        desktop.changeSetting("text-scaling-factor", 1.0);
         EXPECT_TRUE(become({}));
     }
     QDBusConnection::disconnectFromBus(QStringLiteral("preferences of the test"));
