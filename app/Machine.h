@@ -30,6 +30,7 @@
 #include "sqlite/SqliteNotificationQueue.h"
 #include "sqlite/SqliteSavedSettings.h"
 #include "standard/FolderDocumentFiles.h"
+#include "standard/GregorianCalendar.h"
 #include "standard/LinuxDevice.h"
 #include "standard/RandomUuids.h"
 #include "standard/ThreadWorkQueue.h"
@@ -91,7 +92,7 @@ private:
     QtMainQueue mainQueue_;
     QtFrameClock frameClock_;
     IcuCalendar calendar_;
-    IcuCalendar queueCalendar_{freedesktop::queueLocale};
+    GregorianCalendar queueCalendar_; ///< the helper's
     IcuDateFormatters dateFormatters_;
     IcuTextCounting textCounting_;
     QtTextMeasuring textMeasuring_;

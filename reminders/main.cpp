@@ -8,8 +8,8 @@
 #include "freedesktop/ReminderService.h"
 #include "freedesktop/SessionBus.h"
 #include "freedesktop/TimerfdAlarm.h"
-#include "icu/IcuCalendar.h"
 #include "sqlite/SqliteNotificationQueue.h"
+#include "standard/GregorianCalendar.h"
 #include "standard/StandardConsole.h"
 #include "standard/SystemClock.h"
 
@@ -37,7 +37,7 @@ Ending run(const std::filesystem::path& program, Console& console) {
     }
 
     const SystemClock clock;
-    const IcuCalendar calendar(freedesktop::queueLocale);
+    const GregorianCalendar calendar;
     sqlite::SqliteNotificationQueue queue(freedesktop::reminderQueueFile(), console);
     freedesktop::DesktopNotificationDisplay display(bus.value());
     freedesktop::TimerfdAlarm alarm(loop.value(), console);

@@ -8,10 +8,8 @@ namespace tessivo::freedesktop {
 /// exist.
 [[nodiscard]] std::filesystem::path dataFolder();
 
-/// The queue of reminders in it, which the program and the helper share.
+/// The queue of reminders in it, which the program and the helper share. Its days are Gregorian for
+/// everybody.
 [[nodiscard]] std::filesystem::path reminderQueueFile();
-
-/// The locale whose calendar the days in that queue are of: the Gregorian, for everybody.
-inline constexpr const char* queueLocale = "en_US";
 
 } // namespace tessivo::freedesktop

@@ -183,7 +183,7 @@ TEST_F(RemindersEndToEndTest, ANewTimeZoneOfTheDeviceIsHeardOf) {
     helper = Process(
         {"unshare", "--mount", "sh", "-c", "mount --bind \"$0\" /etc && exec \"$1\"", etc, TESSIVO_HELPER});
     ASSERT_TRUE(eventually([] { return PrivateSession::isOnBus(remindersName); }));
-    const IcuCalendar inUtc(queueLocale, "UTC");
+    const IcuCalendar inUtc("en_US", "UTC");
     const auto inTwoHours = inUtc.components(clock.now() + Seconds(7200));
     sqlite::SqliteNotificationQueue other(reminderQueueFile(), console);
     ASSERT_EQ(other.add({"a", {"Landed", "in Tokyo", true}, {inTwoHours, false}}), std::nullopt);
