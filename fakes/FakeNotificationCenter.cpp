@@ -34,10 +34,11 @@ void FakeNotificationCenter::getNotificationSettings(std::function<void(Authoriz
 }
 
 void FakeNotificationCenter::getPendingNotificationRequests(
-    std::function<void(const std::vector<NotificationRequest>&)> completion) {
+    std::function<void(const PendingRequests&)> completion) {
     waiting_.emplace_back([this, completion = std::move(completion)] {
-        const auto snapshot = pending_;
-        completion(snapshot);
+        if (!listed_)
+            listed_ = std::make_shared<const std::vector<NotificationRequest>>(pending_);
+        completion(PendingRequests(listed_));
     });
 }
 
@@ -66,6 +67,7 @@ void FakeNotificationCenter::runNext() {
 }
 
 void FakeNotificationCenter::erase(const std::string& identifier) {
+    listed_.reset();
     std::erase_if(pending_, [&](const auto& request) { return request.identifier == identifier; });
 }
 

@@ -18,8 +18,7 @@ public:
     void requestAuthorization(int options,
                               std::function<void(bool granted, Outcome error)> completion) override;
     void getNotificationSettings(std::function<void(AuthorizationStatus)> completion) override;
-    void getPendingNotificationRequests(
-        std::function<void(const std::vector<NotificationRequest>&)> completion) override;
+    void getPendingNotificationRequests(std::function<void(const PendingRequests&)> completion) override;
     void add(NotificationRequest request, std::function<void(Outcome error)> completion) override;
     void removePendingNotificationRequests(std::vector<std::string> identifiers) override;
 
@@ -61,6 +60,7 @@ private:
 
     std::deque<std::function<void()>> waiting_;
     std::vector<NotificationRequest> pending_;
+    PendingRequests listed_;                      ///< null when it is out of date
     std::vector<AuthorizationCompletion> asking_; ///< who waits for the user, while the question is open
     AuthorizationStatus status_;
     std::optional<bool> readyAnswer_;

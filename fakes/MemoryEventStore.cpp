@@ -41,17 +41,12 @@ std::optional<LoadFailure> MemoryEventStore::load() {
     return std::nullopt;
 }
 
-Outcome MemoryEventStore::fetch(std::optional<std::string_view> predicate, EventRowReceiver& rows) {
+Outcome MemoryEventStore::fetch(const std::optional<Uuid>& id, EventRowReceiver& rows) {
+    ++fetches_;
     if (!loaded_)
         return notLoaded();
     if (fetchError_)
         return std::exchange(fetchError_, std::nullopt);
-    std::optional<Uuid> id;
-    if (predicate) {
-        id = idOfPredicate(*predicate);
-        if (!id)
-            return Error{"MemoryEventStore", 2, "the predicate cannot be read: " + std::string(*predicate)};
-    }
     for (const auto& [key, values] : rows_) {
         if (id && values.id != id)
             continue;
@@ -59,6 +54,10 @@ Outcome MemoryEventStore::fetch(std::optional<std::string_view> predicate, Event
             *record = values;
     }
     return std::nullopt;
+}
+
+std::optional<StoreState> MemoryEventStore::state() {
+    return loaded_ ? std::optional(StoreState{saves_, 0}) : std::nullopt;
 }
 
 Outcome MemoryEventStore::save(std::span<EventChange> changes) {

@@ -11,7 +11,8 @@ namespace tessivo::fakes {
 class MemoryEventStore final : public EventStore {
 public:
     std::optional<LoadFailure> load() override;
-    Outcome fetch(std::optional<std::string_view> predicate, EventRowReceiver& rows) override;
+    Outcome fetch(const std::optional<Uuid>& id, EventRowReceiver& rows) override;
+    std::optional<StoreState> state() override;
     Outcome save(std::span<EventChange> changes) override;
 
     /// The next call of that kind fails with this and does nothing; the ones behind it succeed again.
@@ -21,6 +22,7 @@ public:
 
     [[nodiscard]] int loads() const { return loads_; }
     [[nodiscard]] int saves() const { return saves_; }
+    [[nodiscard]] int fetches() const { return fetches_; }
 
     /// The rows as another program would see them on disk.
     [[nodiscard]] const std::map<RowKey, EventRecord>& rows() const { return rows_; }
@@ -31,6 +33,7 @@ private:
     bool loaded_ = false;
     int loads_ = 0; ///< attempts, failed ones too
     int saves_ = 0; ///< successful ones
+    int fetches_ = 0;
     std::optional<LoadFailure> loadFailure_;
     Outcome fetchError_;
     Outcome saveError_;

@@ -17,13 +17,13 @@ namespace {
 /// moment. A strict calendar in the zone would refuse a day without a midnight.
 class IcuFormat final {
 public:
-    IcuFormat(std::string_view pattern, const icu::Locale& locale,
+    IcuFormat(std::string_view pattern, const std::string& locale,
               std::shared_ptr<const icu::BasicTimeZone> zone)
-        : zone_(std::move(zone)) {
+        : locale_(locale), zone_(std::move(zone)) {
         UErrorCode status = U_ZERO_ERROR;
         const auto letters =
             icu::UnicodeString::fromUTF8(icu::StringPiece(pattern.data(), static_cast<int>(pattern.size())));
-        format_ = std::make_unique<icu::SimpleDateFormat>(letters, locale, status);
+        format_ = std::make_unique<icu::SimpleDateFormat>(letters, icu::Locale(locale.c_str()), status);
         icu_adapter::require(status, "date formats");
         format_->setLenient(false);
         format_->setTimeZone(*zone_);
@@ -31,6 +31,7 @@ public:
         reading_->setTimeZone(*icu::TimeZone::getGMT());
     }
 
+    [[nodiscard]] const std::string& locale() const { return locale_; }
     [[nodiscard]] const icu::BasicTimeZone& zone() const { return *zone_; }
 
     std::string string(Instant instant) {
@@ -58,6 +59,7 @@ public:
     }
 
 private:
+    const std::string locale_;
     std::shared_ptr<const icu::BasicTimeZone> zone_;
     std::unique_ptr<icu::SimpleDateFormat> format_;
     std::unique_ptr<icu::Calendar> reading_;
@@ -67,6 +69,8 @@ private:
 class IcuDateFormatter final : public DateFormatter {
 public:
     explicit IcuDateFormatter(std::shared_ptr<IcuFormat> format) : format_(std::move(format)) {}
+
+    [[nodiscard]] const IcuFormat& format() const { return *format_; }
 
     std::string string(Instant instant) const override { return format_->string(instant); }
     std::optional<Instant> date(std::string_view text) const override { return format_->date(text); }
@@ -87,7 +91,7 @@ public:
         auto& known = formats_[{locale, std::string(pattern)}];
         auto format = known.lock();
         if (!format || &format->zone() != zone.get()) {
-            format = std::make_shared<IcuFormat>(pattern, icu::Locale(locale.c_str()), zone);
+            format = std::make_shared<IcuFormat>(pattern, locale, zone);
             known = format;
         }
         return format;
@@ -106,8 +110,16 @@ IcuDateFormatters::IcuDateFormatters(std::string locale, const std::string& time
 IcuDateFormatters::~IcuDateFormatters() = default;
 
 std::unique_ptr<DateFormatter> IcuDateFormatters::make(std::string_view pattern) const {
-    const std::string name = locale_.empty() ? deviceLocale(LocalePurpose::Dates) : locale_;
-    return std::make_unique<IcuDateFormatter>(formats_->format(name, pattern, zone_.current()));
+    return std::make_unique<IcuDateFormatter>(formats_->format(localeNow(), pattern, zone_.current()));
+}
+
+bool IcuDateFormatters::isCurrent(const DateFormatter& formatter) const {
+    const auto& format = static_cast<const IcuDateFormatter&>(formatter).format();
+    return &format.zone() == zone_.current().get() && format.locale() == localeNow();
+}
+
+std::string IcuDateFormatters::localeNow() const {
+    return locale_.empty() ? deviceLocale(LocalePurpose::Dates) : locale_;
 }
 
 } // namespace tessivo

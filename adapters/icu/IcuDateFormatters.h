@@ -20,9 +20,12 @@ public:
     ~IcuDateFormatters() override;
 
     std::unique_ptr<DateFormatter> make(std::string_view pattern) const override;
+    bool isCurrent(const DateFormatter& formatter) const override;
 
 private:
     class Formats;
+
+    [[nodiscard]] std::string localeNow() const;
 
     std::string locale_; ///< empty: the device's
     DeviceZone zone_;

@@ -89,6 +89,7 @@ public:
         }
         if (auto error = transaction.value().commit())
             return error;
+        ++saves_;
         rememberFile();
         auto key = keys.begin();
         for (EventChange& change : changes) {
@@ -96,6 +97,11 @@ public:
                 change.key = *key++;
         }
         return std::nullopt;
+    }
+
+    std::optional<StoreState> state() {
+        const auto foreign = foreignChanges();
+        return foreign ? std::optional(StoreState{saves_, *foreign}) : std::nullopt;
     }
 
 private:
@@ -173,12 +179,13 @@ private:
     }
 
     /// Rises with each change that came through another SQLite connection, which is welcome.
-    std::int64_t foreignChanges() {
+    std::optional<std::int64_t> foreignChanges() {
         auto prepared = statement("PRAGMA data_version");
         if (!prepared)
-            return -1;
+            return std::nullopt;
         const ResetOnExit reset(*prepared.value());
-        return prepared.value()->step() == Step::Row ? prepared.value()->integer(0) : -1;
+        return prepared.value()->step() == Step::Row ? std::optional(prepared.value()->integer(0))
+                                                     : std::nullopt;
     }
 
     [[nodiscard]] Error lost(const char* what) const {
@@ -193,7 +200,8 @@ private:
     std::map<std::string, Statement> statements_; ///< by text
     std::optional<FileState> known_;              ///< as this connection left it
     std::optional<FileState> knownLog_;
-    std::int64_t knownForeignChanges_ = 0;
+    std::optional<std::int64_t> knownForeignChanges_;
+    std::int64_t saves_ = 0;
 };
 
 SqliteEventStore::SqliteEventStore(std::filesystem::path file, DateLocale dateLocale)
@@ -217,16 +225,14 @@ LoadFailure SqliteEventStore::failure(const Error& error) const {
     return {error, {{"code", std::to_string(error.code)}, {"file", file_.string()}}};
 }
 
-Outcome SqliteEventStore::fetch(std::optional<std::string_view> predicate, EventRowReceiver& rows) {
+Outcome SqliteEventStore::fetch(const std::optional<Uuid>& id, EventRowReceiver& rows) {
     if (!open_)
         return Error{"SQLite", SQLITE_MISUSE, "the store is not loaded"};
-    std::optional<Uuid> id;
-    if (predicate) {
-        id = idOfPredicate(*predicate);
-        if (!id)
-            return Error{"SQLite", SQLITE_ERROR, "the predicate cannot be read: " + std::string(*predicate)};
-    }
     return open_->fetch(id, rows);
+}
+
+std::optional<StoreState> SqliteEventStore::state() {
+    return open_ ? open_->state() : std::nullopt;
 }
 
 Outcome SqliteEventStore::save(std::span<EventChange> changes) {

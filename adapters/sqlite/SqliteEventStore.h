@@ -21,7 +21,8 @@ public:
     ~SqliteEventStore() override;
 
     std::optional<LoadFailure> load() override;
-    Outcome fetch(std::optional<std::string_view> predicate, EventRowReceiver& rows) override;
+    Outcome fetch(const std::optional<Uuid>& id, EventRowReceiver& rows) override;
+    std::optional<StoreState> state() override;
     Outcome save(std::span<EventChange> changes) override;
 
 private:

@@ -14,30 +14,20 @@ std::string predicateOf(const Uuid& id) {
     return "id = \"" + id.uuidString() + "\"";
 }
 
-template <class Value>
-Value required(const std::optional<Value>& value, const char* attribute, Console& console) {
-    if (!value)
-        console.stopProgram(std::string("The event to be added has no ") + attribute);
-    return *value;
-}
-
-EventRecord recordOf(const EventItem& item, Console& console) {
-    EventRecord record;
-    record.title = item.title;
-    record.dateEvent = item.dateEvent;
-    record.timeEvent = item.timeEvent;
-    record.repEvent = required(item.repEvent, "repEvent", console);
-    record.alertReminder = required(item.alertReminder, "alertReminder", console);
-    record.repReminder = required(item.repReminder, "repReminder", console);
-    record.remMess = item.remMess;
-    record.timeFormat = required(item.timeFormat, "timeFormat", console);
-    record.color = required(item.color, "color", console);
-    record.gradient = required(item.gradient, "gradient", console);
-    record.photoPath = item.photoPath;
-    record.unsplashPath = item.unsplashPath;
-    record.eventType = required(item.eventType, "eventType", console);
-    record.id = item.id;
-    return record;
+/// The first of the attributes that a row cannot do without and the draft lacks; null for none.
+const char* missingIn(const EventItem& item) {
+    const std::pair<bool, const char*> required[] = {{item.repEvent.has_value(), "repEvent"},
+                                                     {item.alertReminder.has_value(), "alertReminder"},
+                                                     {item.repReminder.has_value(), "repReminder"},
+                                                     {item.timeFormat.has_value(), "timeFormat"},
+                                                     {item.color.has_value(), "color"},
+                                                     {item.gradient.has_value(), "gradient"},
+                                                     {item.eventType.has_value(), "eventType"}};
+    for (const auto& [isThere, attribute] : required) {
+        if (!isThere)
+            return attribute;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -57,7 +47,9 @@ EventContext& CoreDataStack::viewContext() {
 }
 
 void CoreDataStack::addEvent(const EventItem& item) {
-    save(viewContext().insert(recordOf(item, console_)));
+    if (const char* attribute = missingIn(item))
+        console_.stopProgram(std::string("The event to be added has no ") + attribute);
+    save(viewContext().insert(recordOf(item)));
 }
 
 void CoreDataStack::updateTitle(const Uuid& id, const std::string& title) {

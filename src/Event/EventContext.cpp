@@ -2,9 +2,25 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 #include <utility>
 
 namespace tessivo {
+
+namespace {
+
+/// The identity that a predicate text asks for; empty for a text that is no such predicate.
+std::optional<Uuid> idOfPredicate(std::string_view predicate) {
+    constexpr std::string_view prefix = "id = \"";
+    constexpr std::string_view suffix = "\"";
+    if (!predicate.starts_with(prefix) || predicate.size() <= prefix.size() || !predicate.ends_with(suffix))
+        return std::nullopt;
+    predicate.remove_prefix(prefix.size());
+    predicate.remove_suffix(suffix.size());
+    return Uuid::fromString(predicate);
+}
+
+} // namespace
 
 /// Puts the rows of a fetch into the objects of the context and gathers the answer.
 class EventContext::Refresh : public EventRowReceiver {
@@ -14,11 +30,12 @@ public:
     EventRows take() { return std::move(found_); }
 
 protected:
-    EventRecord* admit(const std::shared_ptr<EventCoreData>& event) {
+    EventRecord* admit(std::shared_ptr<EventCoreData> event) {
         if (event->deleted_)
             return nullptr;
-        found_.push_back(event);
-        return event->changed_.any() ? nullptr : &event->values_;
+        EventRecord* values = event->changed_.any() ? nullptr : &event->values_;
+        found_.push_back(std::move(event));
+        return values;
     }
 
     EventContext& context_;
@@ -36,36 +53,39 @@ public:
     }
 
     EventRecord* receive(RowKey key) override {
-        while (next_ < known_.size() && known_[next_]->key_ < key)
-            keepIfChanged(std::move(known_[next_++]));
-        if (next_ < known_.size() && known_[next_]->key_ == key)
-            context_.rows_.push_back(std::move(known_[next_++]));
-        else
-            context_.rows_.push_back(context_.make(key));
-        return admit(context_.rows_.back());
+        while (next_ < known_.size() && known_[next_].key < key)
+            keepIfChanged(known_[next_++]);
+        EventCoreData* object = nullptr;
+        if (next_ < known_.size() && known_[next_].key == key)
+            object = known_[next_++].object;
+        auto event = object != nullptr ? object->shared_from_this() : context_.make(key);
+        context_.rows_.push_back({key, event.get()});
+        return admit(std::move(event));
     }
 
     /// The store has no more rows than those received.
     void end() {
         while (next_ < known_.size())
-            keepIfChanged(std::move(known_[next_++]));
+            keepIfChanged(known_[next_++]);
     }
 
     /// The store failed: what lies behind the rows received is not known.
     void breakOff() {
         while (next_ < known_.size())
-            context_.rows_.push_back(std::move(known_[next_++]));
+            context_.rows_.push_back(known_[next_++]);
     }
 
 private:
-    void keepIfChanged(std::shared_ptr<EventCoreData> event) {
-        if (event->changed_.any() || event->deleted_)
-            context_.rows_.push_back(std::move(event));
+    void keepIfChanged(const Known& known) {
+        if (known.object == nullptr)
+            return;
+        if (known.object->changed_.any() || known.object->deleted_)
+            context_.rows_.push_back(known);
         else
-            release(*event);
+            release(*known.object);
     }
 
-    EventRows known_;
+    std::vector<Known> known_;
     std::size_t next_ = 0;
 };
 
@@ -76,42 +96,114 @@ public:
 
     EventRecord* receive(RowKey key) override {
         auto place = context_.position(key);
-        if (place == context_.rows_.end() || (*place)->key_ != key)
-            place = context_.rows_.insert(place, context_.make(key));
-        return admit(*place);
+        if (place == context_.rows_.end() || place->key != key)
+            place = context_.rows_.insert(place, {key, nullptr});
+        auto event = place->object != nullptr ? place->object->shared_from_this() : context_.make(key);
+        place->object = event.get();
+        return admit(std::move(event));
     }
 };
 
+/// All rows one after the other: one that has no object passes through a record that all such share.
+class EventContext::Visit final : public EventRowReceiver {
+public:
+    Visit(EventContext& context, const std::function<void(const EventRecord&)>& visit)
+        : context_(context), visit_(visit) {}
+
+    EventRecord* receive(RowKey key) override {
+        passOn();
+        while (next_ < context_.rows_.size() && context_.rows_[next_].key < key)
+            ++next_;
+        const bool isKnown = next_ < context_.rows_.size() && context_.rows_[next_].key == key;
+        EventCoreData* object = isKnown ? context_.rows_[next_].object : nullptr;
+        if (object == nullptr) {
+            current_ = &shared_;
+            return &shared_;
+        }
+        if (object->deleted_)
+            return nullptr;
+        current_ = &object->values_;
+        return object->changed_.any() ? nullptr : &object->values_;
+    }
+
+    /// The record that was handed out last is filled by now.
+    void passOn() {
+        if (const auto* record = std::exchange(current_, nullptr))
+            visit_(*record);
+    }
+
+private:
+    EventContext& context_;
+    const std::function<void(const EventRecord&)>& visit_;
+    EventRecord shared_;
+    const EventRecord* current_ = nullptr;
+    std::size_t next_ = 0;
+};
+
 EventContext::~EventContext() {
-    for (const auto& event : rows_)
-        release(*event);
+    for (const Known& known : rows_) {
+        if (known.object != nullptr)
+            release(*known.object);
+    }
     for (const auto& event : inserted_)
         release(*event);
 }
 
 Result<EventRows> EventContext::fetch(std::optional<std::string_view> predicate) {
-    if (predicate)
-        return fetchSome(*predicate);
+    if (!predicate)
+        return fetchAll();
+    if (const auto id = idOfPredicate(*predicate))
+        return fetchSome(*id);
+    return Error{"EventContext", 1, "the predicate cannot be read: " + std::string(*predicate)};
+}
+
+Result<EventRows> EventContext::fetchAll() {
+    if (auto rows = unchangedRows())
+        return *std::move(rows);
+    const auto state = store_.state();
+    fetched_.reset();
     WholeRefresh rows(*this);
     if (auto error = store_.fetch(std::nullopt, rows)) {
         rows.breakOff();
         return *std::move(error);
     }
     rows.end();
+    fetched_ = state;
     auto found = rows.take();
     found.insert(found.end(), inserted_.begin(), inserted_.end());
     return found;
 }
 
-Result<EventRows> EventContext::fetchSome(std::string_view predicate) {
+/// The rows of the last fetch, as long as all are held and none has changed anywhere.
+std::optional<EventRows> EventContext::unchangedRows() {
+    const auto isGone = [](const Known& known) { return known.object == nullptr; };
+    if (!fetched_ || hasChanges() || std::ranges::any_of(rows_, isGone) || store_.state() != fetched_)
+        return std::nullopt;
+    EventRows rows;
+    rows.reserve(rows_.size());
+    for (const Known& known : rows_)
+        rows.push_back(known.object->shared_from_this());
+    return rows;
+}
+
+Result<EventRows> EventContext::fetchSome(const Uuid& id) {
     PartRefresh rows(*this);
-    if (auto error = store_.fetch(predicate, rows))
+    if (auto error = store_.fetch(id, rows))
         return *std::move(error);
     auto found = rows.take();
-    const auto id = idOfPredicate(predicate);
     std::ranges::copy_if(inserted_, std::back_inserter(found),
                          [&](const auto& event) { return event->id() == id; });
     return found;
+}
+
+Outcome EventContext::visit(const std::function<void(const EventRecord&)>& visit) {
+    Visit rows(*this, visit);
+    if (auto error = store_.fetch(std::nullopt, rows))
+        return error;
+    rows.passOn();
+    for (const auto& event : inserted_)
+        visit(event->values());
+    return std::nullopt;
 }
 
 std::shared_ptr<EventCoreData> EventContext::insert(EventRecord values) {
@@ -130,7 +222,7 @@ void EventContext::deleteObject(EventCoreData& event) {
         return;
     }
     event.deleted_ = true;
-    deleted_.push_back(*position(event.key_));
+    deleted_.push_back(event.shared_from_this());
 }
 
 Outcome EventContext::save() {
@@ -138,7 +230,7 @@ Outcome EventContext::save() {
     changes.reserve(inserted_.size() + changed_.size() + deleted_.size());
     for (const auto& event : inserted_)
         changes.push_back({EventChange::Kind::Insert, 0, &event->values_, {}});
-    for (const EventCoreData* event : changed_) {
+    for (const auto& event : changed_) {
         if (!event->deleted_)
             changes.push_back({EventChange::Kind::Update, event->key_, &event->values_, event->changed_});
     }
@@ -153,14 +245,14 @@ Outcome EventContext::save() {
 }
 
 void EventContext::settle(const std::vector<EventChange>& changes) {
-    for (EventCoreData* event : changed_)
+    for (const auto& event : changed_)
         event->changed_.reset();
     changed_.clear();
     for (std::size_t index = 0; index < inserted_.size(); ++index) {
         inserted_[index]->key_ = changes[index].key;
         inserted_[index]->changed_.reset();
+        rows_.push_back({changes[index].key, inserted_[index].get()});
     }
-    rows_.insert(rows_.end(), inserted_.begin(), inserted_.end());
     inserted_.clear();
     for (const auto& event : deleted_) {
         rows_.erase(position(event->key_));
@@ -171,7 +263,13 @@ void EventContext::settle(const std::vector<EventChange>& changes) {
 
 void EventContext::willChange(EventCoreData& event) {
     if (event.key_ != 0)
-        changed_.push_back(&event);
+        changed_.push_back(event.shared_from_this());
+}
+
+void EventContext::forget(const EventCoreData& event) {
+    const auto place = position(event.key_);
+    if (place != rows_.end() && place->object == &event)
+        place->object = nullptr;
 }
 
 std::shared_ptr<EventCoreData> EventContext::make(RowKey key) {
@@ -181,8 +279,8 @@ std::shared_ptr<EventCoreData> EventContext::make(RowKey key) {
     return event;
 }
 
-EventRows::iterator EventContext::position(RowKey key) {
-    return std::ranges::lower_bound(rows_, key, {}, [](const auto& event) { return event->key_; });
+std::vector<EventContext::Known>::iterator EventContext::position(RowKey key) {
+    return std::ranges::lower_bound(rows_, key, {}, &Known::key);
 }
 
 void EventContext::release(EventCoreData& event) {

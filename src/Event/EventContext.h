@@ -3,6 +3,7 @@
 #include "Event/EventCoreData.h"
 #include "Ports/EventStore.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -19,6 +20,8 @@ using EventRows = std::vector<std::shared_ptr<EventCoreData>>;
 /// of this context. Inserts and deletes that are not saved yet show in this context's fetches and in no
 /// other's. What a failed save could not write stays unsaved and goes with the next save.
 ///
+/// The context keeps alive the objects with unsaved changes only; a row that nobody holds costs nothing.
+///
 /// Main thread only. The store must outlive the context; objects may outlive both.
 class EventContext final {
 public:
@@ -28,8 +31,16 @@ public:
     ~EventContext();
 
     /// The rows that match the predicate, or all: first those of the store in its order, then unsaved
-    /// inserts.
+    /// inserts. A predicate is the text `id = "<UUID>"`; another text is an error.
     [[nodiscard]] Result<EventRows> fetch(std::optional<std::string_view> predicate = std::nullopt);
+
+    /// Calls `visit` with the values of each row that `fetch` would give, in that order, and makes no
+    /// objects. On an error it has been called for some of them.
+    [[nodiscard]] Outcome visit(const std::function<void(const EventRecord&)>& visit);
+
+    [[nodiscard]] bool hasChanges() const {
+        return !inserted_.empty() || !changed_.empty() || !deleted_.empty();
+    }
 
     /// A new row with these values.
     std::shared_ptr<EventCoreData> insert(EventRecord values);
@@ -45,20 +56,32 @@ private:
     class Refresh;
     class WholeRefresh;
     class PartRefresh;
+    class Visit;
 
-    [[nodiscard]] Result<EventRows> fetchSome(std::string_view predicate);
+    struct Known {
+        RowKey key;
+        EventCoreData* object; ///< null when it has gone
+    };
+
+    [[nodiscard]] Result<EventRows> fetchAll();
+    [[nodiscard]] std::optional<EventRows> unchangedRows();
+    [[nodiscard]] Result<EventRows> fetchSome(const Uuid& id);
     /// Called by an object before its first unsaved change.
     void willChange(EventCoreData& event);
+    /// Called by an object that goes.
+    void forget(const EventCoreData& event);
     [[nodiscard]] std::shared_ptr<EventCoreData> make(RowKey key);
-    [[nodiscard]] EventRows::iterator position(RowKey key);
+    [[nodiscard]] std::vector<Known>::iterator position(RowKey key);
     void settle(const std::vector<EventChange>& changes);
     static void release(EventCoreData& event);
 
     EventStore& store_;
-    EventRows rows_; ///< all objects that have a row, by rising key
+    std::vector<Known> rows_; ///< all objects that have a row, by rising key
     EventRows inserted_;
-    EventRows deleted_;                   ///< still in rows_ too
-    std::vector<EventCoreData*> changed_; ///< all of them in rows_
+    EventRows deleted_; ///< still in rows_ too
+    EventRows changed_; ///< all of them in rows_
+    /// Of the store when all rows were fetched last.
+    std::optional<StoreState> fetched_;
 };
 
 } // namespace tessivo

@@ -4,6 +4,11 @@
 
 namespace tessivo {
 
+EventCoreData::~EventCoreData() {
+    if (context_ != nullptr)
+        context_->forget(*this);
+}
+
 template <class Value>
 void EventCoreData::write(EventAttribute attribute, Value EventRecord::*field, Value value) {
     values_.*field = std::move(value);

@@ -3,6 +3,7 @@
 #include "Ports/EventStore.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -17,12 +18,15 @@ class EventContext;
 ///
 /// At most one background is effective: `color`, else `gradient`, each unless `NO_VALUE`, else `photoPath`,
 /// else `unsplashPath`. An event without `timeEvent` lasts all day.
-class EventCoreData final {
+class EventCoreData final : public std::enable_shared_from_this<EventCoreData> {
 public:
     /// An event of no context.
     explicit EventCoreData(EventRecord values = {}) : values_(std::move(values)) {}
     EventCoreData(const EventCoreData&) = delete;
     EventCoreData& operator=(const EventCoreData&) = delete;
+    ~EventCoreData();
+
+    [[nodiscard]] const EventRecord& values() const { return values_; }
 
     [[nodiscard]] const std::optional<std::string>& title() const { return values_.title; }
     /// The date as text, "dd MMMM yyyy" in the language of the day on which it was written.
@@ -69,9 +73,8 @@ private:
 
     EventRecord values_;
     EventAttributes changed_;
-    RowKey key_ = 0; ///< 0 until the first save
-    EventContext* context_ =
-        nullptr; ///< which outlives this pointer: it takes it back when it lets go of the object
+    RowKey key_ = 0;                  ///< 0 until the first save
+    EventContext* context_ = nullptr; ///< null from when the context lets go of the object
     bool deleted_ = false;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Ports/Uuid.h"
+#include "Ports/EventStore.h"
 
 #include <cstdint>
 #include <optional>
@@ -31,5 +31,9 @@ struct EventItem {
 
     friend bool operator==(const EventItem&, const EventItem&) = default;
 };
+
+/// The row that the draft becomes. Of what has not been chosen yet, reminders and backgrounds are off and the
+/// rest is 0.
+[[nodiscard]] EventRecord recordOf(const EventItem& item);
 
 } // namespace tessivo

@@ -1,14 +1,15 @@
 #include "Event/FetchEventDataType.h"
 
 #include "Event/CoreDataStack.h"
-#include "Event/EventCoreData.h"
 #include "Event/EventDate.h"
 #include "Event/EventItem.h"
+#include "Event/PersistentContainer.h"
 #include "Event/ReminderScheduler.h"
 #include "Ports/Calendar.h"
 #include "Ports/Clock.h"
 #include "Ports/DateFormatter.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <utility>
@@ -30,6 +31,18 @@ constexpr std::array<Step, 5> steps{{{CalendarUnit::Day, 1},
 
 } // namespace
 
+struct FetchEventDataType::Formatters {
+    std::unique_ptr<DateFormatter> full;
+    std::unique_ptr<DateFormatter> date;
+};
+
+struct FetchEventDataType::Seen {
+    StoreState state;
+    Instant nextMoment; ///< of the event ahead that comes first
+    Formatters formatters;
+    std::shared_ptr<const PastReminders> past;
+};
+
 FetchEventDataType::FetchEventDataType(EventStore& store, CoreDataStack& shared, ReminderScheduler& reminders,
                                        const DateFormatters& formatters, const Calendar& calendar,
                                        const Clock& clock, Console& console)
@@ -41,56 +54,81 @@ FetchEventDataType::FetchEventDataType(EventStore& store, CoreDataStack& shared,
       clock_(clock),
       console_(console) {}
 
-void FetchEventDataType::refreshEvents() {
-    const auto fullFormatter = formatters_.make(fullFormat);
-    const auto dateFormatter = formatters_.make(dateFormat);
-    ReminderPass pass(*fullFormatter, *dateFormatter, clock_.now());
+FetchEventDataType::~FetchEventDataType() = default;
 
+void FetchEventDataType::refreshEvents() {
+    const Instant now = clock_.now();
+    if (seen_ && isStill(*seen_, now)) {
+        reminders_.finishPass(seen_->past, now);
+        return;
+    }
+    seen_.reset();
+    Formatters formatters{formatters_.make(fullFormat), formatters_.make(dateFormat)};
     CoreDataStack reading(store_, console_);
-    for (const auto& event : reading.fetchEvents()) {
-        if (event->eventType())
-            rollFutureEvent(*event, pass);
+    EventContext& rows = reading.viewContext();
+    const auto state = store_.state();
+
+    std::vector<EventRecord> finished;
+    Instant nextMoment = Instant::max();
+    Outcome failure = rows.visit([&](const EventRecord& event) {
+        const auto eventDate = event.eventType ? eventDateOf(event.dateEvent, event.timeEvent,
+                                                             *formatters.full, *formatters.date)
+                                               : std::nullopt;
+        if (eventDate && isPast(*eventDate, now))
+            finished.push_back(event);
+        else if (eventDate)
+            nextMoment = std::min(nextMoment, *eventDate);
+    });
+    if (failure)
+        finished.clear();
+    for (auto& event : finished)
+        roll(std::move(event), *formatters.date);
+
+    // Read anew, so that what has just moved to Past is among them.
+    auto past = std::make_shared<PastReminders>();
+    const auto notePast = [&](const EventRecord& event) {
+        if (!event.eventType)
+            reminders_.refreshPastReminder(event, *formatters.full, *formatters.date, *past);
+    };
+    if (auto error = shared_.viewContext().visit(notePast)) {
+        failure = std::move(error);
+        past->events.clear();
     }
-    // Fetched anew, so that what has just moved to Past is among them.
-    for (const auto& event : shared_.fetchEvents()) {
-        if (!event->eventType())
-            reminders_.refreshPastReminder(*event, pass);
-    }
-    reminders_.finishPass(std::move(pass));
+    past->events.shrink_to_fit();
+    reminders_.finishPass(past, now);
+    if (!failure && state && finished.empty() && !shared_.viewContext().hasChanges())
+        seen_ = std::make_unique<const Seen>(Seen{*state, nextMoment, std::move(formatters), past});
 }
 
-void FetchEventDataType::rollFutureEvent(EventCoreData& event, ReminderPass& pass) {
-    const auto eventDate =
-        eventDateOf(event.dateEvent(), event.timeEvent(), pass.fullFormatter, pass.dateFormatter);
-    if (!eventDate)
-        return;
-    pass.lastEventDate = *eventDate;
-    if (!isPast(*eventDate, pass.now))
-        return;
-    if (event.repEvent() == 0)
+/// Whether a look at every row would find what that pass has seen, and write nothing either.
+bool FetchEventDataType::isStill(const Seen& seen, Instant now) {
+    return !isPast(seen.nextMoment, now) && store_.state() == seen.state &&
+           !shared_.viewContext().hasChanges() && formatters_.isCurrent(*seen.formatters.full) &&
+           formatters_.isCurrent(*seen.formatters.date);
+}
+
+void FetchEventDataType::roll(EventRecord event, const DateFormatter& dateFormatter) {
+    if (event.repEvent == 0)
         moveToPast(event);
     else
-        rollOn(event, pass);
+        rollOn(std::move(event), dateFormatter);
 }
 
-void FetchEventDataType::moveToPast(EventCoreData& event) {
-    event.setEventType(false);
-    if (!event.id())
-        return;
-    shared_.updateDateAndTime(*event.id(), event.dateEvent().value_or(""), event.timeEvent().value_or(""),
-                              event.timeFormat(), event.repEvent(), false);
+void FetchEventDataType::moveToPast(const EventRecord& event) {
+    if (event.id)
+        shared_.updateDateAndTime(*event.id, event.dateEvent.value_or(""), event.timeEvent.value_or(""),
+                                  event.timeFormat, event.repEvent, false);
 }
 
-void FetchEventDataType::rollOn(EventCoreData& event, const ReminderPass& pass) {
-    const auto step = static_cast<std::size_t>(event.repEvent() - 1);
-    const auto day = pass.dateFormatter.date(*event.dateEvent());
+void FetchEventDataType::rollOn(EventRecord event, const DateFormatter& dateFormatter) {
+    const auto step = static_cast<std::size_t>(event.repEvent - 1);
+    const auto day = dateFormatter.date(*event.dateEvent);
     if (day && step < steps.size())
-        event.setDateEvent(
-            pass.dateFormatter.string(calendar_.adding(steps[step].unit, steps[step].value, *day)));
-    if (!event.id())
+        event.dateEvent = dateFormatter.string(calendar_.adding(steps[step].unit, steps[step].value, *day));
+    if (!event.id)
         return;
-    shared_.updateDate(*event.id(), *event.dateEvent());
-    if (event.alertReminder() != NO_VALUE)
+    shared_.updateDate(*event.id, *event.dateEvent);
+    if (event.alertReminder != NO_VALUE)
         reminders_.renewRolledReminder(event);
 }
 

@@ -43,10 +43,20 @@ std::string aboutNotification(const std::string& identifier, std::string_view wh
     return "Уведомление с идентификатором " + identifier + std::string(whatHappened);
 }
 
-const NotificationRequest* find(const std::vector<NotificationRequest>& requests,
-                                const std::string& identifier) {
-    const auto found = std::ranges::find(requests, identifier, &NotificationRequest::identifier);
-    return found == requests.end() ? nullptr : &*found;
+const NotificationRequest* find(const PendingRequests& pending, const std::string& identifier) {
+    const auto found = std::ranges::find(*pending, identifier, &NotificationRequest::identifier);
+    return found == pending->end() ? nullptr : &*found;
+}
+
+std::unordered_set<std::string_view> identifiersOf(const PendingRequests& pending) {
+    std::unordered_set<std::string_view> identifiers(pending->size());
+    for (const auto& request : *pending)
+        identifiers.insert(request.identifier);
+    return identifiers;
+}
+
+NotificationContent contentOf(const EventRecord& event) {
+    return {event.title.value_or(""), event.remMess.value_or(""), true};
 }
 
 } // namespace
@@ -59,79 +69,88 @@ void ReminderScheduler::finishWizard(const EventItem& item) {
     if (item.alertReminder == NO_VALUE || !item.id)
         return;
     center_.requestAuthorization(allAuthorizations,
-                                 [this, details = detailsOf(item)](bool granted, const Outcome&) {
+                                 [this, event = recordOf(item)](bool granted, const Outcome&) {
                                      if (granted)
-                                         add(makeRequest(details, wizardFinish), wizardFinish);
+                                         add(makeRequest(event, wizardFinish), wizardFinish);
                                  });
 }
 
-void ReminderScheduler::renewRolledReminder(const EventCoreData& event) {
-    if (event.alertReminder() == NO_VALUE || !event.id())
+void ReminderScheduler::renewRolledReminder(const EventRecord& event) {
+    if (event.alertReminder == NO_VALUE || !event.id)
         return;
-    add(makeRequest(detailsOf(event), rolledEvent), rolledEvent);
+    add(makeRequest(event, rolledEvent), rolledEvent);
 }
 
-void ReminderScheduler::refreshPastReminder(const EventCoreData& event, ReminderPass& pass) {
-    if (event.repReminder() == NO_VALUE)
+void ReminderScheduler::refreshPastReminder(const EventRecord& event, const DateFormatter& fullFormatter,
+                                            const DateFormatter& dateFormatter, PastReminders& noted) {
+    if (event.repReminder == NO_VALUE)
         return;
     const auto eventDate =
-        tessivo::eventDateOf(event.dateEvent(), event.timeEvent(), pass.fullFormatter, pass.dateFormatter);
+        tessivo::eventDateOf(event.dateEvent, event.timeEvent, fullFormatter, dateFormatter);
     if (!eventDate)
         console_.stopProgram("The date of a past event cannot be parsed");
-    pass.lastEventDate = *eventDate;
-    if (event.id())
-        pass.pastEvents.push_back(detailsOf(event));
+    noted.lastEventDate = *eventDate;
+    if (event.id)
+        noted.events.push_back({*event.id, contentOf(event), event.repReminder});
 }
 
-void ReminderScheduler::finishPass(ReminderPass pass) {
-    if (pass.pastEvents.empty())
+void ReminderScheduler::finishPass(std::shared_ptr<const PastReminders> noted, Instant now) {
+    if (noted->events.empty())
         return;
     center_.getPendingNotificationRequests(
-        [this, events = std::move(pass.pastEvents), now = pass.now,
-         date = pass.lastEventDate](const std::vector<NotificationRequest>& pending) {
-            std::unordered_set<std::string_view> identifiers;
-            for (const auto& request : pending)
-                identifiers.insert(request.identifier);
-            for (const auto& details : events) {
-                if (!identifiers.contains(details.identifier))
-                    recreatePastReminder(details, now, date);
-            }
+        [this, noted = std::move(noted), now](const PendingRequests& pending) {
+            if (noted == completeNoted_ && pending == completePending_)
+                return;
+            const bool isComplete = recreateMissing(*noted, now, pending) == 0;
+            completeNoted_ = isComplete ? noted : nullptr;
+            completePending_ = isComplete ? pending : nullptr;
         });
 }
 
-void ReminderScheduler::recreatePastReminder(const ReminderDetails& details, Instant now, Instant eventDate) {
-    const auto components = repeatComponents(eventDate, details.repReminder, now, calendar_, console_);
-    add({details.identifier, details.content, {components, recreatedPast.pastRepeats}}, recreatedPast);
+int ReminderScheduler::recreateMissing(const PastReminders& noted, Instant now,
+                                       const PendingRequests& pending) {
+    const auto identifiers = identifiersOf(pending);
+    int missing = 0;
+    for (const auto& event : noted.events) {
+        const auto identifier = event.id.uuidString();
+        if (identifiers.contains(identifier))
+            continue;
+        const auto components =
+            repeatComponents(noted.lastEventDate, event.repReminder, now, calendar_, console_);
+        add({identifier, event.content, {components, recreatedPast.pastRepeats}}, recreatedPast);
+        ++missing;
+    }
+    return missing;
 }
 
 void ReminderScheduler::editDateAndTime(const EventCoreData& event) {
     if (!event.id())
         return;
-    const auto details = detailsOf(event);
-    if (details.alertReminder != NO_VALUE)
-        remakePending(details);
-    remakePending(details);
+    if (event.alertReminder() != NO_VALUE)
+        remakePending(event.values());
+    remakePending(event.values());
 }
 
-void ReminderScheduler::remakePending(const ReminderDetails& details) {
-    center_.getPendingNotificationRequests([this, details](const std::vector<NotificationRequest>& pending) {
-        if (find(pending, details.identifier) == nullptr)
+void ReminderScheduler::remakePending(const EventRecord& event) {
+    center_.getPendingNotificationRequests([this, event](const PendingRequests& pending) {
+        const auto identifier = event.id->uuidString();
+        if (find(pending, identifier) == nullptr)
             return;
-        center_.removePendingNotificationRequests({details.identifier});
-        if (details.isFuture || details.repReminder != NO_VALUE)
-            add(makeRequest(details, editedDateAndTime), editedDateAndTime);
+        center_.removePendingNotificationRequests({identifier});
+        if (event.eventType || event.repReminder != NO_VALUE)
+            add(makeRequest(event, editedDateAndTime), editedDateAndTime);
     });
 }
 
 void ReminderScheduler::editReminder(const EventCoreData& event) {
     if (!event.id())
         return;
-    center_.getPendingNotificationRequests(
-        [this, details = detailsOf(event)](const std::vector<NotificationRequest>& pending) {
-            if (find(pending, details.identifier) != nullptr)
-                center_.removePendingNotificationRequests({details.identifier});
-            add(makeRequest(details, editedReminder), editedReminder);
-        });
+    center_.getPendingNotificationRequests([this, event = event.values()](const PendingRequests& pending) {
+        const auto identifier = event.id->uuidString();
+        if (find(pending, identifier) != nullptr)
+            center_.removePendingNotificationRequests({identifier});
+        add(makeRequest(event, editedReminder), editedReminder);
+    });
 }
 
 void ReminderScheduler::editTitle(const EventCoreData& event) {
@@ -139,7 +158,7 @@ void ReminderScheduler::editTitle(const EventCoreData& event) {
         return;
     center_.getPendingNotificationRequests(
         [this, identifier = event.id()->uuidString(),
-         title = event.title().value_or("")](const std::vector<NotificationRequest>& pending) {
+         title = event.title().value_or("")](const PendingRequests& pending) {
             const auto* found = find(pending, identifier);
             if (found == nullptr) {
                 console_.print(aboutNotification(identifier, " не найдено"));
@@ -156,13 +175,14 @@ void ReminderScheduler::restoreReminders(const std::vector<std::shared_ptr<Event
     std::vector<NotificationRequest> requests;
     for (const auto& event : events) {
         const bool reminds = event->eventType() && event->alertReminder() != NO_VALUE && event->id();
-        if (reminds && parsedDateOf(detailsOf(*event)))
-            requests.push_back(makeRequest(detailsOf(*event), restoredEvent));
+        if (reminds && parsedDateOf(event->values()))
+            requests.push_back(makeRequest(event->values(), restoredEvent));
     }
     center_.getPendingNotificationRequests(
-        [this, requests = std::move(requests)](const std::vector<NotificationRequest>& pending) {
+        [this, requests = std::move(requests)](const PendingRequests& pending) {
+            const auto identifiers = identifiersOf(pending);
             for (const auto& request : requests) {
-                if (find(pending, request.identifier) == nullptr)
+                if (!identifiers.contains(request.identifier))
                     add(request, restoredEvent);
             }
         });
@@ -172,7 +192,7 @@ void ReminderScheduler::removeReminder(const std::optional<Uuid>& id) {
     if (!id)
         return;
     center_.getPendingNotificationRequests(
-        [this, identifier = id->uuidString()](const std::vector<NotificationRequest>& pending) {
+        [this, identifier = id->uuidString()](const PendingRequests& pending) {
             if (find(pending, identifier) == nullptr) {
                 console_.print(aboutNotification(identifier, " не найдено"));
                 return;
@@ -182,45 +202,26 @@ void ReminderScheduler::removeReminder(const std::optional<Uuid>& id) {
         });
 }
 
-ReminderDetails ReminderScheduler::detailsOf(const EventCoreData& event) {
-    return {event.id()->uuidString(), {event.title().value_or(""), event.remMess().value_or(""), true},
-            event.dateEvent(),        event.timeEvent(),
-            event.alertReminder(),    event.repReminder(),
-            event.eventType()};
-}
-
-ReminderDetails ReminderScheduler::detailsOf(const EventItem& item) {
-    return {item.id->uuidString(),
-            {item.title.value_or(""), item.remMess.value_or(""), true},
-            item.dateEvent,
-            item.timeEvent,
-            item.alertReminder.value_or(NO_VALUE),
-            item.repReminder.value_or(NO_VALUE),
-            item.eventType.value_or(false)};
-}
-
-std::optional<Instant> ReminderScheduler::parsedDateOf(const ReminderDetails& details) const {
-    return tessivo::eventDateOf(details.dateEvent, details.timeEvent, *formatters_.make(fullFormat),
+std::optional<Instant> ReminderScheduler::parsedDateOf(const EventRecord& event) const {
+    return tessivo::eventDateOf(event.dateEvent, event.timeEvent, *formatters_.make(fullFormat),
                                 *formatters_.make(dateFormat));
 }
 
-Instant ReminderScheduler::eventDateOf(const ReminderDetails& details) const {
-    const auto date = parsedDateOf(details);
+Instant ReminderScheduler::eventDateOf(const EventRecord& event) const {
+    const auto date = parsedDateOf(event);
     if (!date)
         console_.stopProgram("The date of an event that reminds cannot be parsed");
     return *date;
 }
 
-NotificationRequest ReminderScheduler::makeRequest(const ReminderDetails& details,
-                                                   const ReminderSite& site) const {
-    const auto eventDate = eventDateOf(details);
-    if (details.isFuture) {
-        const auto components = alertComponents(eventDate, details.alertReminder, calendar_, console_);
-        return {details.identifier, details.content, {components, site.futureRepeats}};
-    }
+NotificationRequest ReminderScheduler::makeRequest(const EventRecord& event, const ReminderSite& site) const {
+    const auto eventDate = eventDateOf(event);
     const auto components =
-        repeatComponents(eventDate, details.repReminder, clock_.now(), calendar_, console_);
-    return {details.identifier, details.content, {components, site.pastRepeats}};
+        event.eventType ? alertComponents(eventDate, event.alertReminder, calendar_, console_)
+                        : repeatComponents(eventDate, event.repReminder, clock_.now(), calendar_, console_);
+    return {event.id->uuidString(),
+            contentOf(event),
+            {components, event.eventType ? site.futureRepeats : site.pastRepeats}};
 }
 
 void ReminderScheduler::add(NotificationRequest request, const ReminderSite& site) {

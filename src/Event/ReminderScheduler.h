@@ -18,32 +18,20 @@ class DateFormatter;
 class DateFormatters;
 class EventCoreData;
 struct EventItem;
+struct EventRecord;
 struct ReminderSite;
 
-/// What a notification needs of its event: completions must not touch rows.
-struct ReminderDetails {
-    std::string identifier;
-    NotificationContent content;
-    std::optional<std::string> dateEvent;
-    std::optional<std::string> timeEvent;
-    std::int16_t alertReminder;
-    std::int16_t repReminder;
-    bool isFuture;
-};
+/// The past events of a pass that remind, in the order of their rows.
+struct PastReminders {
+    struct Event {
+        Uuid id;
+        NotificationContent content;
+        std::int16_t repReminder;
+    };
 
-/// One pass over the events, from its first row to its last.
-struct ReminderPass {
-    ReminderPass(const DateFormatter& full, const DateFormatter& date, Instant moment)
-        : fullFormatter(full), dateFormatter(date), now(moment) {}
-
-    const DateFormatter& fullFormatter;
-    const DateFormatter& dateFormatter;
-    Instant now; ///< the one instant of the pass
-
-    /// The date of the row that the pass has looked at last. The reminders of all past events of a pass are
-    /// computed from the date of its last row.
+    std::vector<Event> events;
+    /// The date of the last row that reminds. The reminders of all of them are computed from it.
     Instant lastEventDate = Instant();
-    std::vector<ReminderDetails> pastEvents; ///< those that remind, in the order of the rows
 };
 
 /// The one notification of each event, under the event's identity as its identifier. There is no record of it
@@ -52,8 +40,8 @@ struct ReminderPass {
 ///
 /// Each operation is one of the places at which the program makes, renews or removes that notification. They
 /// are called on the main thread, return at once and end silently for an event without `id`. What follows
-/// runs in the center's completions, on its queue: rows belong to the main thread, so all that is needed of a
-/// row is copied before. A date text that is needed and cannot be parsed stops the program.
+/// runs in the center's completions, on its queue: rows belong to the main thread, so their values are copied
+/// before. A date text that is needed and cannot be parsed stops the program.
 ///
 /// The ports must outlive the scheduler, and the scheduler the last completion.
 class ReminderScheduler final {
@@ -67,13 +55,16 @@ public:
 
     /// The pass has rolled the event on to its next date: replaces the notification, unless the reminder is
     /// off.
-    void renewRolledReminder(const EventCoreData& event);
+    void renewRolledReminder(const EventRecord& event);
 
-    /// The pass looks at a past event: notes it, unless the reminder is off.
-    void refreshPastReminder(const EventCoreData& event, ReminderPass& pass);
+    /// The pass looks at a past event: notes it, unless the reminder is off. The formatters parse
+    /// `fullFormat` and `dateFormat`.
+    void refreshPastReminder(const EventRecord& event, const DateFormatter& fullFormatter,
+                             const DateFormatter& dateFormatter, PastReminders& noted);
 
-    /// The pass is over: adds a notification for each past event that it has noted and that has none pending.
-    void finishPass(ReminderPass pass);
+    /// The pass of that moment is over: adds a notification for each past event noted that has none pending.
+    /// It looks at them one by one only if these are others than at the last pass, or what is pending is.
+    void finishPass(std::shared_ptr<const PastReminders> noted, Instant now);
 
     /// Date and time have been edited: makes a pending notification anew. That is looked up twice while the
     /// event has an alert, each time on the queue as it stands then; one notification remains. For a past
@@ -95,14 +86,13 @@ public:
     void removeReminder(const std::optional<Uuid>& id);
 
 private:
-    [[nodiscard]] static ReminderDetails detailsOf(const EventCoreData& event);
-    [[nodiscard]] static ReminderDetails detailsOf(const EventItem& item);
-    [[nodiscard]] std::optional<Instant> parsedDateOf(const ReminderDetails& details) const;
-    [[nodiscard]] Instant eventDateOf(const ReminderDetails& details) const;
-    [[nodiscard]] NotificationRequest makeRequest(const ReminderDetails& details,
-                                                  const ReminderSite& site) const;
-    void remakePending(const ReminderDetails& details);
-    void recreatePastReminder(const ReminderDetails& details, Instant now, Instant eventDate);
+    [[nodiscard]] std::optional<Instant> parsedDateOf(const EventRecord& event) const;
+    [[nodiscard]] Instant eventDateOf(const EventRecord& event) const;
+    /// `event` has an identity.
+    [[nodiscard]] NotificationRequest makeRequest(const EventRecord& event, const ReminderSite& site) const;
+    void remakePending(const EventRecord& event);
+    /// Says how many were missing.
+    int recreateMissing(const PastReminders& noted, Instant now, const PendingRequests& pending);
     void add(NotificationRequest request, const ReminderSite& site);
     void addRetitled(NotificationRequest request);
 
@@ -111,6 +101,10 @@ private:
     const DateFormatters& formatters_;
     const Clock& clock_;
     Console& console_;
+
+    // Used on the center's queue only: the last two lists of which all that was noted was pending.
+    std::shared_ptr<const PastReminders> completeNoted_;
+    PendingRequests completePending_;
 };
 
 } // namespace tessivo

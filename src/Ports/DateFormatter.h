@@ -31,6 +31,9 @@ public:
 
     /// A formatter of `pattern`, in the Unicode date-field letters ("dd MMMM yyyy"). Never null.
     [[nodiscard]] virtual std::unique_ptr<DateFormatter> make(std::string_view pattern) const = 0;
+
+    /// Whether `formatter`, one made here, still reads and writes as one made now would.
+    [[nodiscard]] virtual bool isCurrent(const DateFormatter& formatter) const = 0;
 };
 
 } // namespace tessivo

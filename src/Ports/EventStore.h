@@ -10,7 +10,6 @@
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 
 namespace tessivo {
 
@@ -79,6 +78,14 @@ public:
     virtual EventRecord* receive(RowKey key) = 0;
 };
 
+/// What changes with every change of the rows, whoever makes it.
+struct StoreState {
+    std::int64_t saves = 0;   ///< those through this store
+    std::int64_t foreign = 0; ///< stands for the changes of others
+
+    friend bool operator==(const StoreState&, const StoreState&) = default;
+};
+
 /// Why the store did not load.
 struct LoadFailure {
     Error error;
@@ -95,18 +102,16 @@ public:
     /// may be tried again. What cannot be read is left as it was.
     [[nodiscard]] virtual std::optional<LoadFailure> load() = 0;
 
-    /// Hands over the rows that match `predicate`, or all, in the order of their keys. A predicate is the
-    /// text `id = "<UUID>"`; another text is an error, and so is a store that is not loaded. After an error
-    /// the rows received so far are sound.
-    [[nodiscard]] virtual Outcome fetch(std::optional<std::string_view> predicate,
-                                        EventRowReceiver& rows) = 0;
+    /// Hands over the rows with that identity, or all, in the order of their keys. A store that is not loaded
+    /// is an error. After an error the rows received so far are sound.
+    [[nodiscard]] virtual Outcome fetch(const std::optional<Uuid>& id, EventRowReceiver& rows) = 0;
+
+    /// As long as the answer is the same, so is every row. Costs microseconds; empty where it cannot be told.
+    [[nodiscard]] virtual std::optional<StoreState> state() = 0;
 
     /// Writes all changes in their order, or on failure none. When it returns they survive a loss of power.
     /// An update or delete of a row that is gone does nothing.
     [[nodiscard]] virtual Outcome save(std::span<EventChange> changes) = 0;
 };
-
-/// The identity that a predicate text asks for; empty for a text that is no such predicate.
-[[nodiscard]] std::optional<Uuid> idOfPredicate(std::string_view predicate);
 
 } // namespace tessivo

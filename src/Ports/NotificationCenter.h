@@ -4,6 +4,7 @@
 #include "Ports/Error.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,9 @@ struct NotificationRequest {
     friend bool operator==(const NotificationRequest&, const NotificationRequest&) = default;
 };
 
+/// A list that never changes; never null.
+using PendingRequests = std::shared_ptr<const std::vector<NotificationRequest>>;
+
 /// The machine's queue of pending notifications: one request per identifier, kept over restarts, shown when
 /// its time has come whether the program runs or not. All operations return at once, in any order of threads;
 /// completions run in the order of the calls on a queue of the center's own, never inline and never on the
@@ -54,10 +58,9 @@ public:
 
     virtual void getNotificationSettings(std::function<void(AuthorizationStatus)> completion) = 0;
 
-    /// All requests that have not fired yet, in the order in which they were added. A queue that cannot be
-    /// read gives none.
-    virtual void getPendingNotificationRequests(
-        std::function<void(const std::vector<NotificationRequest>&)> completion) = 0;
+    /// All requests that have not fired yet, in the order in which they were added; as long as nothing has
+    /// changed, the same list again. A queue that cannot be read gives an empty one.
+    virtual void getPendingNotificationRequests(std::function<void(const PendingRequests&)> completion) = 0;
 
     /// Queues the request on disk; one with the same identifier is replaced. Fails while the user denies
     /// notifications, on components that name no moment, and where the queue cannot be written. A moment that

@@ -114,7 +114,7 @@ void QueuedNotificationCenter::getNotificationSettings(std::function<void(Author
 }
 
 void QueuedNotificationCenter::getPendingNotificationRequests(
-    std::function<void(const std::vector<NotificationRequest>&)> completion) {
+    std::function<void(const PendingRequests&)> completion) {
     post([this, completion = std::move(completion)] { completion(pendingRequests()); });
 }
 
@@ -150,19 +150,21 @@ Outcome QueuedNotificationCenter::addToQueue(const NotificationRequest& request)
     return machine_.queue.add(queued);
 }
 
-const std::vector<NotificationRequest>& QueuedNotificationCenter::pendingRequests() {
+PendingRequests QueuedNotificationCenter::pendingRequests() {
     auto read = machine_.queue.pending();
     if (!read) {
         listed_ = nullptr;
-        pending_.clear();
+        pending_ = std::make_shared<const std::vector<NotificationRequest>>();
     } else if (read.value() != listed_) {
         listed_ = std::move(read.value());
-        pending_.clear();
+        std::vector<NotificationRequest> requests;
+        requests.reserve(listed_->size());
         for (const auto& queued : *listed_) {
-            auto& components = pending_.emplace_back(queued.request).trigger.dateComponents;
+            auto& components = requests.emplace_back(queued.request).trigger.dateComponents;
             components =
                 translated(components, machine_.queueCalendar, machine_.calendar).value_or(components);
         }
+        pending_ = std::make_shared<const std::vector<NotificationRequest>>(std::move(requests));
     }
     return pending_;
 }

@@ -51,8 +51,7 @@ public:
     void requestAuthorization(int options,
                               std::function<void(bool granted, Outcome error)> completion) override;
     void getNotificationSettings(std::function<void(AuthorizationStatus)> completion) override;
-    void getPendingNotificationRequests(
-        std::function<void(const std::vector<NotificationRequest>&)> completion) override;
+    void getPendingNotificationRequests(std::function<void(const PendingRequests&)> completion) override;
     void add(NotificationRequest request, std::function<void(Outcome error)> completion) override;
     void removePendingNotificationRequests(std::vector<std::string> identifiers) override;
 
@@ -75,7 +74,7 @@ private:
     void ask();
     void clearLoss();
     [[nodiscard]] Outcome addToQueue(const NotificationRequest& request);
-    [[nodiscard]] const std::vector<NotificationRequest>& pendingRequests();
+    [[nodiscard]] PendingRequests pendingRequests();
 
     Machine machine_;
     Question question_;
@@ -87,7 +86,7 @@ private:
     bool helperMustKnow_ = false;
     std::vector<AuthorizationCompletion> asking_; ///< who waits for the user
     std::shared_ptr<const QueuedRequests> listed_;
-    std::vector<NotificationRequest> pending_; ///< the requests of `listed_`
+    PendingRequests pending_; ///< the requests of `listed_`
 
     std::unique_ptr<WorkQueue> work_; ///< last: its work uses what stands above
 };

@@ -21,9 +21,10 @@ public:
     explicit FaultyStore(EventStore& store) : store_(store) {}
 
     std::optional<LoadFailure> load() override { return store_.load(); }
-    Outcome fetch(std::optional<std::string_view> predicate, EventRowReceiver& rows) override {
-        return store_.fetch(predicate, rows);
+    Outcome fetch(const std::optional<Uuid>& id, EventRowReceiver& rows) override {
+        return store_.fetch(id, rows);
     }
+    std::optional<StoreState> state() override { return store_.state(); }
     Outcome save(std::span<EventChange> changes) override {
         return broken ? Outcome(Error{"Disk", 28, "no space left"}) : store_.save(changes);
     }

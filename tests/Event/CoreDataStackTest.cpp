@@ -216,6 +216,38 @@ TEST_F(CoreDataStackTest, OfTwoRowsWithOneIdentityTheFirstIsMeant) {
     EXPECT_EQ(listener->heard, 4);
 }
 
+TEST_F(CoreDataStackTest, AnotherTextIsNoPredicate) {
+    shared.addEvent(draft("one"));
+    EXPECT_THAT(shared.viewContext().fetch("id = \"9a0b1c2d-3e4f-5061-7283-94a5b6c7d8e9\"").value(),
+                SizeIs(1));
+    for (const char* text :
+         {"", "id = ", "id = \"", "id = \"\"", "id = \"9A0B1C2D-3E4F-5061-7283-94A5B6C7D8E9",
+          "id = 9A0B1C2D-3E4F-5061-7283-94A5B6C7D8E9", "title = \"9A0B1C2D-3E4F-5061-7283-94A5B6C7D8E9\"",
+          "id = \"9A0B1C2D-3E4F-5061-7283-94A5B6C7D8E9\" OR 1 = 1",
+          "id = \"9A0B1C2D-3E4F-5061-7283-94A5B6C7D8EG\""})
+        EXPECT_FALSE(shared.viewContext().fetch(text)) << text;
+}
+
+TEST_F(CoreDataStackTest, RowsThatNobodyHoldsAreLetGoUnlessTheyHaveChanges) {
+    for (const char* title : {"held", "changed", "idle"})
+        shared.addEvent(draft(title));
+    auto rows = shared.fetchEvents();
+    const auto held = rows[0];
+    const std::weak_ptr changed = rows[1];
+    const std::weak_ptr idle = rows[2];
+    rows[1]->setTitle("written");
+    rows.clear();
+    EXPECT_FALSE(changed.expired());
+    EXPECT_TRUE(idle.expired());
+    rows = shared.fetchEvents();
+    EXPECT_EQ(rows[0], held);
+    EXPECT_THAT(titles(rows), ElementsAre("held", "written", "idle"));
+    EXPECT_EQ(shared.fetchEvents(), rows) << "all are held and none has changed";
+    rows.clear();
+    shared.updateTitle(identity, "saved");
+    EXPECT_TRUE(changed.expired());
+}
+
 TEST_F(CoreDataStackTest, OneContextGivesOneObjectARowAndEachContextItsOwn) {
     shared.addEvent(draft("Birthday"));
     const auto mine = shared.fetchEvents().front();

@@ -11,6 +11,11 @@
 #include "icu/IcuDateFormatters.h"
 
 #include <gmock/gmock.h>
+#include <rapidcheck/gtest.h>
+
+#include <cstdlib>
+#include <memory>
+#include <vector>
 
 namespace tessivo {
 namespace {
@@ -239,6 +244,163 @@ TEST_F(RefreshPassTest, AStoreThatCannotBeReadGivesAnEmptyPass) {
     EXPECT_THAT(console.lines(), IsEmpty());
     refresh();
     EXPECT_FALSE(isFuture(id));
+}
+
+TEST_F(RefreshPassTest, APassThatCanChangeNothingReadsNoRow) {
+    auto past = event("12 January 2027", "2:00 AM");
+    past.eventType = false;
+    past.repReminder = 0;
+    add(past);
+    add(event("15 January 2027", "8:05 AM"));
+    refresh(); // adds the missing reminder
+    const int fetches = store.fetches();
+    for (int second = 0; second < 100; ++second) {
+        line.setWall(now + Seconds(3 * second));
+        refresh();
+    }
+    EXPECT_EQ(store.fetches(), fetches);
+    line.setWall(now + Seconds(301));
+    refresh();
+    EXPECT_GT(store.fetches(), fetches);
+    EXPECT_EQ(center.pending().size(), 1U);
+}
+
+TEST(RefreshPass, ANewTimeZoneIsNoticedAtOnce) {
+    ::setenv("TZ", "Europe/Berlin", 1);
+    fakes::Timeline line{now};
+    const IcuCalendar calendar("en_US");
+    const IcuDateFormatters formatters;
+    fakes::MemoryEventStore store;
+    fakes::FakeNotificationCenter center;
+    fakes::RecordingConsole console;
+    CoreDataStack shared{store, console};
+    ReminderScheduler scheduler{center, calendar, formatters, line, console};
+    FetchEventDataType pass{store, shared, scheduler, formatters, calendar, line, console};
+    EventItem item;
+    item.dateEvent = "15 January 2027";
+    item.timeEvent = "9:30 AM"; // half an hour ahead in Berlin, and over in Tokyo
+    item.repEvent = item.timeFormat = item.color = 0;
+    item.alertReminder = item.repReminder = item.gradient = NO_VALUE;
+    item.eventType = true;
+    item.id = Uuid{};
+    shared.addEvent(item);
+    pass.refreshEvents();
+    EXPECT_TRUE(shared.fetchEvent(Uuid{})->eventType());
+    ::setenv("TZ", "Asia/Tokyo", 1);
+    pass.refreshEvents();
+    EXPECT_FALSE(shared.fetchEvent(Uuid{})->eventType());
+    ::unsetenv("TZ");
+}
+
+/// A program of its own whose passes either remember what they saw or each begin anew.
+class World {
+public:
+    explicit World(bool remembers) : remembers_(remembers) {}
+
+    void pass() {
+        if (!remembers_ || passes_.empty())
+            passes_.push_back(std::make_unique<Pass>(*this));
+        passes_.back()->fetch.refreshEvents();
+        center.run();
+    }
+
+    fakes::Timeline line{now};
+    IcuCalendar calendar{"en_US", "UTC"};
+    IcuDateFormatters formatters{"en_US", "UTC"};
+    fakes::MemoryEventStore store;
+    fakes::FakeNotificationCenter center{AuthorizationStatus::Authorized};
+    fakes::RecordingConsole console;
+    CoreDataStack shared{store, console};
+
+private:
+    struct Pass {
+        explicit Pass(World& world)
+            : scheduler(world.center, world.calendar, world.formatters, world.line, world.console),
+              fetch(world.store, world.shared, scheduler, world.formatters, world.calendar, world.line,
+                    world.console) {}
+
+        ReminderScheduler scheduler;
+        FetchEventDataType fetch;
+    };
+
+    const bool remembers_;
+    std::vector<std::unique_ptr<Pass>> passes_;
+};
+
+RC_GTEST_PROP(RefreshPassModel, WhatAPassRemembersChangesNothingThatItDoes, ()) {
+    World remembering(true);
+    World plain(false);
+    const auto both = [&](const auto& act) {
+        act(remembering);
+        act(plain);
+    };
+    const auto number = [](int end) { return *rc::gen::inRange(0, end); };
+    Instant wall = now;
+    const int acts = number(40);
+    for (int index = 0; index < acts; ++index) {
+        Uuid id;
+        id.bytes[0] = static_cast<std::uint8_t>(number(6));
+        switch (number(12)) {
+        case 0:
+        case 1: {
+            EventItem item;
+            item.title = std::to_string(index);
+            item.dateEvent = std::to_string(10 + number(10)) + " January 2027";
+            if (number(2) == 0)
+                item.timeEvent = std::to_string(1 + number(12)) + ":00 AM";
+            item.repEvent = static_cast<std::int16_t>(number(7));
+            item.alertReminder = number(2) == 0 ? NO_VALUE : static_cast<std::int16_t>(number(10));
+            item.repReminder = number(3) == 0 ? NO_VALUE : static_cast<std::int16_t>(number(5));
+            item.timeFormat = item.color = item.gradient = 0;
+            item.eventType = number(2) == 0;
+            if (*item.eventType && number(4) == 0)
+                item.dateEvent = "nie";
+            item.id = id;
+            both([&](World& world) { world.shared.addEvent(item); });
+            break;
+        }
+        case 2:
+            both([&](World& world) { world.shared.deleteEvent(id); });
+            break;
+        case 3:
+            both([&](World& world) { world.store.failNextSave(Error{"Disk", 28, "full"}); });
+            break;
+        case 4:
+            both([&](World& world) {
+                world.store.failNextFetch(Error{"Disk", 5, "broken"});
+                world.pass();
+                (void)world.shared.fetchEvents(); // meets the failure where the pass did not
+            });
+            break;
+        case 5:
+            both([&](World& world) { world.center.fire(id.uuidString()); });
+            break;
+        case 6: {
+            const bool fails = number(2) == 0;
+            both([&](World& world) {
+                world.center.failAdds(fails ? Outcome(Error{"Queue", 1, "no"}) : Outcome());
+            });
+            break;
+        }
+        case 7:
+        case 8:
+            wall += Seconds(number(100'000) - 20'000);
+            both([&](World& world) { world.line.setWall(wall); });
+            break;
+        case 9: {
+            const auto reminder = static_cast<std::int16_t>(number(5));
+            both([&](World& world) { world.shared.updateReminder(id, "words", reminder, reminder); });
+            break;
+        }
+        default:
+            break;
+        }
+        for (int passes = number(3); passes > 0; --passes)
+            both([](World& world) { world.pass(); });
+        RC_ASSERT(remembering.console.lines() == plain.console.lines());
+        RC_ASSERT(remembering.center.pending() == plain.center.pending());
+        RC_ASSERT(remembering.store.rows() == plain.store.rows());
+    }
 }
 
 TEST_F(RefreshPassTest, NothingStaysWrittenOffThatWasEditedBackIntoTheFuture) {

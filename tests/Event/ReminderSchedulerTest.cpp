@@ -146,12 +146,12 @@ protected:
         center.run();
     }
 
-    void refresh(const EventCoreData& event) {
+    void refresh(const EventRecord& event) {
         const auto full = formatters.make("dd MMMM yyyy h:mm a");
         const auto date = formatters.make("dd MMMM yyyy");
-        ReminderPass pass(*full, *date, now);
-        scheduler.refreshPastReminder(event, pass);
-        scheduler.finishPass(std::move(pass));
+        const auto past = std::make_shared<PastReminders>();
+        scheduler.refreshPastReminder(event, *full, *date, *past);
+        scheduler.finishPass(past, now);
     }
 
     fakes::Timeline line{now};
@@ -189,8 +189,7 @@ std::vector<SiteCase> allSites() {
          .futureRepeats = false,
          .lines = {"СОЗДАНИЕ УВЕДОМЛЕНИЯ ПРОШЛО УСПЕШНО", "уведомление создано"}},
         {.name = "RolledEvent",
-         .act = [](auto& scheduler,
-                   const auto& record) { scheduler.renewRolledReminder(EventCoreData(record)); },
+         .act = [](auto& scheduler, const auto& record) { scheduler.renewRolledReminder(record); },
          .onePending = true,
          .futureRepeats = false,
          .makesPast = false,
@@ -314,7 +313,7 @@ TEST_F(ReminderSchedulerTest, ARolledEventWithoutAlertKeepsTheQueueAsItIs) {
     addPending();
     auto record = futureRecord();
     record.alertReminder = NO_VALUE;
-    scheduler.renewRolledReminder(EventCoreData(record));
+    scheduler.renewRolledReminder(record);
     center.run();
     EXPECT_THAT(center.pending(), ElementsAre(pendingRequest()));
 }
@@ -382,7 +381,7 @@ TEST_F(ReminderSchedulerTest, EditedTitleAndDeleteSayWhenNothingIsPending) {
 }
 
 TEST_F(ReminderSchedulerTest, ThePassMakesAPastReminderAnewOnlyWhenNoneIsPending) {
-    const EventCoreData event(pastRecord());
+    const auto event = pastRecord();
     refresh(event);
     center.run();
     EXPECT_THAT(center.pending(),
@@ -401,7 +400,7 @@ TEST_F(ReminderSchedulerTest, ThePassMakesAPastReminderAnewOnlyWhenNoneIsPending
 }
 
 TEST_F(ReminderSchedulerTest, APastReminderIsReckonedFromThePassHoweverLateTheAnswer) {
-    refresh(EventCoreData(pastRecord()));
+    refresh(pastRecord());
     line.advance(Seconds(86400));
     center.run();
     ASSERT_EQ(center.pending().size(), 1U);
@@ -412,19 +411,19 @@ TEST_F(ReminderSchedulerTest, APastReminderThatIsOffOrWithoutIdentityIsLeftAlone
     auto off = pastRecord();
     off.repReminder = NO_VALUE;
     off.dateEvent = "unreadable";
-    refresh(EventCoreData(off));
+    refresh(off);
     auto nameless = pastRecord();
     nameless.id = std::nullopt;
-    refresh(EventCoreData(nameless));
+    refresh(nameless);
     EXPECT_EQ(center.waiting(), 0U);
 }
 
 TEST_F(ReminderSchedulerTest, ADateThatDoesNotReadStopsTheProgramWhereItIsNeeded) {
     auto past = pastRecord();
     past.dateEvent = "12 janvier 2027";
-    EXPECT_THROW(refresh(EventCoreData(past)), fakes::ProgramStopped);
+    EXPECT_THROW(refresh(past), fakes::ProgramStopped);
     past.dateEvent = std::nullopt;
-    EXPECT_THROW(refresh(EventCoreData(past)), fakes::ProgramStopped);
+    EXPECT_THROW(refresh(past), fakes::ProgramStopped);
 
     scheduler.editDateAndTime(EventCoreData(past));
     center.run(); // nothing pending: the date is not needed

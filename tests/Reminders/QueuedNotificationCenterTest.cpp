@@ -103,7 +103,7 @@ TEST_F(QueuedNotificationCenterTest, AnotherCalendarsDaysGoIntoTheQueueInItsOwn)
     ASSERT_EQ(add(request("a", newYear)), std::nullopt);
     std::promise<DateComponents> pending;
     center->getPendingNotificationRequests(
-        [&](const auto& all) { pending.set_value(all.at(0).trigger.dateComponents); });
+        [&](const auto& all) { pending.set_value(all->at(0).trigger.dateComponents); });
     EXPECT_EQ(pending.get_future().get(), newYear);
     center->finish();
     EXPECT_EQ(disk.pending->front().request.trigger.dateComponents, (DateComponents{2027, 3, 21, 0, 30, {}}));
@@ -221,7 +221,7 @@ TEST_F(QueuedNotificationCenterTest, AQueueThatFailsIsToldOrGivesNothing) {
     start(calendar, queueCalendar);
     EXPECT_EQ(add(request("b")), disk.readFailure);
     std::promise<std::size_t> size;
-    center->getPendingNotificationRequests([&](const auto& all) { size.set_value(all.size()); });
+    center->getPendingNotificationRequests([&](const auto& all) { size.set_value(all->size()); });
     EXPECT_EQ(size.get_future().get(), 0U);
     std::promise<Outcome> asked;
     center->requestAuthorization(7, [&](bool granted, const Outcome& error) {

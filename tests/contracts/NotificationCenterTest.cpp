@@ -95,7 +95,7 @@ protected:
 
     std::vector<NotificationRequest> pending() {
         std::vector<NotificationRequest> requests;
-        center.getPendingNotificationRequests([&](const auto& all) { requests = all; });
+        center.getPendingNotificationRequests([&](const auto& all) { requests = *all; });
         desk->settle();
         return requests;
     }
@@ -137,7 +137,7 @@ TEST_P(NotificationCenterContract, CompletionsComeInTheOrderOfTheCalls) {
         center.getNotificationSettings([&](AuthorizationStatus) { order.emplace_back("asked by add"); });
     });
     center.getPendingNotificationRequests(
-        [&](const auto& all) { order.push_back("pending " + std::to_string(all.size())); });
+        [&](const auto& all) { order.push_back("pending " + std::to_string(all->size())); });
     center.getNotificationSettings([&](AuthorizationStatus) { order.emplace_back("settings"); });
     desk->settle();
     EXPECT_THAT(order, testing::UnorderedElementsAre("add", "pending 1", "settings", "asked by add"));
@@ -149,9 +149,9 @@ TEST_P(NotificationCenterContract, EachLookupHasItsOwnSnapshot) {
     std::vector<std::size_t> sizes;
     center.getPendingNotificationRequests([&](const auto& all) {
         center.add(request("a"), [](const Outcome&) {});
-        sizes.push_back(all.size());
+        sizes.push_back(all->size());
     });
-    center.getPendingNotificationRequests([&](const auto& all) { sizes.push_back(all.size()); });
+    center.getPendingNotificationRequests([&](const auto& all) { sizes.push_back(all->size()); });
     center.add(request("b"), [](const Outcome&) {});
     desk->settle();
     EXPECT_EQ(sizes.at(0), 0U);

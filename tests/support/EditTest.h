@@ -26,8 +26,7 @@ public:
     void getNotificationSettings(std::function<void(AuthorizationStatus)> completion) override {
         center_.getNotificationSettings(std::move(completion));
     }
-    void getPendingNotificationRequests(
-        std::function<void(const std::vector<NotificationRequest>&)> completion) override {
+    void getPendingNotificationRequests(std::function<void(const PendingRequests&)> completion) override {
         note("look up");
         center_.getPendingNotificationRequests(std::move(completion));
     }
