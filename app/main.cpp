@@ -10,7 +10,6 @@
 #include "standard/SystemClock.h"
 
 #include <QDBusConnection>
-#include <QFile>
 #include <QFont>
 #include <QGuiApplication>
 #include <QIcon>
@@ -88,7 +87,7 @@ int main(int argc, char** argv) {
 
     desktop::DesktopPortal portal(bus);
     // A sandbox has no autostart entry.
-    if (QFile::exists(QStringLiteral("/.flatpak-info")))
+    if (desktop::DesktopPortal::isSandboxed())
         portal.startAtLogin(QString::fromStdString(composition.services().platform().texts.localizedString(
                                 "Show reminders while the window is closed")),
                             {QStringLiteral("tessivo-reminders")},

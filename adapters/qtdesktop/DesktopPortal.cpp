@@ -6,6 +6,7 @@
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusUnixFileDescriptor>
+#include <QFile>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -34,6 +35,10 @@ auto withoutResults(DesktopPortal::Answered answered) {
 }
 
 } // namespace
+
+bool DesktopPortal::isSandboxed() {
+    return QFile::exists(QStringLiteral("/.flatpak-info"));
+}
 
 void DesktopPortal::openFile(const QString& path, Answered answered) {
     call("org.freedesktop.portal.OpenURI", "OpenFile",

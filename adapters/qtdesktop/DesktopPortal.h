@@ -23,6 +23,9 @@ public:
 
     explicit DesktopPortal(const QDBusConnection& bus) : bus_(bus) {}
 
+    /// Whether this process runs in a sandbox, where the portal is the only way out.
+    [[nodiscard]] static bool isSandboxed();
+
     /// Lets the user choose the program that opens the file.
     void openFile(const QString& path, Answered answered);
     /// Asks that `command`, a program of this sandbox, be started at each login, and gives the user `reason`

@@ -1,6 +1,5 @@
 #include "qtdesktop/QtMailComposing.h"
 
-#include <QFile>
 #include <QTextDocument>
 #include <QUrl>
 
@@ -8,10 +7,6 @@
 
 namespace tessivo {
 namespace {
-
-bool isSandboxed() {
-    return QFile::exists(QStringLiteral("/.flatpak-info"));
-}
 
 QString plainText(const std::string& html) {
     QTextDocument document;
@@ -23,8 +18,9 @@ QString plainText(const std::string& html) {
 
 bool QtMailComposing::canSendMail() const {
     // A sandbox cannot see which programs there are: the portal looks for one, and asks the user.
-    return isSandboxed() ? portal_.canComposeMail()
-                         : desktop::DesktopPrograms::handles(QStringLiteral("mailto"));
+    return desktop::DesktopPortal::isSandboxed()
+               ? portal_.canComposeMail()
+               : desktop::DesktopPrograms::handles(QStringLiteral("mailto"));
 }
 
 void QtMailComposing::compose(const MailMessage& message, Finished finished) {
