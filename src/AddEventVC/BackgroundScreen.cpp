@@ -21,12 +21,14 @@ std::unique_ptr<ui::LineLayout> stripLayout() {
 
 } // namespace
 
-BackgroundScreen::BackgroundScreen(SharedServices& services, const char* colorHeading)
+BackgroundScreen::BackgroundScreen(SharedServices& services, const char* colorHeading,
+                                   std::optional<ui::Image> PickedMedia::*libraryPicture)
     : WizardScreen(services),
       currentDate(services.platform().clock.now()),
       colorsLabel(controls, "colorsLabel", localized(colorHeading)),
       colorCollection(controls, "colorCollection", stripLayout()),
-      gradientCollection(controls, "gradientCollection", stripLayout()) {}
+      gradientCollection(controls, "gradientCollection", stripLayout()),
+      libraryPicture_(libraryPicture) {}
 
 void BackgroundScreen::buildRows() {
     nextButton.addTarget(ui::PressEvent::UpInside, [this] { doneButtonTapped(); });
@@ -134,7 +136,7 @@ void BackgroundScreen::photosButtonTapped() {
 
 void BackgroundScreen::imagePickerControllerDidFinishPickingMedia(ImagePickerController& picker,
                                                                   const PickedMedia& info) {
-    const auto& photo = photoOf(info);
+    const auto& photo = info.*libraryPicture_;
     if (!photo)
         platform().console.stopProgram("The photo library gave no picture.");
     const bool hasAddress = info.imageURL && Url::parse(*info.imageURL);

@@ -19,7 +19,9 @@ class BackgroundScreen : public WizardScreen,
                          public FullScreenImageDelegate,
                          public ImagePickerControllerDelegate {
 public:
-    BackgroundScreen(SharedServices& services, const char* colorHeading);
+    /// `libraryPicture` is the one of the library's pictures that the card wears.
+    BackgroundScreen(SharedServices& services, const char* colorHeading,
+                     std::optional<ui::Image> PickedMedia::*libraryPicture);
 
     /// The marked item of each strip.
     std::optional<int> selectedColorIndexPath;
@@ -74,8 +76,6 @@ protected:
     [[nodiscard]] virtual PreviewView& card() = 0;
     /// The user has chosen: takes it into the event that is being made or changed.
     virtual void take(Choice choice) = 0;
-    /// Which of the library's pictures the card wears.
-    [[nodiscard]] virtual const std::optional<ui::Image>& photoOf(const PickedMedia& info) const = 0;
 
 private:
     void buildRow(ui::Button& row, std::string title);
@@ -87,6 +87,8 @@ private:
     void mark(std::optional<int> color, std::optional<int> gradient);
     void showPreview(const unsplash::UnsplashPhoto& photo, const Url& url, ui::Image image);
     [[nodiscard]] ui::GradientLayer* previewGradient();
+
+    std::optional<ui::Image> PickedMedia::*const libraryPicture_;
 };
 
 } // namespace tessivo

@@ -12,7 +12,8 @@
 namespace tessivo {
 
 EditEventBackgroundViewController::EditEventBackgroundViewController(SharedServices& services)
-    : BackgroundScreen(services, "Colors"), eventView(controls, "timeLabel", services) {}
+    : BackgroundScreen(services, "Colors", &PickedMedia::originalImage),
+      eventView(controls, "timeLabel", services) {}
 
 void EditEventBackgroundViewController::viewDidLoad() {
     buildFrame(localized("Edit Background"), "steps4", localized("Save"));

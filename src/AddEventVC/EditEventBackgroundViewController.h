@@ -28,10 +28,6 @@ protected:
     void viewDidLoad() override;
     [[nodiscard]] PreviewView& card() override { return eventView; }
     void take(Choice choice) override;
-    /// The whole photo.
-    [[nodiscard]] const std::optional<ui::Image>& photoOf(const PickedMedia& info) const override {
-        return info.originalImage;
-    }
 
 private:
     /// The layer that later choices of a gradient show and change.

@@ -17,7 +17,7 @@
 namespace tessivo {
 
 EventBackgroundViewController::EventBackgroundViewController(SharedServices& services)
-    : BackgroundScreen(services, "Solid Colors"),
+    : BackgroundScreen(services, "Solid Colors", &PickedMedia::editedImage),
       eventView(controls, "eventView", services.platform().colors, services.platform().console),
       dateFormatter(services.platform().dateFormatters.make(dateFormat)),
       eventFormatter(services.platform().dateFormatters.make(fullFormat)) {}

@@ -23,10 +23,6 @@ protected:
     void viewDidLoad() override;
     [[nodiscard]] PreviewView& card() override { return eventView; }
     void take(Choice choice) override;
-    /// The part of the photo that was in the frame.
-    [[nodiscard]] const std::optional<ui::Image>& photoOf(const PickedMedia& info) const override {
-        return info.editedImage;
-    }
 
 private:
     void showDraft();
