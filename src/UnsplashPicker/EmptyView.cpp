@@ -2,20 +2,13 @@
 
 #include "UnsplashPicker/PickerServices.h"
 
+#include <array>
+
 namespace tessivo::unsplash {
 namespace {
 
-std::string keyOf(EmptyViewState state) {
-    switch (state) {
-    case EmptyViewState::noResults:
-        return "error.noResults";
-    case EmptyViewState::noInternetConnection:
-        return "error.noInternetConnection";
-    case EmptyViewState::serverError:
-        return "error.serverError";
-    }
-    return {};
-}
+/// In the order of the states.
+constexpr std::array keys{"error.noResults", "error.noInternetConnection", "error.serverError"};
 
 } // namespace
 
@@ -39,8 +32,9 @@ EmptyView::EmptyView(ui::ControlRegistry& controls, const PickerServices& servic
 
 void EmptyView::setState(std::optional<EmptyViewState> state) {
     state_ = state;
-    titleLabel.setText(state ? services_.text(keyOf(*state) + ".title") : "");
-    descriptionLabel.setText(state ? services_.text(keyOf(*state) + ".description") : "");
+    const std::string key = state ? keys[static_cast<std::size_t>(*state)] : "";
+    titleLabel.setText(state ? services_.text(key + ".title") : "");
+    descriptionLabel.setText(state ? services_.text(key + ".description") : "");
 }
 
 } // namespace tessivo::unsplash

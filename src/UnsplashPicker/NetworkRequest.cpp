@@ -1,7 +1,6 @@
 #include "UnsplashPicker/NetworkRequest.h"
 
 #include "Ports/Console.h"
-#include "UnsplashPicker/RequestError.h"
 
 namespace tessivo::unsplash {
 namespace {
@@ -86,7 +85,8 @@ void NetworkRequest::complete(const Result<HttpResponse>& answer) {
             platform_.console.print(platform_.json.write(json.value()));
         return fail(RequestError::http(*status));
     }
-    fail(networkServiceError(*status));
+    fail({"NetworkService", 0, "Request failed with code " + std::to_string(*status),
+          "Wrong handling logic, wrong endpoing mapping or backend bug."});
 }
 
 } // namespace tessivo::unsplash

@@ -15,6 +15,26 @@ namespace tessivo::unsplash {
 using ParameterValue = std::variant<std::string, std::int64_t>;
 using Parameters = std::map<std::string, ParameterValue>;
 
+/// The request layer's own errors; those of the network or a decoder are passed on unchanged.
+namespace RequestError {
+
+inline constexpr auto domain = "RequestError";
+
+inline Error http(int status) {
+    return {domain, status, "The service refused the request with status " + std::to_string(status)};
+}
+inline Error invalidURL() {
+    return {domain, 1, "The request has no valid address"};
+}
+inline Error noHTTPResponse() {
+    return {domain, 2, "The answer is not one of HTTP"};
+}
+inline Error invalidJSONResponse() {
+    return {domain, 3, "The answer is not JSON"};
+}
+
+} // namespace RequestError
+
 /// One exchange with a server as an operation: what to ask is for subclasses to say, what the answer's status
 /// means is settled here.
 class NetworkRequest : public ConcurrentOperation {

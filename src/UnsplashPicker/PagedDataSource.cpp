@@ -6,35 +6,22 @@
 
 namespace tessivo::unsplash {
 
-PhotosDataSourceFactory PhotosDataSourceFactory::search(const PickerServices& services, std::string query) {
-    return {services, Kind::search, std::move(query)};
-}
-
-PhotosDataSourceFactory PhotosDataSourceFactory::collection(const PickerServices& services,
-                                                            std::string identifier) {
-    return {services, Kind::collection, std::move(identifier)};
-}
-
 Cursor PhotosDataSourceFactory::initialCursor() const {
     Cursor cursor;
-    if (kind_ == Kind::search)
+    if (kind == Kind::search)
         cursor.parameters = Parameters{
-            {"query", text_},
-            {"content_filter", std::string(rawValue(services_.configuration().contentFilterLevel))}};
+            {"query", text},
+            {"content_filter", std::string(rawValue(services.configuration().contentFilterLevel))}};
     else
-        cursor.parameters = Parameters{{"id", text_}};
+        cursor.parameters = Parameters{{"id", text}};
     return cursor;
 }
 
 std::shared_ptr<UnsplashPagedRequest> PhotosDataSourceFactory::request(const Cursor& cursor) const {
-    if (kind_ == Kind::search)
-        return std::make_shared<SearchPhotosRequest>(services_.platform(), services_.configuration(), cursor);
-    return std::make_shared<GetCollectionPhotosRequest>(services_.platform(), services_.configuration(),
+    if (kind == Kind::search)
+        return std::make_shared<SearchPhotosRequest>(services.platform(), services.configuration(), cursor);
+    return std::make_shared<GetCollectionPhotosRequest>(services.platform(), services.configuration(),
                                                         cursor);
-}
-
-Error DataSourceError::dataSourceIsFetching() {
-    return {"DataSourceError", 1, "The data source is fetching already"};
 }
 
 PagedDataSource::PagedDataSource(WorkQueue& work, PhotosDataSourceFactory itsFactory)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "UnsplashPicker/OperationQueue.h"
 #include "UnsplashPicker/UnsplashRequest.h"
 
 #include <atomic>
@@ -11,25 +10,16 @@ class PagedDataSource;
 class PickerServices;
 
 /// The photos that match a text, or those of a collection.
-class PhotosDataSourceFactory final {
-public:
-    [[nodiscard]] static PhotosDataSourceFactory search(const PickerServices& services, std::string query);
-    [[nodiscard]] static PhotosDataSourceFactory collection(const PickerServices& services,
-                                                            std::string identifier);
+struct PhotosDataSourceFactory {
+    enum class Kind { search, collection };
+
+    const PickerServices& services;
+    Kind kind;
+    std::string text; ///< what is searched for, or the collection's identifier
 
     /// The first page.
     [[nodiscard]] Cursor initialCursor() const;
     [[nodiscard]] std::shared_ptr<UnsplashPagedRequest> request(const Cursor& cursor) const;
-
-private:
-    enum class Kind { search, collection };
-
-    PhotosDataSourceFactory(const PickerServices& services, Kind kind, std::string text)
-        : services_(services), kind_(kind), text_(std::move(text)) {}
-
-    const PickerServices& services_;
-    Kind kind_;
-    std::string text_; ///< what is searched for, or the collection's identifier
 };
 
 /// Notified of fetches. `dataSourceWillStartFetching` comes on the main thread, the others on whatever thread
@@ -46,7 +36,9 @@ public:
 
 namespace DataSourceError {
 
-[[nodiscard]] Error dataSourceIsFetching();
+inline Error dataSourceIsFetching() {
+    return {"DataSourceError", 1, "The data source is fetching already"};
+}
 
 } // namespace DataSourceError
 

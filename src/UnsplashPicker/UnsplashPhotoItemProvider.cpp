@@ -5,20 +5,6 @@
 #include "UnsplashPicker/PickerServices.h"
 
 namespace tessivo::unsplash {
-namespace {
-
-constexpr auto domain = "ItemProviderError";
-
-} // namespace
-
-Error ItemProviderError::cannotDecodeLink(std::string_view key, std::string_view photoIdentifier) {
-    return {domain, 1,
-            "The photo " + std::string(photoIdentifier) + " has no address of kind " + std::string(key)};
-}
-
-Error ItemProviderError::invalidTypeIdentifier(std::string_view typeIdentifier) {
-    return {domain, 2, "A photo cannot be had as " + std::string(typeIdentifier)};
-}
 
 Result<UnsplashPhoto> UnsplashPhotoItemProvider::object(const JsonCoding& json, std::string_view data) {
     const auto value = json.parse(data);

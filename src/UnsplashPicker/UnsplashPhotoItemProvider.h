@@ -19,8 +19,15 @@ class PickerServices;
 
 namespace ItemProviderError {
 
-[[nodiscard]] Error cannotDecodeLink(std::string_view key, std::string_view photoIdentifier);
-[[nodiscard]] Error invalidTypeIdentifier(std::string_view typeIdentifier);
+inline constexpr auto domain = "ItemProviderError";
+
+inline Error cannotDecodeLink(std::string_view key, std::string_view photoIdentifier) {
+    return {domain, 1,
+            "The photo " + std::string(photoIdentifier) + " has no address of kind " + std::string(key)};
+}
+inline Error invalidTypeIdentifier(std::string_view typeIdentifier) {
+    return {domain, 2, "A photo cannot be had as " + std::string(typeIdentifier)};
+}
 
 } // namespace ItemProviderError
 

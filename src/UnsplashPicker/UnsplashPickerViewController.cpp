@@ -50,8 +50,8 @@ UnsplashPickerViewController::~UnsplashPickerViewController() {
 }
 
 void UnsplashPickerViewController::viewDidLoad() {
-    editorialDataSource_ = makeSource(
-        PhotosDataSourceFactory::collection(services_, services_.configuration().editorialCollectionId()));
+    editorialDataSource_ = makeSource(PhotosDataSourceFactory::Kind::collection,
+                                      services_.configuration().editorialCollectionId());
     dataSource_ = editorialDataSource_;
     view().setBackgroundColor(ui::ColorRef::named("mainBack"));
     titleLabel.setFont({17, ui::FontWeight::Semibold});
@@ -113,8 +113,10 @@ bool UnsplashPickerViewController::hasSearchBar() const {
     return services_.configuration().query.value_or("").empty();
 }
 
-std::shared_ptr<PagedDataSource> UnsplashPickerViewController::makeSource(PhotosDataSourceFactory factory) {
-    auto source = std::make_shared<PagedDataSource>(services_.platform().background, std::move(factory));
+std::shared_ptr<PagedDataSource> UnsplashPickerViewController::makeSource(PhotosDataSourceFactory::Kind kind,
+                                                                          std::string text) {
+    auto source = std::make_shared<PagedDataSource>(
+        services_.platform().background, PhotosDataSourceFactory{services_, kind, std::move(text)});
     source->delegate = weakSelf<PagedDataSourceDelegate>(this);
     return source;
 }
@@ -143,8 +145,7 @@ void UnsplashPickerViewController::screenSizeDidChange() {
 void UnsplashPickerViewController::setSearchText(const std::optional<std::string>& text) {
     const auto former = dataSource_;
     const bool searches = text && !text->empty();
-    dataSource_ =
-        searches ? makeSource(PhotosDataSourceFactory::search(services_, *text)) : editorialDataSource_;
+    dataSource_ = searches ? makeSource(PhotosDataSourceFactory::Kind::search, *text) : editorialDataSource_;
     if (former != dataSource_) {
         former->cancelFetch();
         dataSource_->resume();
@@ -190,12 +191,15 @@ void UnsplashPickerViewController::selectionChanged() {
     doneBarButtonItem.setEnabled(!collectionView.selectedItems().empty());
 }
 
-ui::Size UnsplashPickerViewController::waterfallSizeForItem(int item) {
+std::shared_ptr<const UnsplashPhoto> UnsplashPickerViewController::photoOf(int item) const {
     const auto items = dataSource_->items();
-    if (std::cmp_greater_equal(item, items->size()))
-        return {};
-    const UnsplashPhoto& photo = *(*items)[static_cast<std::size_t>(item)];
-    return {static_cast<double>(photo.width), static_cast<double>(photo.height)};
+    return std::cmp_less(item, items->size()) ? (*items)[static_cast<std::size_t>(item)] : nullptr;
+}
+
+ui::Size UnsplashPickerViewController::waterfallSizeForItem(int item) {
+    const auto photo = photoOf(item);
+    return photo ? ui::Size{static_cast<double>(photo->width), static_cast<double>(photo->height)}
+                 : ui::Size{};
 }
 
 int UnsplashPickerViewController::numberOfItems(ui::CollectionView&) {
@@ -214,9 +218,8 @@ void UnsplashPickerViewController::configure(PhotoCell& cell, int item) {
     // The picture is asked for at the width of the cell, which must be settled by then.
     cell.place(layout_.frame(item));
     cell.layoutIfNeeded();
-    const auto items = dataSource_->items();
-    if (std::cmp_less(item, items->size()))
-        cell.photoView.configure(*(*items)[static_cast<std::size_t>(item)], true);
+    if (const auto photo = photoOf(item))
+        cell.photoView.configure(*photo, true);
 }
 
 void UnsplashPickerViewController::willDisplayCell(ui::CollectionView&, ui::CollectionViewCell&, int item) {
@@ -238,9 +241,8 @@ void UnsplashPickerViewController::placePagingView() {
 void UnsplashPickerViewController::didSelectItem(ui::CollectionView&, int item) {
     if (collectionView.allowsMultipleSelection)
         return selectionChanged();
-    const auto items = dataSource_->items();
-    if (std::cmp_less(item, items->size()))
-        finish({(*items)[static_cast<std::size_t>(item)]});
+    if (const auto photo = photoOf(item))
+        finish({photo});
 }
 
 void UnsplashPickerViewController::didDeselectItem(ui::CollectionView&, int) {
@@ -256,11 +258,10 @@ bool UnsplashPickerViewController::didHoldItem(ui::CollectionView&, int item) {
 
 void UnsplashPickerViewController::doneBarButtonTapped() {
     searchController.searchBar.endEditing();
-    const auto items = dataSource_->items();
     Photos chosen;
     for (const int item : collectionView.selectedItems()) {
-        if (std::cmp_less(item, items->size()))
-            chosen.push_back((*items)[static_cast<std::size_t>(item)]);
+        if (const auto photo = photoOf(item))
+            chosen.push_back(photo);
     }
     finish(chosen);
 }

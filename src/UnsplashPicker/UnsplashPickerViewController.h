@@ -96,7 +96,10 @@ private:
     void setSearchText(const std::optional<std::string>& text);
     void search(const std::optional<std::string>& text);
     void searchTextChanged();
-    [[nodiscard]] std::shared_ptr<PagedDataSource> makeSource(PhotosDataSourceFactory factory);
+    [[nodiscard]] std::shared_ptr<PagedDataSource> makeSource(PhotosDataSourceFactory::Kind kind,
+                                                              std::string text);
+    /// Null for an item that the source does not have.
+    [[nodiscard]] std::shared_ptr<const UnsplashPhoto> photoOf(int item) const;
     void showFetched(bool hasNew);
     void showState(EmptyViewState state);
     void hideState();

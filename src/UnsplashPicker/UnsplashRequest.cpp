@@ -1,7 +1,6 @@
 #include "UnsplashPicker/UnsplashRequest.h"
 
 #include "UnsplashPicker/PhotoCoding.h"
-#include "UnsplashPicker/RequestError.h"
 
 namespace tessivo::unsplash {
 namespace {

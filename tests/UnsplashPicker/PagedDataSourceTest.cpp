@@ -6,7 +6,7 @@
 namespace tessivo::unsplash {
 namespace {
 
-/// Writes down what it hears.
+/// Records its calls.
 class Recorder final : public PagedDataSourceDelegate {
 public:
     void dataSourceWillStartFetching(PagedDataSource&) override { heard.push_back("start"); }
@@ -34,8 +34,8 @@ protected:
     }
     [[nodiscard]] const std::string& lastUrl() const { return http.exchanges().back()->request.url; }
 
-    std::shared_ptr<PagedDataSource> source =
-        std::make_shared<PagedDataSource>(work, PhotosDataSourceFactory::collection(services, "317099"));
+    std::shared_ptr<PagedDataSource> source = std::make_shared<PagedDataSource>(
+        work, PhotosDataSourceFactory{services, PhotosDataSourceFactory::Kind::collection, "317099"});
     std::shared_ptr<Recorder> recorder = std::make_shared<Recorder>();
 };
 
@@ -139,8 +139,8 @@ TEST_F(PagedDataSourceTest, ASearchCarriesItsFilter) {
     UnsplashPickerConfiguration configuration;
     configuration.contentFilterLevel = ContentFilterLevel::high;
     services.setConfiguration(configuration);
-    const auto search =
-        std::make_shared<PagedDataSource>(work, PhotosDataSourceFactory::search(services, "sea"));
+    const auto search = std::make_shared<PagedDataSource>(
+        work, PhotosDataSourceFactory{services, PhotosDataSourceFactory::Kind::search, "sea"});
     search->fetchItems();
     timeline.runPosted();
     EXPECT_EQ(lastUrl(), services.configuration().apiURL() +

@@ -1,7 +1,5 @@
 #include "PhotoJson.h"
 #include "PickerFixture.h"
-#include "UnsplashPicker/OperationQueue.h"
-#include "UnsplashPicker/RequestError.h"
 #include "UnsplashPicker/UnsplashRequest.h"
 
 namespace tessivo::unsplash {
