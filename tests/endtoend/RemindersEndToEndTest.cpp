@@ -18,7 +18,7 @@
 #include "freedesktop/ReminderService.h"
 #include "freedesktop/SessionBus.h"
 #include "icu/IcuCalendar.h"
-#include "session/PrivateSession.h"
+#include "processes/PrivateSession.h"
 #include "sqlite/SqliteNotificationQueue.h"
 #include "standard/SystemClock.h"
 #include "standard/ThreadWorkQueue.h"

@@ -1,4 +1,4 @@
-#include "session/PrivateSession.h"
+#include "processes/PrivateSession.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include "Event/EventItem.h"
 #include "fakes/RecordingConsole.h"
 #include "icu/IcuDateFormatters.h"
-#include "session/KilledProcess.h"
+#include "processes/KilledProcess.h"
 #include "sqlite/Database.h"
 #include "sqlite/EventColumns.h"
 #include "sqlite/SqliteEventStore.h"

@@ -1,6 +1,6 @@
 #include "qtdesktop/DesktopPreferences.h"
 
-#include "session/PrivateSession.h"
+#include "processes/PrivateSession.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>

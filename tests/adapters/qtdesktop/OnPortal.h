@@ -1,7 +1,7 @@
 #pragma once
 
 #include "adapters/qtdesktop/StandInPortal.h"
-#include "session/PrivateSession.h"
+#include "processes/PrivateSession.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "Event/CoreDataStack.h"
 #include "Event/EventItem.h"
 #include "fakes/RecordingConsole.h"
-#include "session/KilledProcess.h"
+#include "processes/KilledProcess.h"
 #include "sqlite/Database.h"
 #include "sqlite/EventColumns.h"
 #include "sqlite/SqliteEventStore.h"

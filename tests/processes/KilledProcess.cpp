@@ -1,4 +1,4 @@
-#include "session/KilledProcess.h"
+#include "processes/KilledProcess.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@
 namespace tessivo {
 namespace {
 
-// What changes a file or its folder.
+// The system calls that change a file or its folder.
 constexpr std::array writingCalls{SYS_openat,    SYS_write,  SYS_pwrite64, SYS_ftruncate, SYS_fsync,
                                   SYS_fdatasync, SYS_unlink, SYS_unlinkat, SYS_rename,    SYS_renameat2};
 

@@ -1,4 +1,4 @@
-#include "session/PrivateSession.h"
+#include "processes/PrivateSession.h"
 
 #include "freedesktop/Handles.h"
 
@@ -27,7 +27,7 @@ constexpr const char* busConfiguration = R"(<busconfig>
 </busconfig>
 )";
 
-/// The first line that a program prints, which goes on running.
+/// The first line of output of a program that keeps running.
 std::string firstLine(Process& process, const std::vector<std::string>& command) {
     std::array<int, 2> ends{};
     if (::pipe(ends.data()) != 0)

@@ -8,7 +8,7 @@
 
 namespace tessivo {
 
-/// Whether `condition` comes true within `seconds`; asked again and again.
+/// Polls `condition` until it holds; false if it does not within `seconds`.
 template <class Condition>
 bool eventually(Condition condition, double seconds = 10);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Process.h"
+#include "processes/Process.h"
 #include "support/TemporaryFolder.h"
 
 #include <string>
@@ -24,10 +24,10 @@ public:
     [[nodiscard]] bool hasShown(const std::string& title, const std::string& body) const;
 
     [[nodiscard]] static bool isOnBus(const std::string& name);
-    /// The connection that has the name, which no other connection ever bears; empty where none has it.
+    /// The unique name of the connection that owns `name`; empty if none does.
     [[nodiscard]] static std::string ownerOf(const std::string& name);
 
-    /// From now on the bus starts `program` when somebody calls `name`.
+    /// Makes the bus start `program` when somebody calls `name`.
     void addService(const std::string& name, const std::string& program);
 
     [[nodiscard]] const TemporaryFolder& folder() const { return folder_; }

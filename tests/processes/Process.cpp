@@ -1,4 +1,4 @@
-#include "session/Process.h"
+#include "processes/Process.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
