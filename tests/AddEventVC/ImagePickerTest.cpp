@@ -17,7 +17,7 @@ using testing::ElementsAre;
 
 constexpr auto photo = "/home/ada/sea side.jpg";
 
-/// A small file that says it is a photo of a hundred million pixels.
+/// A small file whose header claims a hundred million pixels.
 std::string hugePhoto(const ImageCoding& images) {
     std::string data = *images.jpeg(stripes(8, 8), 1);
     const auto frame = data.find("\xFF\xC0"); // its length, depth, height and width follow

@@ -1,8 +1,8 @@
 #include "Event/CoreDataStack.h"
 
-#include "Event/EventItem.h"
 #include "fakes/RecordingConsole.h"
 #include "sqlite/SqliteEventStore.h"
+#include "support/Events.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +37,7 @@ private:
 
 enum class Act { Add, Update, Write, Delete };
 
-using Row = std::pair<Uuid, std::string>; ///< identity and title
+using Row = std::pair<Uuid, std::string>; ///< id and title
 using Rows = std::vector<Row>;
 
 Rows rowsOf(CoreDataStack& stack) {
@@ -45,15 +45,6 @@ Rows rowsOf(CoreDataStack& stack) {
     for (const auto& event : stack.fetchEvents())
         rows.emplace_back(*event->id(), *event->title());
     return rows;
-}
-
-EventItem draft(const Uuid& id, const std::string& title) {
-    EventItem item;
-    item.id = id;
-    item.title = title;
-    item.repEvent = item.alertReminder = item.repReminder = item.timeFormat = item.color = item.gradient = 0;
-    item.eventType = true;
-    return item;
 }
 
 /// The shared stack shows `seen`; every other stack, and the next run of the program, what was last saved.
@@ -80,7 +71,7 @@ public:
 void perform(CoreDataStack& stack, Act act, const Uuid& id, const std::string& title) {
     switch (act) {
     case Act::Add:
-        return stack.addEvent(draft(id, title));
+        return stack.addEvent(plainEvent(title, "25 June 2030", id));
     case Act::Update:
         return stack.updateTitle(id, title);
     case Act::Write: {

@@ -6,6 +6,7 @@
 #include "fakes/MemoryEventStore.h"
 #include "fakes/RecordingConsole.h"
 #include "sqlite/SqliteEventStore.h"
+#include "support/Events.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -24,21 +25,15 @@ const Uuid identity = *Uuid::fromString("9A0B1C2D-3E4F-5061-7283-94A5B6C7D8E9");
 const Uuid stranger = *Uuid::fromString("00000000-0000-0000-0000-00000000ABCD");
 
 EventItem draft(const std::string& title, std::optional<Uuid> id = identity) {
-    EventItem item;
-    item.title = title;
-    item.dateEvent = "05 March 2031";
+    EventItem item = plainEvent(title, "05 March 2031", id);
     item.timeEvent = "6:30 PM";
     item.repEvent = 1;
     item.alertReminder = 2;
     item.repReminder = 3;
     item.remMess = "Bring a cake";
     item.timeFormat = 4;
-    item.color = 0;
-    item.gradient = NO_VALUE;
     item.photoPath = "file:///cake.jpg";
     item.unsplashPath = "https://images.example/cake";
-    item.eventType = true;
-    item.id = id;
     return item;
 }
 
@@ -266,7 +261,7 @@ TEST_F(CoreDataStackTest, AFetchRefreshesWhatIsUnchangedAndKeepsWhatIsNot) {
     EXPECT_FALSE(seen->eventType());
     EXPECT_TRUE(shared.fetchEvent(identity)->eventType());
 
-    // A save writes the changed attribute and no other: the title written meanwhile stands.
+    // A save writes only the changed attribute, so the title written meanwhile survives.
     ASSERT_EQ(reader.viewContext().save(), std::nullopt);
     EXPECT_THAT(titles(reader.fetchEvents()), ElementsAre("Name day"));
     EXPECT_FALSE(shared.fetchEvent(identity)->eventType());
@@ -325,7 +320,7 @@ TEST_F(CoreDataStackTest, RowsOutliveTheProgramInTheirOrder) {
     EXPECT_THAT(titles(next.fetchEvents()), ElementsAre("c", "a", "b"));
 }
 
-/// Faults that a sound disk does not show.
+/// Faults that a healthy disk never shows.
 class FailingStoreTest : public testing::Test {
 protected:
     FailingStoreTest() {

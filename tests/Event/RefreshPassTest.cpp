@@ -9,6 +9,7 @@
 #include "fakes/Timeline.h"
 #include "icu/IcuCalendar.h"
 #include "icu/IcuDateFormatters.h"
+#include "support/Events.h"
 
 #include <gmock/gmock.h>
 #include <rapidcheck/gtest.h>
@@ -30,18 +31,10 @@ protected:
     /// An event with its reminder off; tests change what matters to them.
     static EventItem event(const std::string& date, std::optional<std::string> time = std::nullopt,
                            std::int16_t repEvent = 0) {
-        EventItem item;
-        item.title = date;
-        item.dateEvent = date;
+        EventItem item = plainEvent(date, date);
         item.timeEvent = std::move(time);
         item.repEvent = repEvent;
-        item.alertReminder = NO_VALUE;
-        item.repReminder = NO_VALUE;
-        item.remMess = "";
         item.timeFormat = 1;
-        item.color = 0;
-        item.gradient = NO_VALUE;
-        item.eventType = true;
         return item;
     }
 
@@ -90,7 +83,7 @@ TEST_F(RefreshPassTest, AFinishedEventMovesToPastWithItsDate) {
     EXPECT_EQ(shared.fetchEvent(timed)->timeEvent(), "7:59 AM");
     EXPECT_FALSE(isFuture(allDay));
     EXPECT_EQ(shared.fetchEvent(allDay)->timeEvent(), "");
-    refresh(); // an event without a time is still one when its time is empty
+    refresh(); // an empty time is no time
     EXPECT_EQ(date(allDay), "15 January 2027");
 }
 
@@ -156,12 +149,12 @@ TEST_F(RefreshPassTest, ARollCarriesTheReminderAlongUnderTheSameIdentifier) {
     EXPECT_EQ(reminderOf(id), (DateComponents{2027, 1, 15, 8, 55, {}}));
     EXPECT_EQ(center.pending().size(), 1U);
     center.removePendingNotificationRequests({id.uuidString()});
-    refresh(); // it is ahead now, and what is ahead is left alone
+    refresh(); // it is ahead now, so the pass leaves it alone
     EXPECT_EQ(reminderOf(id), std::nullopt);
     EXPECT_THAT(console.lines(), ElementsAre("уведомление создано", "уведомление создано"));
 }
 
-TEST_F(RefreshPassTest, AnUnknownRepeatStandsStillAndHasItsReminderMadeAnewInEachPass) {
+TEST_F(RefreshPassTest, AnUnknownRepeatStandsStillAndItsReminderIsRenewedEachPass) {
     auto item = event("13 January 2027", "9:00 AM", 6);
     item.alertReminder = 1;
     const auto id = add(item);

@@ -76,18 +76,17 @@ TEST_P(ReminderRepeatRuleTest, RemindsAtTheNextWholeMultiple) {
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, ReminderRepeatRuleTest,
-    testing::Values(
-        RepeatCase{"Daily", 0, 2.25 * dayInSeconds, 0.75 * dayInSeconds},
-        RepeatCase{"AtAMultipleTheOneAfter", 0, 3 * dayInSeconds, dayInSeconds},
-        RepeatCase{"AtTheEventItself", 0, 0, dayInSeconds},
-        RepeatCase{"Weekly", 1, 8.75 * dayInSeconds, 5.25 * dayInSeconds},
-        RepeatCase{"Fortnightly", 2, 21 * dayInSeconds, 7 * dayInSeconds},
-        RepeatCase{"AMonthIsThirtyDays", 3, 37.5 * dayInSeconds, 22.5 * dayInSeconds},
-        RepeatCase{"AYearIs365Days", 4, 547.5 * dayInSeconds, 182.5 * dayInSeconds},
-        // A third of a day is no round number of periods, and what is left of a second is cut off.
-        RepeatCase{"ASecondEarlyWhereThePeriodsAreNotExact", 0, 3 * dayInSeconds + 28800, 57599},
-        // As happens when the shared date is that of another row.
-        RepeatCase{"OfADateAheadPastItsOwnMoment", 0, -0.25 * dayInSeconds, 1.25 * dayInSeconds}),
+    testing::Values(RepeatCase{"Daily", 0, 2.25 * dayInSeconds, 0.75 * dayInSeconds},
+                    RepeatCase{"AtAMultipleTheOneAfter", 0, 3 * dayInSeconds, dayInSeconds},
+                    RepeatCase{"AtTheEventItself", 0, 0, dayInSeconds},
+                    RepeatCase{"Weekly", 1, 8.75 * dayInSeconds, 5.25 * dayInSeconds},
+                    RepeatCase{"Fortnightly", 2, 21 * dayInSeconds, 7 * dayInSeconds},
+                    RepeatCase{"AMonthIsThirtyDays", 3, 37.5 * dayInSeconds, 22.5 * dayInSeconds},
+                    RepeatCase{"AYearIs365Days", 4, 547.5 * dayInSeconds, 182.5 * dayInSeconds},
+                    // A third of a day is no whole number of periods; fractions of a second are cut off.
+                    RepeatCase{"ASecondEarlyWhereThePeriodsAreNotExact", 0, 3 * dayInSeconds + 28800, 57599},
+                    // As happens when the shared date is that of another row.
+                    RepeatCase{"OfADateAheadPastItsOwnMoment", 0, -0.25 * dayInSeconds, 1.25 * dayInSeconds}),
     [](const auto& test) { return test.param.name; });
 
 TEST(ReminderRepeatRule, AnIntervalBeyondTheTableStopsTheProgram) {
@@ -113,7 +112,7 @@ EventItem itemOf(const EventRecord& record) {
     return item;
 }
 
-/// A scheduler between an event and a center whose answers come when the test says.
+/// A scheduler and a notification center that answers when the test says.
 class ReminderSchedulerTest : public testing::Test {
 protected:
     static EventRecord futureRecord() {
@@ -167,7 +166,7 @@ protected:
     const std::string notFound = "Уведомление с идентификатором " + identifier + " не найдено";
 };
 
-/// A place at which a notification is made, and what is its own there.
+/// A place in the program that makes a notification, and how it differs from the others.
 struct SiteCase {
     const char* name;
     std::function<void(ReminderScheduler&, const EventRecord&)> act;
@@ -203,7 +202,7 @@ std::vector<SiteCase> allSites() {
         {.name = "EditReminderWithOnePending", .act = edit, .onePending = true}};
 }
 
-/// Only events ahead come to the others.
+/// The other sites only see future events.
 std::vector<SiteCase> sitesOfPastEvents() {
     auto sites = allSites();
     std::erase_if(sites, [](const SiteCase& site) { return !site.makesPast; });

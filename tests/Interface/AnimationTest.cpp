@@ -75,7 +75,7 @@ TEST_F(AnimationTest, ASpringFollowsItsEquationAtEveryFrameRate) {
             for (const int frame : {1, 6, 15, 30}) {
                 const double before = static_cast<double>(frame) / rate;
                 line.advance(Seconds(before + 1.5 / rate));
-                // The first frame shows what has moved since the one before it.
+                // The first frame already shows the motion since the frame before it.
                 const double first = 1.0 / 60;
                 const double elapsed =
                     std::floor((before + 1.5 / rate) * rate + 1e-6) / rate - 1 / rate + first;

@@ -103,7 +103,7 @@ TEST_F(CollectionTest, AReloadGivesEachItemItsCellBack) {
     collection.reloadData();
     EXPECT_EQ(collection.visibleCells(), before);
     EXPECT_EQ(static_cast<NumberedCell&>(*before.at(0)).reuses, 1);
-    // Also where the pool holds others, and where some items come and go.
+    // Also when the pool holds other cells, and when items are inserted or deleted.
     show(100);
     collection.scrolledTo({0, 500});
     collection.scrolledTo({0, 700});

@@ -12,7 +12,7 @@
 namespace tessivo::ui {
 namespace {
 
-/// Counts what is decoded; the data "none" are no picture.
+/// Counts decoded pictures; the data "none" cannot be decoded.
 class CountedImages final : public ImageCoding {
 public:
     std::shared_ptr<const Bitmap> decode(std::string_view data,

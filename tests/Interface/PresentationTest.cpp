@@ -18,7 +18,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Writes each call of its life into a log.
+/// Logs each call of its life cycle.
 class LoggingScreen : public ViewController {
 public:
     LoggingScreen(WindowContext& window, std::vector<std::string>& log, std::string name)
@@ -173,7 +173,7 @@ TEST_F(PresentationTest, AnAlertGoesBeforeItsAnswerIsHeard) {
     EXPECT_THAT(answers, ElementsAre("root"));
 }
 
-/// A screen with a control of each kind that a press can change, and a count of what they told.
+/// A screen with a control of each kind that the user can act on, and a count of their calls.
 class PressedScreen final : public ViewController {
 public:
     explicit PressedScreen(WindowContext& window) : ViewController(window) {
@@ -188,7 +188,7 @@ public:
     }
     std::string screenName() const override { return "pressed"; }
 
-    /// Acts on every control; gives how many took it.
+    /// Acts on every control; returns how many responded.
     int pressAll() {
         told = 0;
         button.tap();

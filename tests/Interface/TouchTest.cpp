@@ -46,13 +46,13 @@ TEST(VelocityTrackerTest, TheLastMomentsCountMost) {
     EXPECT_NEAR(velocityAfter(moving(start, 20, -4)), -500, 1e-6);
     // A flick back of some 30 ms after a long drag.
     EXPECT_GT(velocityAfter(moving(moving(start, 25, -4), 4, 3)), 100);
-    // A rest before the finger goes throws nothing.
+    // A finger that rests before it lifts throws nothing.
     for (int pause = 101; pause < 400; pause += 7) {
         auto rested = moving({{0, 300.7}}, 20, -4.1);
         rested.push_back({static_cast<double>(pause), rested.back().x});
         EXPECT_EQ(velocityAfter(rested), 0) << pause;
     }
-    // The first move after a rest goes where it goes.
+    // The first move after a rest sets the direction.
     EXPECT_NEAR(velocityAfter({{0, 300}, {400, 312}}), 30, 1e-6);
     EXPECT_GT(velocityAfter({{0, 300}, {0, 312}}), 0) << "even where the device gives one time for both";
 }
@@ -144,14 +144,14 @@ TEST_F(TouchTest, ACardLooksPressedOnceAScrollIsRuledOut) {
     finger->release(time);
     EXPECT_FALSE(cell(1).isHighlighted());
     EXPECT_THAT(list->tapped, ElementsAre(1));
-    // A scroll never shows as a press.
+    // A scroll never highlights a cell.
     touch(2);
     rest(0.05);
     EXPECT_FALSE(moveBy(0, 30));
     rest(0.3);
     EXPECT_FALSE(cell(2).isHighlighted());
     finger->release(time);
-    // A quick tap shows for a moment after it.
+    // A quick tap highlights the cell for a moment.
     touch(3);
     finger->release(time);
     EXPECT_TRUE(cell(3).isHighlighted());
@@ -177,7 +177,7 @@ TEST_F(TouchTest, AHalfSecondsRestLiftsTheCardAndOpensItsMenu) {
     EXPECT_THAT(list->tapped, IsEmpty());
     collection.menuClosed();
     EXPECT_FALSE(cell(2).isLifted());
-    // Without a menu the rest is part of a tap.
+    // Without a menu a long press is a tap.
     list->hasMenu = false;
     touch(3);
     rest(1);
@@ -224,7 +224,7 @@ TEST_F(TouchTest, AReloadWaitsForTheFingerToGo) {
     finger->release(time);
     EXPECT_EQ(collection.numberOfItems(), 2);
     EXPECT_EQ(cell(1).velocities.size(), 2U) << "the drag has ended on its own cell";
-    // What a tap brings about comes at once, and a lost finger keeps nothing back.
+    // A tap takes effect at once, and a cancelled touch holds nothing back.
     list->reloads = true;
     list->items = 3;
     touch(1);

@@ -6,6 +6,7 @@
 #include "Ports/SavedSettings.h"
 #include "Support/SettingKeys.h"
 #include "Support/StartUp/Screens.h"
+#include "support/Events.h"
 #include "support/Program.h"
 
 #include <gtest/gtest.h>
@@ -66,16 +67,8 @@ protected:
 
     void store(const std::string& title, std::optional<std::string> time,
                const std::string& day = "25 June 2030") {
-        EventItem item;
-        item.title = title;
-        item.dateEvent = day;
+        EventItem item = plainEvent(title, day, program.services().platform().uuids.random());
         item.timeEvent = std::move(time);
-        item.repEvent = 0;
-        item.timeFormat = 0;
-        item.alertReminder = item.repReminder = item.gradient = NO_VALUE;
-        item.color = 0;
-        item.eventType = true;
-        item.id = program.services().platform().uuids.random();
         services.coreDataStack().addEvent(item);
     }
 
@@ -153,7 +146,7 @@ TEST_F(ListScreensTest, ATickUnderAQuestionMovesNoActToAnotherEvent) {
     const struct {
         const char* what;
         std::function<std::function<void()>(int)> ask;
-        std::function<std::string()> done; ///< which event the answer took, empty for none
+        std::function<std::string()> done; ///< the event that the answer acted on; empty for none
     } rows[] = {
         {"edit sheet", sheet, [&] { return screens.event ? *screens.event->title() : ""; }},
         {"menu, edit", menu(0), [&] { return screens.event ? *screens.event->title() : ""; }},

@@ -9,6 +9,7 @@
 #include "Ports/SavedSettings.h"
 #include "Support/LocalizationVariables.h"
 #include "Support/SettingKeys.h"
+#include "support/Events.h"
 #include "support/Program.h"
 
 #include <gmock/gmock.h>
@@ -23,16 +24,8 @@ using testing::ElementsAre;
 class ListTest : public testing::Test {
 protected:
     EventItem event(const std::string& title, const std::string& day, std::optional<std::string> time = {}) {
-        EventItem item;
-        item.title = title;
-        item.dateEvent = day;
+        EventItem item = plainEvent(title, day, program.services().platform().uuids.random());
         item.timeEvent = std::move(time);
-        item.repEvent = 0;
-        item.timeFormat = 0;
-        item.alertReminder = item.repReminder = item.gradient = NO_VALUE;
-        item.color = 0;
-        item.eventType = true;
-        item.id = program.services().platform().uuids.random();
         return item;
     }
 
@@ -116,7 +109,7 @@ TEST_F(ListTest, TheTickComesAtTheWholeMinuteAndThenEachMinute) {
     EXPECT_EQ(list(ListType::Past).numberOfObjectsInSection, 2);
 }
 
-// A daily event of long ago gains a day with each tick, so it counts them.
+// A daily event of long ago moves on by a day with each tick, so it counts the ticks.
 TEST_F(ListTest, EachAppearanceStartsATickMoreAndNoneStops) {
     auto daily = event("daily", "01 January 2020");
     daily.repEvent = 1;
@@ -189,28 +182,23 @@ TEST_F(ListTest, AUnitThatDoesNotExistLeavesTheOldNumber) {
 }
 
 TEST_F(ListTest, RowsThatBreakTheRecordStopTheProgram) {
-    const std::pair<const char*, void (*)(EventItem&)> cases[] = {
-        {"no background", [](EventItem& item) { item.color = NO_VALUE; }},
-        {"a colour beyond the table", [](EventItem& item) { item.color = 30; }},
+    const std::pair<const char*, void (*)(EventRecord&)> cases[] = {
+        {"no background", [](EventRecord& event) { event.color = NO_VALUE; }},
+        {"a colour beyond the table", [](EventRecord& event) { event.color = 30; }},
         {"a gradient below the table",
-         [](EventItem& item) { item.color = NO_VALUE, item.gradient = std::int16_t{-1}; }},
-        {"no title", [](EventItem& item) { item.title.reset(); }},
-        {"no date", [](EventItem& item) { item.dateEvent.reset(); }},
-        {"a date in another language", [](EventItem& item) { item.dateEvent = "25 Juni 2030"; }},
-        {"a time that is none", [](EventItem& item) { item.timeEvent = "25:00"; }},
-        {"no identity", [](EventItem& item) { item.id.reset(); }},
+         [](EventRecord& event) { event.color = NO_VALUE, event.gradient = std::int16_t{-1}; }},
+        {"no title", [](EventRecord& event) { event.title.reset(); }},
+        {"no date", [](EventRecord& event) { event.dateEvent.reset(); }},
+        {"a date in another language", [](EventRecord& event) { event.dateEvent = "25 Juni 2030"; }},
+        {"a time that is none", [](EventRecord& event) { event.timeEvent = "25:00"; }},
+        {"no identity", [](EventRecord& event) { event.id.reset(); }},
     };
     for (const auto& [what, spoil] : cases) {
-        EventItem broken = event("broken", "25 June 2030");
-        spoil(broken);
+        EventRecord record = fullRecord();
+        record.gradient = NO_VALUE;
+        record.photoPath = record.unsplashPath = std::nullopt;
+        spoil(record);
         EventCell cell(program.services());
-        EventRecord record;
-        record.title = broken.title;
-        record.dateEvent = broken.dateEvent;
-        record.timeEvent = broken.timeEvent;
-        record.color = *broken.color;
-        record.gradient = *broken.gradient;
-        record.id = broken.id;
         EXPECT_THROW(cell.configure(EventCoreData(record)), fakes::ProgramStopped) << what;
     }
 }
@@ -226,7 +214,7 @@ TEST_F(ListTest, LargeScreensGetLargerType) {
     store(event("large", "25 June 2030"));
     auto& future = list(ListType::Future);
     program.screen.resize({834, 1194},
-                          2); // as when the window tells its size, after the first list is laid out
+                          2); // as when the window reports its size after the first list is laid out
     EXPECT_EQ(future.mainlabel.font().size, 25);
     EXPECT_NEAR(card(future, 0).frame().width, 834 / 1.1, 1e-9);
     const auto& runs = card(future, 0).eventInformationLabel.styledText().runs;

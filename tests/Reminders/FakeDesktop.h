@@ -24,12 +24,13 @@ struct FakeDesktop {
     std::function<void(int call)> onShow = [](int) {};
 };
 
-/// One process's line to the desktop. What is under way when it is dropped never arrives, or is not answered.
+/// One process's connection to the desktop. Calls under way when it is dropped never arrive, or get no
+/// answer.
 class FakeDisplay final : public NotificationDisplay {
 public:
     FakeDisplay(fakes::Timeline& line, FakeDesktop& desktop) : line_(line), desktop_(desktop) {}
 
-    /// How long a notice takes to the desktop, and the answer back.
+    /// How long a notice takes to reach the desktop, and its answer to come back.
     void setLatency(Seconds there, Seconds back) {
         there_ = there;
         back_ = back;

@@ -11,6 +11,7 @@
 #include "icu/IcuCalendar.h"
 #include "icu/IcuDateFormatters.h"
 #include "standard/ThreadWorkQueue.h"
+#include "support/Events.h"
 
 #include <gmock/gmock.h>
 
@@ -110,7 +111,7 @@ TEST_F(QueuedNotificationCenterTest, AnotherCalendarsDaysGoIntoTheQueueInItsOwn)
 }
 
 // The line stands at 8:00:00 UTC on 15 January 2027.
-TEST_F(QueuedNotificationCenterTest, AMomentGoneByNeverFiresAndTakesTheRequestThatItReplacesAlong) {
+TEST_F(QueuedNotificationCenterTest, AMomentGoneByNeverFiresAndStillReplacesTheFormerRequest) {
     const DateComponents thisMinute{2027, 1, 15, 3, 0, {}};
     EXPECT_EQ(add(request("a", thisMinute)), std::nullopt);
     EXPECT_EQ(identifiers(), std::vector<std::string>{"a"}) << "its moment is now";
@@ -231,7 +232,7 @@ TEST_F(QueuedNotificationCenterTest, AQueueThatFailsIsToldOrGivesNothing) {
     EXPECT_EQ(asked.get_future().get(), disk.readFailure);
 }
 
-// The pass goes on on the main thread while the answers to its questions come on the center's.
+// The pass continues on the main thread while its answers arrive on the center's.
 TEST_F(QueuedNotificationCenterTest, ThePassAndItsAnswersRunBesideEachOther) {
     const IcuDateFormatters formatters("en_US", "America/New_York");
     fakes::RecordingConsole console;
@@ -241,17 +242,13 @@ TEST_F(QueuedNotificationCenterTest, ThePassAndItsAnswersRunBesideEachOther) {
     FetchEventDataType pass(store, shared, scheduler, formatters, calendar, line, console);
     constexpr int events = 60;
     for (int number = 0; number < events; ++number) {
-        EventItem item;
-        item.title = std::to_string(number);
-        item.dateEvent = "0" + std::to_string(1 + number % 9) + " January 2027";
+        EventItem item =
+            plainEvent(std::to_string(number), "0" + std::to_string(1 + number % 9) + " January 2027",
+                       Uuid{{static_cast<std::uint8_t>(number)}});
         item.timeEvent = std::to_string(1 + number % 11) + ":00 AM";
         item.repEvent = static_cast<std::int16_t>(number % 2);
-        item.alertReminder = 0;
-        item.repReminder = 0;
-        item.remMess = "";
-        item.timeFormat = item.color = item.gradient = 0;
+        item.alertReminder = item.repReminder = 0;
         item.eventType = number % 3 != 0;
-        item.id = Uuid{{static_cast<std::uint8_t>(number)}};
         shared.addEvent(item);
     }
     for (int minute = 0; minute < 20; ++minute) {
@@ -263,7 +260,8 @@ TEST_F(QueuedNotificationCenterTest, ThePassAndItsAnswersRunBesideEachOther) {
         line.advance(Seconds(60));
     }
     center->finish();
-    // Which title a request ends with hangs on who answered last; that each event has exactly one does not.
+    // Which title a request ends up with depends on which answer came last; that each event has exactly one
+    // does not.
     std::set<std::string> identifiers;
     std::set<std::optional<int>> hoursOfPastReminders;
     for (const auto& queued : *disk.pending) {

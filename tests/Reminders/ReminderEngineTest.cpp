@@ -22,7 +22,7 @@ constexpr Seconds minute{60};
 constexpr Seconds hour{3600};
 constexpr Seconds day{24 * 3600};
 
-/// The engine between a queue, a desktop and a clock, which a test can take away and give back.
+/// The engine with a queue, a desktop and a clock, each of which a test can take away and give back.
 class ReminderEngineTest : public testing::Test {
 protected:
     struct Process {
@@ -47,7 +47,8 @@ protected:
         start();
     }
 
-    /// Adds a request as the app does: by its own instance, then by telling the helper if there is one.
+    /// Adds a request as the app does: through its own instance of the queue, then notifies the helper if
+    /// there is one.
     void add(const std::string& identifier, Seconds fromNow, const std::string& body = "") {
         const auto when = calendar.components(line.now() + fromNow);
         EXPECT_EQ(
@@ -205,7 +206,7 @@ TEST_F(ReminderEngineTest, KeepsWhatNobodyCanShowUntilADesktopComesUp) {
     add("kept", minute);
     line.advance(hour / 2);
     EXPECT_EQ(disk.pending->size(), 1U);
-    // It tries again ever more rarely: after 1, 2, 4, 8 minutes.
+    // It retries at growing intervals: after 1, 2, 4, 8 minutes.
     EXPECT_EQ(process->display.calls, 5);
     process->display.comeUp();
     line.advance(Seconds(0.1));

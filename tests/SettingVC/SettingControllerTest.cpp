@@ -141,7 +141,7 @@ TEST_F(SettingsTest, RowsOpenTheirPagesAndDoNotStayLit) {
     EXPECT_THAT(screen.rowsOf(0).selectedItems(), IsEmpty());
     program.links.opened.clear();
     for (const int row : {0, 1, 2})
-        tap(screen, 3, row); // nobody has set these addresses
+        tap(screen, 3, row); // these addresses are not configured
     EXPECT_THAT(program.links.opened, IsEmpty());
 }
 

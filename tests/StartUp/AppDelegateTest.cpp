@@ -4,6 +4,7 @@
 #include "MainVC/MainViewController.h"
 #include "Ports/SavedSettings.h"
 #include "Support/SettingKeys.h"
+#include "support/Events.h"
 #include "support/Program.h"
 
 #include <gmock/gmock.h>
@@ -57,7 +58,7 @@ TEST_F(StartTest, EachLaunchFetchesTheSwitchesTwiceAndWaitsForNeither) {
     program.timeline.runPosted();
     EXPECT_EQ(program.console.take(), std::vector<std::string>(2, "Error: No error available."));
 
-    // With a service that never answers the lists are used all the same.
+    // The lists can be used even if the service never answers.
     program.remoteProject = {"http://service", "http://service", "project", "app", "key"};
     program.restart();
     program.timeline.advance(Seconds(10));
@@ -69,15 +70,8 @@ TEST_F(StartTest, EachLaunchFetchesTheSwitchesTwiceAndWaitsForNeither) {
 }
 
 TEST_F(StartTest, ALaunchMovesWhatHasPassedMeanwhile) {
-    EventItem item;
-    item.title = "Train";
-    item.dateEvent = "21 June 2030";
+    EventItem item = plainEvent("Train", "21 June 2030", program.services().platform().uuids.random());
     item.timeEvent = "11:00 AM";
-    item.repEvent = item.timeFormat = 0;
-    item.alertReminder = item.repReminder = item.gradient = NO_VALUE;
-    item.color = 3;
-    item.eventType = true;
-    item.id = program.services().platform().uuids.random();
     program.services().coreDataStack().addEvent(item);
     program.timeline.setWall(program.timeline.now() + Seconds(3600));
     program.restart();

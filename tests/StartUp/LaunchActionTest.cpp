@@ -5,6 +5,7 @@
 #include "Event/EventItem.h"
 #include "Extension/TabBar/CustomTabBarController.h"
 #include "MainVC/MainViewController.h"
+#include "support/Events.h"
 #include "support/Program.h"
 
 #include <gtest/gtest.h>
@@ -22,16 +23,8 @@ protected:
     }
 
     Uuid add(const std::string& date) {
-        EventItem item;
-        item.title = date;
-        item.dateEvent = date;
-        item.repEvent = 0;
-        item.alertReminder = item.repReminder = NO_VALUE;
-        item.remMess = "";
-        item.timeFormat = item.color = 0;
-        item.gradient = NO_VALUE;
+        EventItem item = plainEvent(date, date, Uuid{{1, static_cast<std::uint8_t>(ids.size())}});
         item.eventType = date.ends_with("2040");
-        item.id = Uuid{{1, static_cast<std::uint8_t>(ids.size())}};
         program.services().coreDataStack().addEvent(item);
         return *item.id;
     }

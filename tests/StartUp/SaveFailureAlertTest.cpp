@@ -1,9 +1,9 @@
 #include "Support/StartUp/SaveFailureAlert.h"
 
 #include "Event/CoreDataStack.h"
-#include "Event/EventItem.h"
 #include "Interface/AlertController.h"
 #include "Support/StartUp/PendingScreens.h"
+#include "support/Events.h"
 #include "support/Program.h"
 #include "json/JsonLocalizedTexts.h"
 
@@ -25,16 +25,9 @@ protected:
     void putBack() { fs::rename(away, file); }
 
     Uuid add(const std::string& title) {
-        EventItem item;
-        item.title = title;
-        item.dateEvent = "21 June 2031";
-        item.repEvent = item.timeFormat = 0;
-        item.alertReminder = item.repReminder = item.gradient = NO_VALUE;
-        item.color = 3;
-        item.eventType = true;
-        item.id = program.services().platform().uuids.random();
-        events().addEvent(item);
-        return *item.id;
+        const Uuid id = program.services().platform().uuids.random();
+        events().addEvent(plainEvent(title, "21 June 2031", id));
+        return id;
     }
 
     CoreDataStack& events() { return program.services().coreDataStack(); }

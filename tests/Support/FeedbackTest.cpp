@@ -12,6 +12,7 @@
 #include "fakes/MemorySavedSettings.h"
 #include "fakes/StandInDevice.h"
 #include "fakes/Timeline.h"
+#include "support/PlainScreen.h"
 
 #include <gmock/gmock.h>
 
@@ -19,12 +20,6 @@ namespace tessivo {
 namespace {
 
 using testing::Optional;
-
-class PlainScreen final : public ui::ViewController {
-public:
-    using ViewController::ViewController;
-    [[nodiscard]] std::string screenName() const override { return "PlainScreen"; }
-};
 
 class FeedbackTest : public testing::Test {
 protected:

@@ -220,7 +220,7 @@ TEST_F(SwipeActionsViewTest, GroundsAreTheActionsOwnOrThoseOfItsStyle) {
     EXPECT_NE(dynamic_cast<VisualEffectView*>(view.subviews()[0]), nullptr);
     EXPECT_EQ(view.backgroundColor(), ui::ColorRef::of(plain));
     EXPECT_TRUE(view.clipsToBounds());
-    // A button without a ground of its own shows no press.
+    // A button without a background of its own does not show a press.
     for (ui::Button* button : view.buttons())
         button->press(ui::PressEvent::Down);
     std::vector<bool> highlights;
@@ -292,7 +292,7 @@ TEST_F(SwipeActionsViewTest, AButtonLooksAsItsActionSaysAtRestAndWhilePressed) {
     EXPECT_TRUE(list->heard.back().starts_with("begin")) << "let go beside, nothing was chosen";
 }
 
-/// Notes what it is asked and told, and takes its own time.
+/// Records its calls, and takes its own time.
 class NotingExpansion final : public SwipeExpanding {
 public:
     SwipeExpansionAnimationTimingParameters timingParameters(std::span<ui::Button* const> buttons,

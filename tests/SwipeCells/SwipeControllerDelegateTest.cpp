@@ -20,7 +20,7 @@ const char* nameOf(Side side) {
     return side == Side::Left ? " left" : " right";
 }
 
-/// A cell of no kind of list, which notes what its controller asks and tells.
+/// A cell outside any list, which records the calls of its controller.
 class NotingCell final : public ui::View, public Swipeable, public SwipeControllerDelegate {
 public:
     NotingCell() {

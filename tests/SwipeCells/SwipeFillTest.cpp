@@ -12,7 +12,7 @@ using Timing = HandlerInvocationTiming;
 /// Cells of 320 by 100 points whose only button, 74 wide, fires when the row fills.
 class SwipeFillTest : public testing::Test {
 protected:
-    /// Drags the row of cell 1 past its expansion and lets go.
+    /// Drags the row of cell 1 past its expansion point and lets go.
     void fill(Side side, const SwipeExpansionStyle& style) {
         action = list->action("Delete");
         (side == Side::Left ? list->left : list->right) = SwipeActions{action};

@@ -12,7 +12,7 @@
 
 namespace tessivo::swipe {
 
-/// Notes what the user feels, and when the machine is made ready for it.
+/// Records haptic feedback, and when it is prepared.
 class CountingImpacts final : public ImpactGenerator {
 public:
     void prepare() override { acts += "p"; }
@@ -22,10 +22,10 @@ public:
     }
 
     int count = 0;
-    std::string acts; ///< p: made ready, i: felt
+    std::string acts; ///< p: prepared, i: felt
 };
 
-/// A collection of cells that swipe, with an owner that notes what it hears.
+/// A collection of swipeable cells, with an owner that records its calls.
 class SwipeList : public ui::CollectionViewDataSource,
                   public ui::CollectionViewDelegate,
                   public SwipeCollectionViewCellDelegate,

@@ -27,7 +27,7 @@ std::ostream& operator<<(std::ostream& out, const Step& step) {
 }
 
 rc::Gen<Step> anyStep() {
-    // A finger that moves is the common case.
+    // Moving the finger is the common case.
     return rc::gen::build<Step>(rc::gen::set(&Step::act, rc::gen::weightedElement<Act>({{4, Act::Touch},
                                                                                         {8, Act::Move},
                                                                                         {4, Act::LetGo},
@@ -107,10 +107,10 @@ void perform(Owner& owner, const Step& step) {
     case Act::Hide:
         owner.cell(step.item).hideSwipe(step.way < 0);
         return;
-    case Act::Show: { // the side and the manner by chance
+    case Act::Show: { // a random side, animated or not
         for (int item = 0; item < owner.count(); ++item) {
             if (owner.cell(item).state() == SwipeState::Dragging)
-                return; // what a finger holds nothing closes
+                return; // nothing closes a row that a finger holds
         }
         const auto side = step.velocity > 0 ? SwipeActionsOrientation::Left : SwipeActionsOrientation::Right;
         owner.cell(step.item).showSwipe(side, step.way < 0);

@@ -11,7 +11,7 @@
 
 namespace tessivo::swipe {
 
-/// A table of cells that swipe, with an owner that notes what it hears.
+/// A table of swipeable cells, with an owner that records its calls.
 class SwipeTable final : public SwipeTableViewCellDelegate, public std::enable_shared_from_this<SwipeTable> {
 public:
     [[nodiscard]] static std::shared_ptr<SwipeTable> make(double width = 320, int items = 5) {

@@ -66,7 +66,7 @@ TEST(SwipeTransitionLayoutTest, EveryStylePlacesThreeButtonsOfEighty) {
     }
 }
 
-/// Notes what it hears of its button.
+/// Records the progress of its button.
 class NotingTransition final : public SwipeActionTransitioning {
 public:
     void didTransition(const SwipeActionTransitioningContext& context) const override {

@@ -7,8 +7,7 @@
 #include "fakes/RecordingConsole.h"
 #include "fakes/ScriptedHttpClient.h"
 #include "fakes/Timeline.h"
-#include "support/Resources.h"
-#include "json/JsonLocalizedTexts.h"
+#include "support/PickerHost.h"
 #include "json/NlohmannJson.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +16,7 @@
 
 namespace tessivo::unsplash {
 
-/// Pictures for tests: the data "4x3" are a white picture of that size, all others are none.
+/// Pictures for tests: the data "4x3" decode to a white picture of that size; nothing else decodes.
 class SizeImages final : public ImageCoding {
 public:
     std::shared_ptr<const Bitmap> decode(std::string_view data, std::optional<PixelSize>) const override {
@@ -33,11 +32,6 @@ public:
 
     mutable int decoded = 0;
 };
-
-/// The module's own texts in a language.
-inline JsonLocalizedTexts pickerTexts(const std::string& language) {
-    return JsonLocalizedTexts::fromJson(resource("unsplash-texts/" + language + ".json")).value();
-}
 
 /// The picker's machine on virtual time: a scripted network, real JSON.
 class PickerTest : public testing::Test {

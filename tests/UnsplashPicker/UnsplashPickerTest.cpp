@@ -6,6 +6,8 @@
 #include "PickerFixture.h"
 #include "UnsplashPicker/PhotoCell.h"
 #include "UnsplashPicker/UnsplashPickerPreviewViewController.h"
+#include "support/PickerHost.h"
+#include "support/PlainScreen.h"
 
 #include <gmock/gmock.h>
 
@@ -14,27 +16,12 @@ namespace {
 
 using testing::HasSubstr;
 
-class Blank final : public ui::ViewController {
-public:
-    using ViewController::ViewController;
-    [[nodiscard]] std::string screenName() const override { return "Blank"; }
-};
-
-class Host final : public UnsplashPickerDelegate {
-public:
-    void photoPickerDidSelect(UnsplashPicker&, const Photos& photos) override { chosen = photos; }
-    void photoPickerDidCancel(UnsplashPicker&) override { ++cancelled; }
-
-    std::optional<Photos> chosen;
-    int cancelled = 0;
-};
-
 /// The picker on a screen with room for two columns.
 class UnsplashPickerTest : public PickerTest {
 protected:
     UnsplashPickerTest() {
         configuration.accessKey = "key";
-        stack.setRoot(std::make_shared<Blank>(window));
+        stack.setRoot(std::make_shared<PlainScreen>(window));
     }
 
     /// Presents a picker; the first page is under way then.
@@ -84,7 +71,7 @@ protected:
     ui::Animations animations{timeline, timeline};
     ui::WindowContext window{mainScreen, animations};
     ui::PresentationStack stack{window};
-    std::shared_ptr<Host> host = std::make_shared<Host>();
+    std::shared_ptr<PickerHost> host = std::make_shared<PickerHost>();
     std::shared_ptr<UnsplashPicker> picker;
     UnsplashPickerConfiguration configuration;
 };
@@ -194,7 +181,7 @@ TEST_F(UnsplashPickerTest, ReturnInAnEmptyFieldLetsThePageThatLoadsComeIn) {
     EXPECT_EQ(screen.collectionView.numberOfItems(), 60);
 }
 
-TEST_F(UnsplashPickerTest, ASearchWhileAPageLoadsNeitherShowsAnErrorAfterwardsNorEndsPaging) {
+TEST_F(UnsplashPickerTest, ASearchWhileAPageLoadsShowsNoErrorAndEndsNoPaging) {
     auto& screen = openWith(30);
     auto& bar = screen.searchController.searchBar;
     const auto searchAndReturn = [&](bool beforeTheFetchStarts) {
@@ -259,7 +246,7 @@ TEST_F(UnsplashPickerTest, AChoiceIsHandedOnAndToldToTheService) {
     EXPECT_EQ(host->chosen->front()->identifier, "p2");
     EXPECT_EQ(http.exchanges().back()->request.url, "https://api.test/photos/p2/download?client_id=key");
     EXPECT_TRUE(http.exchanges().back()->request.headers.empty());
-    EXPECT_EQ(stack.top()->screenName(), "Blank");
+    EXPECT_EQ(stack.top()->screenName(), "PlainScreen");
 }
 
 TEST_F(UnsplashPickerTest, SeveralAreChosenWithDone) {
@@ -284,7 +271,7 @@ TEST_F(UnsplashPickerTest, CancellingClosesItAndEndsItsFetch) {
     auto& screen = open();
     screen.cancelBarButtonItem.tap();
     EXPECT_EQ(host->cancelled, 1);
-    EXPECT_EQ(stack.top()->screenName(), "Blank");
+    EXPECT_EQ(stack.top()->screenName(), "PlainScreen");
     std::weak_ptr<UnsplashPicker> gone = picker;
     picker.reset();
     timeline.advance(Seconds(1));
@@ -294,7 +281,7 @@ TEST_F(UnsplashPickerTest, CancellingClosesItAndEndsItsFetch) {
 
 TEST_F(UnsplashPickerTest, AFetchGoesOnUnderAnotherScreenAndEndsWithASearch) {
     open();
-    const auto over = std::make_shared<Blank>(window);
+    const auto over = std::make_shared<PlainScreen>(window);
     picker->present(over, false);
     over->dismiss(false);
     timeline.runPosted();
@@ -345,7 +332,7 @@ TEST_F(UnsplashPickerTest, ALatePictureDoesNotLandOnAReusedCell) {
     auto& screen = openWith(30);
     const auto first = cell(0);
     const auto exchange = newest("i.test/p1?");
-    // The answer has come in already as the cell changes hands.
+    // The answer is already in when the cell is reused.
     http.answer(exchange, HttpResponse{200, {}, "4x3"});
     screen.collectionView.setContentOffset({0, 1500});
     ASSERT_EQ(cell(0), nullptr);

@@ -2,7 +2,7 @@
 
 #include "fakes/MemoryEventStore.h"
 #include "sqlite/SqliteEventStore.h"
-#include "support/EventRecords.h"
+#include "support/Events.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>

@@ -49,7 +49,7 @@ class RealDesk final : public Desk {
 public:
     NotificationCenter& center() override { return center_; }
     void settle() override {
-        // Once for the work, once for what its completions asked; between them, the main thread's share.
+        // Once for the work, once for what its completions requested; in between, the main thread's share.
         for (int round = 0; round < 3; ++round) {
             std::promise<void> done;
             center_.getNotificationSettings([&](AuthorizationStatus) { done.set_value(); });
@@ -107,7 +107,7 @@ protected:
         return seen;
     }
 
-    /// Asks, and notes what comes back.
+    /// Asks, and records the answer.
     void ask() {
         center.requestAuthorization(7, [this](bool granted, const Outcome& error) {
             answers.push_back(granted);

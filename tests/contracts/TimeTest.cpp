@@ -32,8 +32,7 @@ public:
     virtual MainQueue& queue() = 0;
     virtual FrameClock& frames() = 0;
     [[nodiscard]] virtual Seconds elapsed() const = 0;
-    /// Lets time pass until `done`; false where that has not come about before a bound that only a fault
-    /// reaches.
+    /// Lets time pass until `done`; false if that takes longer than only a fault can explain.
     virtual bool runUntil(const std::function<bool()>& done) = 0;
 };
 

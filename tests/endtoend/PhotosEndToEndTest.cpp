@@ -3,7 +3,6 @@
 #include "Interface/PresentationStack.h"
 #include "UnsplashPicker/PhotoCell.h"
 #include "UnsplashPicker/PickerServices.h"
-#include "UnsplashPicker/UnsplashPicker.h"
 #include "adapters/qtnetwork/QtApplication.h"
 #include "fakes/RecordingConsole.h"
 #include "fakes/Timeline.h"
@@ -12,9 +11,9 @@
 #include "qtnetwork/QtHttpClient.h"
 #include "qtnetwork/QtResponseCaches.h"
 #include "standard/ThreadWorkQueue.h"
-#include "support/Resources.h"
+#include "support/PickerHost.h"
+#include "support/PlainScreen.h"
 #include "support/TemporaryFolder.h"
-#include "json/JsonLocalizedTexts.h"
 #include "json/NlohmannJson.h"
 
 #include <gmock/gmock.h>
@@ -28,21 +27,7 @@ namespace {
 
 using testing::Contains;
 
-class Blank final : public ui::ViewController {
-public:
-    using ViewController::ViewController;
-    [[nodiscard]] std::string screenName() const override { return "Blank"; }
-};
-
-class Host final : public UnsplashPickerDelegate {
-public:
-    void photoPickerDidSelect(UnsplashPicker&, const Photos& photos) override { chosen = photos; }
-    void photoPickerDidCancel(UnsplashPicker&) override {}
-
-    Photos chosen;
-};
-
-/// The real coding, which notes whether the main thread ever had to wait for it.
+/// The real decoder, which records whether the main thread ever had to wait for it.
 class WatchedImages final : public ImageCoding {
 public:
     std::shared_ptr<const Bitmap> decode(std::string_view data,
@@ -61,10 +46,6 @@ private:
     std::thread::id mainThread_ = std::this_thread::get_id();
 };
 
-JsonLocalizedTexts englishTexts() {
-    return JsonLocalizedTexts::fromJson(resource("unsplash-texts/en.json")).value();
-}
-
 /// The photo browser with its real parts, without a window, against the demo service.
 class PhotosEndToEndTest : public testing::Test {
 protected:
@@ -73,7 +54,7 @@ protected:
         configuration.accessKey = "any key";
         picker = UnsplashPicker::make(services, window, configuration);
         picker->photoPickerDelegate = host;
-        stack.setRoot(std::make_shared<Blank>(window));
+        stack.setRoot(std::make_shared<PlainScreen>(window));
         stack.top()->present(picker, false);
     }
 
@@ -89,7 +70,7 @@ protected:
         });
     }
     void scrollTo(double y) { screen().collectionView.setContentOffset({0, y}); }
-    /// As a finger does, past every photo.
+    /// Scrolls past every photo, as a finger does.
     void scrollToEnd() {
         const double end = screen().collectionView.contentSize().height - mainScreen.height();
         for (double y = screen().collectionView.contentOffset().y; y < end; y += 100)
@@ -120,7 +101,7 @@ protected:
     NlohmannJson json;
     WatchedImages images;
     QtResponseCaches caches{folder / "caches"};
-    JsonLocalizedTexts texts = englishTexts();
+    JsonLocalizedTexts texts = pickerTexts("en");
     QtMainQueue mainQueue;
     ThreadWorkQueue background;
     QtHttpClient http;
@@ -130,7 +111,7 @@ protected:
     ui::Animations animations{timeline, timeline};
     ui::WindowContext window{mainScreen, animations};
     ui::PresentationStack stack{window};
-    std::shared_ptr<Host> host = std::make_shared<Host>();
+    std::shared_ptr<PickerHost> host = std::make_shared<PickerHost>();
     std::shared_ptr<UnsplashPicker> picker;
 };
 
@@ -171,8 +152,8 @@ TEST_F(PhotosEndToEndTest, SaysWhyThereIsNothingToSee) {
 TEST_F(PhotosEndToEndTest, TellsTheServiceOfTheChoiceOnce) {
     ASSERT_TRUE(showsPhotos(30));
     screen().collectionView.tapItem(2);
-    ASSERT_EQ(host->chosen.size(), 1U);
-    EXPECT_EQ(host->chosen.front()->identifier, "demo-2");
+    ASSERT_EQ(host->chosen->size(), 1U);
+    EXPECT_EQ(host->chosen->front()->identifier, "demo-2");
     EXPECT_TRUE(runUntil([&] { return timesTold("download demo-2") > 0; }));
     EXPECT_EQ(timesTold("download demo-2"), 1);
 }

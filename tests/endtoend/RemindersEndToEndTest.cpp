@@ -22,6 +22,7 @@
 #include "sqlite/SqliteNotificationQueue.h"
 #include "standard/SystemClock.h"
 #include "standard/ThreadWorkQueue.h"
+#include "support/Events.h"
 #include "support/Wizard.h"
 
 #include <gmock/gmock.h>
@@ -108,7 +109,7 @@ TEST_F(RemindersEndToEndTest, TheBusStartsTheHelperWhenTheQueueChanges) {
     EXPECT_TRUE(arrives("Start", "me"));
 }
 
-/// Notes what the program is asked for.
+/// Records what the program is asked to do.
 int activated(sd_bus_message* call, void* data, sd_bus_error*) {
     const char* action = nullptr;
     const char* event = nullptr;
@@ -117,7 +118,7 @@ int activated(sd_bus_message* call, void* data, sd_bus_error*) {
     return sd_bus_reply_method_return(call, nullptr);
 }
 
-/// Stands in for the program: takes its place on the bus and notes what it is asked for.
+/// Stands in for the program: takes its place on the bus and records what it is asked to do.
 class StandInProgram {
 public:
     StandInProgram() {
@@ -243,7 +244,7 @@ TEST_F(RemindersEndToEndTest, AHelperWhoseProgramIsReplacedGoesOnAsTheNewOne) {
 }
 
 // As the package does it after an upgrade, whose old file is gone by then.
-TEST_F(RemindersEndToEndTest, AHelperThatIsHungUpBeginsAnewAsTheSameProcessAndStillReminds) {
+TEST_F(RemindersEndToEndTest, AHelperThatIsHungUpBeginsAnewInItsProcessAndStillReminds) {
     session->startDaemon();
     startHelper();
     const auto before = PrivateSession::ownerOf(remindersName);
@@ -257,7 +258,7 @@ TEST_F(RemindersEndToEndTest, AHelperThatIsHungUpBeginsAnewAsTheSameProcessAndSt
     EXPECT_TRUE(arrives("Upgraded", "meanwhile"));
 }
 
-// The whole road: through the wizard's screens into the store and the queue, and from there to the desktop.
+// The whole way: through the wizard's screens into the store and the queue, and from there to the desktop.
 TEST_F(RemindersEndToEndTest, AnEventOfTheWizardReminds) {
     session->startDaemon();
     startHelper();
@@ -301,13 +302,10 @@ TEST_F(RemindersEndToEndTest, EditsOfAnEventMoveItsReminder) {
     Program program(*center);
     program.timeline.setWall(clock.now());
     const auto store = [&](const char* title) {
-        EventItem item;
-        item.title = title;
-        item.dateEvent = program.dateFormatters.make(dateFormat)->string(clock.now() + Seconds(9 * 86400));
-        item.repEvent = item.timeFormat = item.color = item.alertReminder = item.repReminder = 0;
-        item.gradient = NO_VALUE;
-        item.eventType = true;
-        item.id = program.services().platform().uuids.random();
+        EventItem item = plainEvent(
+            title, program.dateFormatters.make(dateFormat)->string(clock.now() + Seconds(9 * 86400)),
+            program.services().platform().uuids.random());
+        item.alertReminder = item.repReminder = 0;
         program.services().coreDataStack().addEvent(item);
         std::promise<Outcome> added;
         const auto soon = calendar.components(clock.now() + Seconds(4));

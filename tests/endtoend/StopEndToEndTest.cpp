@@ -9,7 +9,7 @@
 namespace tessivo {
 namespace {
 
-/// The name under which the process runs by now.
+/// The name under which the process runs now.
 std::string nameOf(const Process& process) {
     std::ifstream commandLine("/proc/" + std::to_string(process.id()) + "/cmdline");
     std::string name;

@@ -10,6 +10,7 @@
 #include "sqlite/EventColumns.h"
 #include "sqlite/SqliteEventStore.h"
 #include "sqlite/StoredDates.h"
+#include "support/Events.h"
 #include "support/TemporaryFolder.h"
 #include "json/JsonLocalizedTexts.h"
 
@@ -52,10 +53,7 @@ protected:
         const IcuDateFormatters formatters(locale, zone);
         const auto date = formatters.make(dateFormat);
         const auto time = formatters.make(timeFormat);
-        EventItem item;
-        item.repEvent = item.alertReminder = item.repReminder = item.timeFormat = item.color = item.gradient =
-            0;
-        item.eventType = true;
+        EventItem item = plainEvent();
         for (const Instant moment : moments()) {
             item.dateEvent = date->string(moment);
             item.timeEvent = time->string(moment);
@@ -65,7 +63,7 @@ protected:
         stack.addEvent(item);
     }
 
-    /// What a program in that locale takes the events for; nothing for one that it cannot read.
+    /// When a program in that locale thinks the events are; empty for dates that it cannot parse.
     std::vector<std::optional<Instant>> momentsIn(const std::string& locale) {
         sqlite::SqliteEventStore store(file());
         CoreDataStack stack(store, console);

@@ -1,11 +1,11 @@
 #include "app/stop/StopWindow.h"
 
 #include "Event/CoreDataStack.h"
-#include "Event/EventItem.h"
 #include "fakes/RecordingConsole.h"
 #include "sqlite/Database.h"
 #include "sqlite/EventColumns.h"
 #include "sqlite/SqliteEventStore.h"
+#include "support/Events.h"
 #include "support/TemporaryFolder.h"
 #include "json/JsonLocalizedTexts.h"
 
@@ -22,12 +22,7 @@ protected:
     StopWindowTest() {
         sqlite::SqliteEventStore store(file(), [] { return "de_DE"; });
         CoreDataStack stack(store, console);
-        EventItem item;
-        item.dateEvent = "05 März 2031";
-        item.repEvent = item.alertReminder = item.repReminder = item.timeFormat = item.color = item.gradient =
-            0;
-        item.eventType = true;
-        stack.addEvent(item);
+        stack.addEvent(plainEvent("", "05 März 2031"));
     }
 
     std::filesystem::path file() const { return folder / "events.sqlite"; }

@@ -7,14 +7,15 @@
 #include "Event/EventItem.h"
 #include "Ports/Calendar.h"
 #include "Support/ScreenFactory.h"
+#include "support/Events.h"
 #include "support/Program.h"
 
 #include <gmock/gmock.h>
 
 namespace tessivo {
 
-/// Writes down, in order, each save with what it left in the store, each call on the notification center,
-/// each line of the console and each screen that comes.
+/// Records, in order, each save with what it left in the store, each call on the notification center, each
+/// line of the console and each screen that comes.
 class Trace final : public NotificationCenter, public DataChangeDelegate {
 public:
     explicit Trace(fakes::FakeNotificationCenter& center) : center_(center) {}
@@ -69,19 +70,13 @@ protected:
 
     /// The event that the screens change: in 4 days, at a time, reminding 10 minutes before.
     EventItem summer() {
-        EventItem item;
-        item.title = "Summer";
-        item.dateEvent = "25 June 2030";
+        EventItem item = plainEvent("Summer", "25 June 2030", id);
         item.timeEvent = "6:30 PM";
-        item.repEvent = 0;
         item.timeFormat = 1;
         item.alertReminder = 2;
         item.repReminder = 0;
         item.remMess = "Pack";
         item.color = 4;
-        item.gradient = NO_VALUE;
-        item.eventType = true;
-        item.id = id;
         return item;
     }
 
@@ -105,7 +100,7 @@ protected:
         return program.top<Screen>();
     }
 
-    /// Presses Save, lets everything answer, and gives what happened.
+    /// Presses Save, lets everything answer, and returns what happened.
     std::vector<std::string> save(WizardScreen& screen) {
         EventItem due = summer();
         due.id = program.services().platform().uuids.random();

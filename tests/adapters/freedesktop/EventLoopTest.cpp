@@ -73,7 +73,7 @@ TEST_F(EventLoopTest, AnAlarmMayBeSetAnewWhileItRings) {
     EXPECT_EQ(rings, 3);
 }
 
-/// Until its end the process gets no more descriptors.
+/// While it lives, the process gets no more descriptors.
 class DescriptorShortage {
 public:
     DescriptorShortage() {

@@ -20,9 +20,9 @@ TEST(NoticeTextTest, KeepsTextAndReplacesWhatIsNone) {
         {"Ä я 本 🎂", "Ä я 本 🎂"},
         {"\xF4\x8F\xBF\xBF", "\xF4\x8F\xBF\xBF"},    // the last character there is
         {"a\0b"s, "a" + bad + "b"},                  // a zero would end the text
-        {"\x80", bad},                               // goes on from nothing
+        {"\x80", bad},                               // a continuation without a start
         {"\xC3", bad},                               // breaks off
-        {"\xE2\x82x", bad + bad + "x"},              // breaks off within
+        {"\xE2\x82x", bad + bad + "x"},              // breaks off inside a text
         {"\xC0\x80", bad + bad},                     // a zero in disguise
         {"\xED\xA0\x80", bad + bad + bad},           // half of a pair of 16-bit units
         {"\xF4\x90\x80\x80", bad + bad + bad + bad}, // beyond the last character

@@ -90,7 +90,7 @@ TEST(SkippedMidnight, EverySuchDayOfEveryZoneBeginsAtTheJump) {
         components.day = static_cast<int>(static_cast<unsigned>(day.day()));
         EXPECT_EQ(calendar.date(components), begins);
     }
-    // Guards the walk itself: the years hold many such days, all over the world.
+    // Guards the walk itself: these years have many such days all over the world.
     EXPECT_GT(found.size(), 500U);
     EXPECT_GT(zones.size(), 60U);
 }

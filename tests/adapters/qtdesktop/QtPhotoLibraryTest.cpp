@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 using testing::HasSubstr;
 using testing::Not;
 
-/// Runs the main loop until `done`, or for as long as only a fault takes.
+/// Runs the main loop until `done`, or until only a fault can explain the delay.
 void runUntil(const std::function<bool()>& done) {
     QElapsedTimer timer;
     timer.start();
@@ -38,7 +38,7 @@ protected:
     }
     ~PhotoChooser() override { ::setenv("PATH", path.c_str(), 1); }
 
-    /// A program that writes down what it was asked, says `answer` and ends with that code.
+    /// A program that records its arguments, prints `answer` and exits with that code.
     void install(const std::string& name, const std::string& answer, int code) const {
         std::ofstream(folder.path() / name)
             << "#!/bin/sh\nprintf '%s\\n' " << name << " \"$@\" > '" << (folder / "called").string()
@@ -113,7 +113,7 @@ TEST_F(PhotoChooser, TurningAwayIsNoErrorAndAFailingOrMissingProgramIs) {
     EXPECT_EQ(choose().error().description, "This desktop has no window to choose a photo in.");
 }
 
-/// Names that an address cannot hold as they are, or in which it has marks of its own.
+/// Names with characters that an address must escape, or that mean something in one.
 const std::vector<std::string> oddNames{"IMG[1].jpg", "a b (2).jpg",     "100% #1?.jpg",
                                         "%41.jpg",    "a;b=c&d+e.jpg",   "отпуск.jpg",
                                         "😀.jpg",      "back\\slash.jpg", "latin\xE9.jpg"};

@@ -11,7 +11,7 @@
 
 namespace tessivo {
 
-/// The desktop's portal on a bus of the test's own. Reads what it is handed, and answers as the test says.
+/// The desktop's portal on a bus of the test's own. Records what it is given, and answers as the test says.
 class StandInPortal final : public QDBusVirtualObject {
 public:
     /// Takes the portal's name on the bus at `address`.
@@ -28,10 +28,10 @@ public:
     };
 
     bool refuses = false; ///< fails each call, as a portal without that interface does
-    uint response = 0;    ///< 0 success, 1 turned away by the user, 2 failed
+    uint response = 0;    ///< 0 success, 1 cancelled by the user, 2 failed
     bool answers = true;  ///< false leaves the question open
     QStringList uris;     ///< of what the user chooses
-    int closed = 0;       ///< questions that were taken back
+    int closed = 0;       ///< requests that were withdrawn
     std::vector<Asked> asked;
 
     QString introspect(const QString&) const override { return {}; }

@@ -22,7 +22,7 @@ inline std::string contentsOf(const std::filesystem::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// The desktop's programs on the search path, for as long as this lives. Each writes down what it was asked.
+/// The desktop's programs on the search path, for as long as this lives. Each records its arguments.
 class StandInPrograms {
 public:
     StandInPrograms() {

@@ -11,7 +11,7 @@
 
 namespace tessivo {
 
-/// A web server on the loopback that says, per path, exactly the bytes that a test gives it.
+/// A web server on the loopback interface that answers each path with exactly the bytes that a test gives it.
 class LoopbackServer final : public QTcpServer {
 public:
     /// Answers one request on `socket`, in whatever way.

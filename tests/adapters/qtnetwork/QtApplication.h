@@ -17,7 +17,7 @@ inline QCoreApplication& qtApplication() {
     return application;
 }
 
-/// Runs the main loop until `done`; says whether it came about before a bound that only a fault reaches.
+/// Runs the main loop until `done`; false if that takes longer than only a fault can explain.
 inline bool runUntil(const std::function<bool()>& done) {
     QElapsedTimer timer;
     timer.start();

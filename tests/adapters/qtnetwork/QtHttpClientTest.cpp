@@ -21,7 +21,7 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-/// Where a completion puts its result, seen from both threads.
+/// Where a completion puts its result; shared by both threads.
 struct Answer {
     std::optional<Result<HttpResponse>> result;
     std::thread::id thread;

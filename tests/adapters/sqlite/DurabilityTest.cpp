@@ -5,6 +5,7 @@
 #include "sqlite/Database.h"
 #include "sqlite/EventColumns.h"
 #include "sqlite/SqliteEventStore.h"
+#include "support/Events.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -32,14 +33,9 @@ Uuid numbered(int number) {
 }
 
 EventItem eventOf(const Uuid& id, int version) {
-    EventItem item;
-    item.title = std::to_string(version);
-    item.dateEvent =
-        std::string(static_cast<std::size_t>(version % 5000), 'd'); // rows of one page and of several
-    item.repEvent = item.alertReminder = item.repReminder = item.timeFormat = item.color = item.gradient = 0;
-    item.eventType = true;
-    item.id = id;
-    return item;
+    // Rows of one page and of several.
+    return plainEvent(std::to_string(version), std::string(static_cast<std::size_t>(version % 5000), 'd'),
+                      id);
 }
 
 /// Adds and updates; each write carries a higher version than the one before.
@@ -118,7 +114,7 @@ protected:
         ++nextVersion;
     }
 
-    // In memory: a kill is no loss of power, and a disk would flush ten thousand times.
+    // In memory: a kill loses no power, and a disk would have to flush ten thousand times.
     TemporaryFolder folder{"/dev/shm"};
     std::filesystem::path file = folder / "events.db";
     std::mt19937 random{20261122};

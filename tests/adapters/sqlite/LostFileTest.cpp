@@ -1,9 +1,9 @@
 #include "Event/CoreDataStack.h"
-#include "Event/EventItem.h"
 #include "fakes/RecordingConsole.h"
 #include "sqlite/Database.h"
 #include "sqlite/EventColumns.h"
 #include "sqlite/SqliteEventStore.h"
+#include "support/Events.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -28,12 +28,7 @@ struct StoreInUse {
         {
             SqliteEventStore first(file);
             CoreDataStack adding(first, console);
-            EventItem item;
-            item.title = "Copied";
-            item.repEvent = item.alertReminder = item.repReminder = item.timeFormat = 0;
-            item.color = item.gradient = 0;
-            item.eventType = true;
-            adding.addEvent(item);
+            adding.addEvent(plainEvent("Copied"));
         }
         fs::copy_file(file, copy);
         EXPECT_EQ(save("Saved"), std::nullopt);
@@ -54,7 +49,7 @@ struct StoreInUse {
     CoreDataStack stack{store, console};
 };
 
-TEST(LostFileTest, WhereTheFileIsNotTheOneThatWasOpenedNothingCountsAsSavedAndNothingIsForgotten) {
+TEST(LostFileTest, WithAnotherFileInItsPlaceNothingIsSavedAndNothingForgotten) {
     struct {
         const char* name;
         std::function<void(const StoreInUse&)> lose;

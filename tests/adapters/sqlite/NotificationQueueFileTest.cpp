@@ -44,7 +44,7 @@ protected:
         ASSERT_EQ(queue.setAuthorization(AuthorizationStatus::Denied), std::nullopt);
     }
 
-    TemporaryFolder folder{"/dev/shm"}; // what competes here are locks, not the disk
+    TemporaryFolder folder{"/dev/shm"}; // the test is about locks, not the disk
     std::filesystem::path file = folder / "queue.sqlite";
     fakes::RecordingConsole console;
 };
@@ -158,7 +158,7 @@ TEST_F(NotificationQueueFileTest, TheLedgerForgetsItsOldestEntries) {
     EXPECT_THAT(queue.shownIn("last"), SizeIs(1));
 }
 
-/// Runs `work` in a process of its own, which it may leave only by being killed or with its end.
+/// Runs `work` in a process of its own, which ends when it is killed or when the work is done.
 pid_t runInProcess(const std::function<void()>& work) {
     const auto process = ::fork();
     if (process == 0) {
@@ -175,7 +175,7 @@ int waitFor(pid_t process) {
 }
 
 /// On a busy machine another process may hold the file for longer than a change waits; the change then fails
-/// whole, and is made again.
+/// as a whole, and is retried.
 Outcome persistently(const std::function<Outcome()>& change) {
     Outcome outcome = change();
     for (int attempt = 1; outcome && attempt < 20; ++attempt)

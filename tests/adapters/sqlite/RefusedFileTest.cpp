@@ -1,11 +1,10 @@
 #include "Event/CoreDataStack.h"
-#include "Event/EventItem.h"
 #include "fakes/RecordingConsole.h"
 #include "sqlite/Database.h"
 #include "sqlite/EventColumns.h"
 #include "sqlite/SqliteEventStore.h"
 #include "sqlite/SqliteSavedSettings.h"
-#include "support/EventRecords.h"
+#include "support/Events.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -69,14 +68,8 @@ protected:
     void makeStore() {
         SqliteEventStore store(file);
         CoreDataStack stack(store, console);
-        EventItem item;
-        item.repEvent = item.alertReminder = item.repReminder = item.timeFormat = item.color = item.gradient =
-            0;
-        item.eventType = true;
-        for (int row = 0; row < 100; ++row) {
-            item.title = "Event " + std::to_string(row) + std::string(100, '.');
-            stack.addEvent(item);
-        }
+        for (int row = 0; row < 100; ++row)
+            stack.addEvent(plainEvent("Event " + std::to_string(row) + std::string(100, '.')));
     }
 
     /// Changes a closed store behind the program's back.
@@ -88,7 +81,7 @@ protected:
         sqlite3_close(connection);
     }
 
-    /// The text with which the program stops at its first use of the store; empty where it goes on.
+    /// The text with which the program stops at its first use of the store; empty if it does not stop.
     std::string stopText() {
         SqliteEventStore store(file);
         CoreDataStack stack(store, console);
@@ -158,11 +151,7 @@ TEST_F(RefusedFileTest, ADamagedFileKeepsTheLogThatAKilledProgramLeft) {
     {
         SqliteEventStore store(file);
         CoreDataStack stack(store, console);
-        EventItem item;
-        item.repEvent = item.alertReminder = item.repReminder = item.timeFormat = item.color = item.gradient =
-            0;
-        item.eventType = true;
-        stack.addEvent(item);
+        stack.addEvent(plainEvent());
         fs::create_directory(folder / "left");
         for (const char* suffix : {"", "-wal"})
             fs::copy_file(file.string() + suffix, (folder / "left" / "events.db").string() + suffix);

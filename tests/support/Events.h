@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Event/EventItem.h"
 #include "Ports/EventStore.h"
 
 #include <map>
@@ -13,6 +14,20 @@ public:
 
     std::map<RowKey, EventRecord> rows;
 };
+
+/// A draft as the wizard leaves it: ahead, on a whole day, on the first colour, without a reminder.
+inline EventItem plainEvent(std::string title = "", std::string day = "25 June 2030",
+                            std::optional<Uuid> id = std::nullopt) {
+    EventItem item;
+    item.title = std::move(title);
+    item.dateEvent = std::move(day);
+    item.repEvent = item.timeFormat = item.color = 0;
+    item.alertReminder = item.repReminder = item.gradient = NO_VALUE;
+    item.remMess = "";
+    item.eventType = true;
+    item.id = id;
+    return item;
+}
 
 /// A record in which every attribute has a value of its own.
 inline EventRecord fullRecord() {

@@ -1,12 +1,10 @@
 #include "AddEventVC/EventBackgroundViewController.h"
 #include "AddEventVC/EventDateAndTimeViewController.h"
-#include "AddEventVC/PictureCrop.h"
 #include "AddEventVC/ReminderViewController.h"
 #include "Event/CoreDataStack.h"
 #include "MainVC/EventCell.h"
 #include "Ports/DocumentFiles.h"
 #include "Ports/ImageCoding.h"
-#include "Support/EventImages.h"
 #include "UnsplashPicker/PickerServices.h"
 #include "support/Pictures.h"
 #include "support/Program.h"
@@ -18,33 +16,10 @@ namespace tessivo {
 namespace {
 
 using testing::ElementsAre;
-using testing::EndsWith;
-using testing::HasSubstr;
 using testing::StartsWith;
 
-TEST(PictureCrop, GrowsToWholePixelsAndIsCutToThePicture) {
-    struct Case {
-        ui::Rect area;
-        int first; ///< column; of no picture -1
-        int width;
-        int height;
-    };
-    for (const auto& [area, first, width, height] :
-         {Case{{2, 1, 3, 2}, 2, 3, 2}, Case{{2.9, 0, 1.2, 4}, 2, 3, 4}, Case{{-5, -5, 100, 100}, 0, 10, 4},
-          Case{{9.5, 3.5, 9, 9}, 9, 1, 1}, Case{{10, 0, 5, 4}, -1, 0, 0}, Case{{3, 1, 0, 2}, -1, 0, 0}}) {
-        const auto part = cropped(stripes(10, 4), area);
-        ASSERT_EQ(part == nullptr, first < 0) << area.x;
-        if (!part)
-            continue;
-        EXPECT_EQ(part->width, width) << area.x;
-        EXPECT_EQ(part->height, height) << area.x;
-        EXPECT_EQ(redAt(*part, 0), first * 10);
-        EXPECT_EQ(redAt(*part, width - 1), (first + width - 1) * 10);
-    }
-}
-
 /// The background step with the preview of a photo open on it.
-class PictureTest : public testing::Test {
+class UnsplahImageViewTest : public testing::Test {
 protected:
     EventBackgroundViewController& openChooser() {
         openWizard(program).textField.editTo("Summer");
@@ -76,7 +51,7 @@ protected:
     Program program;
 };
 
-TEST_F(PictureTest, TheRowOpensThePhotoBrowser) {
+TEST_F(UnsplahImageViewTest, TheRowOpensThePhotoBrowser) {
     auto& chooser = openChooser();
     chooser.imagesButton.tap();
     program.settle();
@@ -86,7 +61,7 @@ TEST_F(PictureTest, TheRowOpensThePhotoBrowser) {
     EXPECT_EQ(program.stack().top(), &chooser);
 }
 
-TEST_F(PictureTest, WhatIsInViewBecomesTheBackground) {
+TEST_F(UnsplahImageViewTest, WhatIsInViewBecomesTheBackground) {
     auto& chooser = openChooser();
     choose(chooser, photo("photo-1.jpg"), stripes(20, 10));
     auto& preview = program.top<UnsplahImageView>();
@@ -125,7 +100,7 @@ TEST_F(PictureTest, WhatIsInViewBecomesTheBackground) {
     EXPECT_NEAR(redAt(*cell->photoImage.image().bitmap, 4), 190, 4) << "as good as a file can be";
 }
 
-TEST_F(PictureTest, WhatMakesNoJpegIsKeptAsPng) {
+TEST_F(UnsplahImageViewTest, WhatMakesNoJpegIsKeptAsPng) {
     auto& chooser = openChooser();
     choose(chooser, photo("tower"), stripes(1, 70'000));
     program.top<UnsplahImageView>().saveButton.tap();
@@ -135,7 +110,7 @@ TEST_F(PictureTest, WhatMakesNoJpegIsKeptAsPng) {
     EXPECT_THAT(*program.documents.read("tower"), StartsWith("\x89PNG"));
 }
 
-TEST_F(PictureTest, ANarrowPictureIsKeptWhole) {
+TEST_F(UnsplahImageViewTest, ANarrowPictureIsKeptWhole) {
     auto& chooser = openChooser();
     choose(chooser, photo("p"), stripes(2, 10));
     program.top<UnsplahImageView>().saveButton.tap();
@@ -143,7 +118,7 @@ TEST_F(PictureTest, ANarrowPictureIsKeptWhole) {
     EXPECT_EQ(*chooser.eventView.photoView.image().bitmap, stripes(2, 10));
 }
 
-TEST_F(PictureTest, GoingBackChangesNothing) {
+TEST_F(UnsplahImageViewTest, GoingBackChangesNothing) {
     auto& chooser = openChooser();
     choose(chooser, photo("p"), stripes(20, 10));
     auto& preview = program.top<UnsplahImageView>();
@@ -155,7 +130,7 @@ TEST_F(PictureTest, GoingBackChangesNothing) {
     EXPECT_FALSE(chooser.eventView.photoView.image().isSet());
 }
 
-TEST_F(PictureTest, AColourAfterAPictureKeepsNoFile) {
+TEST_F(UnsplahImageViewTest, AColourAfterAPictureKeepsNoFile) {
     auto& chooser = openChooser();
     choose(chooser, photo("p"), stripes(20, 10));
     program.top<UnsplahImageView>().saveButton.tap();
@@ -168,7 +143,7 @@ TEST_F(PictureTest, AColourAfterAPictureKeepsNoFile) {
     EXPECT_EQ(program.services().coreDataStack().fetchEvents().front()->unsplashPath(), std::nullopt);
 }
 
-TEST_F(PictureTest, APhotoThatDoesNotComeOpensNothing) {
+TEST_F(UnsplahImageViewTest, APhotoThatDoesNotComeOpensNothing) {
     auto& chooser = openChooser();
     const auto picker =
         unsplash::UnsplashPicker::make(program.services().photoPicker(), program.services().window(), {});
@@ -185,7 +160,7 @@ TEST_F(PictureTest, APhotoThatDoesNotComeOpensNothing) {
     }
 }
 
-TEST_F(PictureTest, ThePhotographerIsCreditedWithTheReferral) {
+TEST_F(UnsplahImageViewTest, ThePhotographerIsCreditedWithTheReferral) {
     auto& chooser = openChooser();
     choose(chooser, photo("p"), stripes(20, 10));
     auto& preview = program.top<UnsplahImageView>();
@@ -196,49 +171,6 @@ TEST_F(PictureTest, ThePhotographerIsCreditedWithTheReferral) {
     preview.photographerButton.tap();
     EXPECT_EQ(program.links.opened.size(), 1u);
     EXPECT_EQ(program.stack().top(), &preview);
-}
-
-TEST_F(PictureTest, TwoEventsShareOneFileAndNoNameLeavesTheFolder) {
-    auto& images = program.services().eventImages();
-    const auto keep = [&](int width, const std::string& url) {
-        images.keepUnsplashImage({{}, std::make_shared<const Bitmap>(stripes(width, 4))}, url);
-        return program.console.take().back();
-    };
-    (void)program.console.take();
-    EXPECT_THAT(keep(4, "https://i.test/a/shared?w=1"), StartsWith("Изображение сохранено по пути: "));
-    EXPECT_THAT(keep(6, "https://i.test/b/shared?w=2"), EndsWith("/documents/shared"));
-    EXPECT_EQ(images.loadUnsplashImage("https://elsewhere.test/shared", {}).bitmap->width, 6);
-    for (const auto* url : {"https://i.test", "https://i.test/", "https://i.test/..", "https://i.test/.",
-                            "https://i.test/%2e%2e", "https://i.test/..%2fevents.sqlite"}) {
-        EXPECT_EQ(keep(4, url), "Не удалось сохранить изображение.") << url;
-        EXPECT_FALSE(images.showUnsplashImage(url, {}).isSet());
-        EXPECT_THAT(program.console.take(), ElementsAre("Не удалось загрузить изображение."));
-    }
-    EXPECT_EQ(keep(4, "no address"), "Некорректный URL-адрес изображения.");
-    images.keepUnsplashImage({}, "https://i.test/empty");
-    EXPECT_THAT(program.console.take(), ElementsAre("Не удалось сохранить изображение."));
-}
-
-TEST_F(PictureTest, APhotoOfTheUsersIsReadFromWhereItLies) {
-    auto& images = program.services().eventImages();
-    std::vector<ui::Image> shown;
-    const auto load = [&](Result<HttpResponse> answer) {
-        images.loadPhoto("file:///home/a.jpg", {},
-                         [&](ui::Image image) { shown.push_back(std::move(image)); });
-        program.http.answer(std::move(answer));
-        program.timeline.runPosted();
-    };
-    program.timeline.runPosted();
-    (void)program.console.take();
-    load(Error{std::string(urlErrorDomain), UrlErrorFileDoesNotExist, "gone"});
-    EXPECT_THAT(program.console.take(), ElementsAre("Ошибка загрузки изображения: gone"));
-    load(HttpResponse{std::nullopt, {}, "no picture"});
-    EXPECT_TRUE(program.console.take().empty());
-    EXPECT_FALSE(shown[0].isSet() || shown[1].isSet());
-    load(HttpResponse{std::nullopt, {}, *program.images.png(stripes(6, 4))});
-    EXPECT_EQ(shown.at(2).bitmap->width, 6);
-    EXPECT_EQ(program.http.exchanges().back()->request.kind, AddressKind::File);
-    EXPECT_THAT(program.http.exchanges().back()->request.url, HasSubstr("/home/a.jpg"));
 }
 
 } // namespace
