@@ -28,7 +28,7 @@ private:
 } // namespace
 
 ScriptedHttpClient::~ScriptedHttpClient() {
-    // A request holds its task and is held by the completion: what is still out must let go of it.
+    // A request holds its task and is held by the completion: unfinished exchanges must break the cycle.
     for (const auto& exchange : exchanges_)
         exchange->completion = nullptr;
 }

@@ -75,7 +75,7 @@ Ending run(const std::filesystem::path& program, Console& console) {
         return Ending::Failed;
     }
     if (!claimed.value())
-        return Ending::Done; // the reminders are in good hands
+        return Ending::Done; // another helper shows the reminders
     return loop.value().run() == 0 ? ending : Ending::Failed;
 }
 
@@ -83,7 +83,7 @@ Ending run(const std::filesystem::path& program, Console& console) {
 
 int main(int, char** arguments) {
     StandardConsole console;
-    std::error_code ignored; // without its own name it does not hear of being replaced
+    std::error_code ignored; // without its own path it cannot notice that it was replaced
     const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored);
     switch (run(program, console)) {
     case Ending::Failed:

@@ -63,7 +63,7 @@ void DesktopNotificationDisplay::show(const Notice& notice, Answer answer) {
     calls_.push_back({this, notice, std::move(answer), nullptr, {}});
     auto& call = calls_.back();
     call.self = std::prev(calls_.end());
-    // Only a lost bus refuses this, and then the loop quits.
+    // Fails only when the bus is lost, and then the loop quits.
     take(call.slot, [&](auto made) {
         return sd_bus_call_method_async(bus_.handle(), made, notificationsName, notificationsPath,
                                         notificationsName, "GetCapabilities", capabilitiesCame, &call,

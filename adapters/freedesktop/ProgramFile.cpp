@@ -11,7 +11,7 @@
 namespace tessivo::freedesktop {
 
 std::filesystem::path siblingProgram(const std::string& name, const std::string& buildFolder) {
-    std::error_code ignored; // without its own place a program finds no other
+    std::error_code ignored; // a program that does not know its own path finds no other
     const auto folder = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path();
     for (const auto& file : {folder / name, folder.parent_path() / buildFolder / name}) {
         if (::access(file.c_str(), X_OK) == 0)

@@ -78,7 +78,7 @@ bool ReminderService::ownerHandsOver() {
     sd_bus_error_free(&error);
     int agrees = 0;
     if (status < 0 || sd_bus_message_read(reply.get(), "b", &agrees) < 0)
-        return true; // it is gone, or cannot speak: the line for the name decides
+        return true; // it is gone, or does not answer: the queue for the name decides
     return agrees != 0;
 }
 
@@ -119,7 +119,7 @@ void tellReminderHelper() {
     if (!isUnknown)
         return;
     if (const auto helper = siblingProgram("tessivo-reminders", "reminders"); !helper.empty())
-        (void)startDetached(helper); // there is nobody to tell; the next change tries again
+        (void)startDetached(helper); // a failure cannot be reported; the next change tries again
 }
 
 } // namespace tessivo::freedesktop

@@ -42,8 +42,8 @@ std::filesystem::path journalOf(const std::filesystem::path& file) {
     return file.string() + "-journal";
 }
 
-/// The file as an address that promises SQLite that nobody writes it: it is then read with no lock and no
-/// file beside it.
+/// The address of the file, with the promise that nobody writes it: SQLite then reads it without locks and
+/// without files beside it.
 std::string immutableAddress(const std::filesystem::path& file) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string address = "file:";

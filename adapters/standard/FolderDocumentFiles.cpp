@@ -31,7 +31,8 @@ Result<std::string> FolderDocumentFiles::write(std::string_view name, std::strin
         return writeError(error);
     fs::permissions(folder_, fs::perms::owner_all, error);
     const fs::path path = folder_ / name;
-    const fs::path unfinished = folder_.string() + ".unfinished"; // beside the folder: no document's name
+    const fs::path unfinished =
+        folder_.string() + ".unfinished"; // beside the folder, where no document can be named so
     std::ofstream file(unfinished, std::ios::binary | std::ios::trunc);
     fs::permissions(unfinished, fs::perms::owner_read | fs::perms::owner_write, error);
     file.write(data.data(), static_cast<std::streamsize>(data.size()));

@@ -16,7 +16,7 @@ Window {
     title: "Tessivo"
     color: Theme.backdrop
 
-    Rectangle { // what a sheet dims of the screen, it dims of the backdrop beside it
+    Rectangle { // a sheet dims the backdrop as it dims the screen
         anchors.fill: parent
         color: "black"
         readonly property ScreenItem front: (screens.itemAt(screens.count - 1) as ScreenLoader)?.screen ?? null

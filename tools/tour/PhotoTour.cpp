@@ -15,7 +15,7 @@
 namespace tessivo::tour {
 namespace {
 
-/// Whether what was asked for is there: photos with their pictures, or the word that there are none.
+/// Whether what was asked for is there: photos with their pictures, or the message that there are none.
 bool isComplete(unsplash::UnsplashPickerViewController& screen) {
     const auto& cells = screen.collectionView.visibleCells();
     return screen.emptyView.superview() ||

@@ -36,7 +36,7 @@ void complain(QtMsgType type, const QMessageLogContext&, const QString& message)
         ++complaints;
 }
 
-/// A wall clock that stands still, so that every tour gives the same pictures.
+/// A wall clock that is stopped, so that every tour gives the same pictures.
 class StillClock final : public Clock {
 public:
     Instant now() const override { return instantAt(1908261015); } // 21 June 2030, 10:30:15 in Berlin
@@ -87,8 +87,7 @@ int playAll(const QString& self, const QString& folder) {
 
 int main(int argc, char** argv) {
     virtualtime::start();
-    // The same pictures from every run, to the byte: with the main thread drawing, and no chance in any
-    // order.
+    // Every run gives byte-identical pictures: the main thread draws, and hashes are not randomised.
     qputenv("QSG_RENDER_LOOP", "basic");
     qputenv("QT_HASH_SEED", "0");
     QGuiApplication application(argc, argv);

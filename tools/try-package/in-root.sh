@@ -12,7 +12,7 @@ fail() { echo "  NOT SO: $1"; snap failed; as_user /try/drive.py list || true; e
 as_user() { runuser -u $user -- env "${session[@]}" "$@"; }
 snap() { as_user scrot -o "/tmp/$1.png" 2>/dev/null && cp "/tmp/$1.png" "$pictures/" || true; }
 drive() { as_user /try/drive.py "$@" || fail "drive $*"; }
-# Whether the condition comes true within so many seconds.
+# Waits until the condition holds, for at most so many seconds.
 within() {
     local end=$((SECONDS + $1)); shift
     until "$@"; do [ $SECONDS -lt $end ] || return 1; sleep 0.2; done

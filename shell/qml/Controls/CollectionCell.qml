@@ -1,8 +1,8 @@
 import QtQuick
 import Tessivo
 
-// What the drawings of all cells share: their place, the keys and what assistive technology is told. The keyboard
-// walks through them by Tab and, along the list, by arrows; what it comes to is scrolled into view.
+// What the drawings of all cells share: their place, their keys and what assistive technology reads. The keyboard walks
+// through them by Tab and, along the list, by arrows; what it comes to is scrolled into view.
 CellScope {
     id: drawn
 

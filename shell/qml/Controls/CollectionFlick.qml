@@ -72,7 +72,7 @@ Flickable {
         collection.closeSwipes();
         contentY = place;
     }
-    // The keyboard goes to the cell of an item; the one beside it has made sure that it is drawn.
+    // The keyboard goes to the cell of an item; its neighbour has already scrolled it into view.
     function goTo(item: int) {
         for (let index = 0; index < contentItem.children.length; ++index) {
             const drawn = contentItem.children[index] as CellScope;

@@ -78,7 +78,7 @@ Item {
             color: "white"
             transformOrigin: Item.Top
             SoftShadow { radius: Theme.radius }
-            MouseArea { anchors.fill: parent } // between two rows nothing closes
+            MouseArea { anchors.fill: parent } // a tap between two rows does not close the menu
 
             Column {
                 id: rows

@@ -59,7 +59,7 @@ FocusScope {
     }
     Component.onCompleted: {
         field.text = input.text;
-        if (field.activeFocus) // before there was an input to tell
+        if (field.activeFocus) // it got the focus before the input was set
             input.beginEditing();
     }
 }

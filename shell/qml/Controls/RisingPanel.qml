@@ -1,8 +1,8 @@
 import QtQuick
 import Tessivo
 
-// A panel that rises over a dimmed screen: to its foot, or to its middle where the screen is large. What a tap
-// beside it does, and Escape, is for its user to say.
+// A panel that rises over a dimmed screen: to its foot, or to its middle where the screen is large. Whoever uses it
+// decides what Escape and a tap beside it do.
 FocusScope {
     id: sheet
 

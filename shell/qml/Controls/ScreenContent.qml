@@ -1,8 +1,8 @@
 import QtQuick
 import Tessivo
 
-// Finds the drawing of a screen by its name, and reads it no sooner than it is needed. A frame around a screen is
-// drawn by what it holds.
+// Finds the drawing of a screen by its name, and loads it only when it is needed. A frame around a screen is drawn by
+// what it holds.
 FocusScope {
     id: content
 

@@ -35,7 +35,7 @@ FocusScope {
         radius: 24
         color: "white"
 
-        MouseArea { // the sheet is not beside itself; dragging its upper part drags it down
+        MouseArea { // taps on the sheet do not dismiss it; its upper part drags it down
             anchors.fill: parent
             drag.target: panel
             drag.axis: Drag.YAxis

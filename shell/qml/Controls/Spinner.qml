@@ -1,7 +1,7 @@
 import QtQuick
 import Tessivo
 
-// A ring of dots that takes its turn. It asks for frames only while it is seen turning.
+// A ring of dots that turns. It asks for frames only while it is seen turning.
 Item {
     id: spinner
 

@@ -6,7 +6,7 @@ ButtonArea {
     id: row
 
     required property LabelItem label
-    property LabelItem heading: null // what the value is of, for those who cannot see what stands over the row
+    property LabelItem heading: null // the name of the value, for screen readers
     property ButtonItem chevron: null
 
     implicitHeight: Math.max(Theme.rowHeight, caption.implicitHeight + 20)

@@ -20,7 +20,7 @@ CollectionFlick {
         slide.to = page * width;
         slide.restart();
     }
-    // To the page that a finger's way and speed mean.
+    // Turns to the page that the finger's distance and speed suggest.
     function settle(velocity: real) {
         if (!collection.paging || slide.running)
             return;

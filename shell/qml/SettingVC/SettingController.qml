@@ -11,7 +11,7 @@ FocusScope {
 
     focus: true
 
-    // Brings what the keyboard is on into sight, with a piece of what comes next.
+    // Scrolls the focused control into view, with a piece of what comes next.
     function reveal(item: Item) {
         const peek = 56;
         const y = item.mapToItem(flick.contentItem, 0, 0).y;
@@ -38,7 +38,7 @@ FocusScope {
             horizontalAlignment: Text.AlignLeft
             Accessible.role: Accessible.Heading
         }
-        MouseArea { // the keyboard has Home for it
+        MouseArea { // the keyboard has the Home key for this
             anchors.fill: parent
             anchors.rightMargin: done.width
             onClicked: (settings.screen.control("mainButton") as ButtonItem).releaseInside()

@@ -1,14 +1,14 @@
 import QtQuick
 import Tessivo
 
-// The rows of one section, where the program places them on the page. How wide they are is the page's.
+// The rows of one section, where the program places them on the page. The page decides how wide they are.
 CollectionFlick {
     id: list
 
     Accessible.name: collection.accessibleName
     Component.onCompleted: place()
 
-    // No binding: the place is told anew while the program is being told the size.
+    // No binding: reporting the size to the program reports the place again.
     function place() {
         y = collection.y;
         height = collection.contentHeight;
