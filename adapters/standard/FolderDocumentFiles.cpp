@@ -1,5 +1,8 @@
 #include "standard/FolderDocumentFiles.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <fstream>
 #include <iterator>
 #include <system_error>
@@ -20,6 +23,16 @@ Error writeError(const std::error_code& code) {
     return {"Files", code.value(), "The file could not be written: " + code.message()};
 }
 
+/// Waits until the file or folder is on the disk.
+bool sync(const fs::path& path) {
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    const bool isOnDisk = ::fsync(descriptor) == 0;
+    ::close(descriptor);
+    return isOnDisk;
+}
+
 } // namespace
 
 Result<std::string> FolderDocumentFiles::write(std::string_view name, std::string_view data) {
@@ -37,7 +50,8 @@ Result<std::string> FolderDocumentFiles::write(std::string_view name, std::strin
     fs::permissions(unfinished, fs::perms::owner_read | fs::perms::owner_write, error);
     file.write(data.data(), static_cast<std::streamsize>(data.size()));
     file.close();
-    if (!file) {
+    // Without this a loss of power could leave the name with an empty file, and an event that refers to it.
+    if (!file || !sync(unfinished)) {
         fs::remove(unfinished, error);
         return writeError(std::make_error_code(std::errc::io_error));
     }
@@ -48,6 +62,7 @@ Result<std::string> FolderDocumentFiles::write(std::string_view name, std::strin
         fs::remove(unfinished, ignored);
         return writeError(error);
     }
+    sync(folder_);
     return path.string();
 }
 

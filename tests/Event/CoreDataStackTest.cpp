@@ -243,6 +243,16 @@ TEST_F(CoreDataStackTest, RowsThatNobodyHoldsAreLetGoUnlessTheyHaveChanges) {
     EXPECT_TRUE(changed.expired());
 }
 
+TEST_F(CoreDataStackTest, WhatAnotherProgramSavesIsFetched) {
+    shared.addEvent(draft("old"));
+    const auto rows = shared.fetchEvents();
+    sqlite::SqliteEventStore otherStore(folder / "events.db");
+    CoreDataStack other(otherStore, console);
+    other.updateTitle(identity, "new");
+    EXPECT_THAT(titles(shared.fetchEvents()), ElementsAre("new"));
+    EXPECT_EQ(shared.fetchEvents(), rows);
+}
+
 TEST_F(CoreDataStackTest, OneContextGivesOneObjectARowAndEachContextItsOwn) {
     shared.addEvent(draft("Birthday"));
     const auto mine = shared.fetchEvents().front();
