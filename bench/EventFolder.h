@@ -2,15 +2,27 @@
 
 #include "Event/EventContext.h"
 #include "Event/EventItem.h"
+#include "Support/SettingKeys.h"
 #include "sqlite/SqliteEventStore.h"
+#include "sqlite/SqliteSavedSettings.h"
+#include "standard/StandardConsole.h"
 
 #include <cstdlib>
 #include <string>
 
 namespace tessivo {
 
-/// Fills a folder of the program's with past events: the list that opens first.
+/// Leaves a folder as a program does that has been closed before: the tour of the first run is over, the
+/// rating prompt has had its turn. Its events are past, and so in the list that opens first.
 inline void fillFolder(const std::string& folder, int events) {
+    StandardConsole console;
+    sqlite::SqliteSavedSettings settings(folder + "/settings.sqlite", console);
+    settings.setBoolean(settingKeys::isFirstLaunch, true);
+    settings.setInteger(settingKeys::defaultScreen, 0);
+    settings.setInteger(settingKeys::eventSize, 1);
+    settings.setInteger(settingKeys::secondOpen, 3);
+    settings.setText(settingKeys::adsShow, "2");
+    settings.setText(settingKeys::rateUs, "0");
     sqlite::SqliteEventStore store(folder + "/events.sqlite");
     EventContext context(store);
     if (store.load())
