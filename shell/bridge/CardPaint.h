@@ -1,34 +1,41 @@
 #pragma once
 
+#include "bridge/RoundedItem.h"
 #include "bridge/Values.h"
-
-#include <QQuickPaintedItem>
 
 namespace tessivo::shell {
 
 /// A rounded rectangle with a fill, its edge smooth with and without a graphics processor.
-class CardPaint : public QQuickPaintedItem {
+class CardPaint : public RoundedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(tessivo::shell::Fill fill READ fill WRITE setFill NOTIFY fillChanged FINAL)
-    Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged FINAL)
 
 public:
-    explicit CardPaint(QQuickItem* parent = nullptr);
+    explicit CardPaint(QQuickItem* parent = nullptr) : RoundedItem(parent) {}
 
     [[nodiscard]] Fill fill() const { return fill_; }
     void setFill(const Fill& fill);
-    [[nodiscard]] double radius() const { return radius_; }
-    void setRadius(double radius);
-    void paint(QPainter* painter) override;
 
 Q_SIGNALS:
     void fillChanged();
-    void radiusChanged();
+
+protected:
+    QSGNode* updatePaintNode(QSGNode* former, UpdatePaintNodeData* data) override;
 
 private:
+    /// All that the looks depend on.
+    struct Looks {
+        Fill fill;
+        QSizeF size;
+        double scale = 0;
+        double radius = 0;
+
+        friend bool operator==(const Looks&, const Looks&) = default;
+    };
+
     Fill fill_;
-    double radius_ = 0;
+    Looks inScene_; ///< what the node shows
 };
 
 } // namespace tessivo::shell

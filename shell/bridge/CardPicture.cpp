@@ -2,9 +2,7 @@
 
 #include "bridge/BitmapImage.h"
 #include "bridge/PictureFit.h"
-
-#include <QQuickWindow>
-#include <QSGImageNode>
+#include "bridge/RoundedNode.h"
 
 #include <cmath>
 
@@ -22,8 +20,7 @@ QRectF coarse(const QRectF& text) {
 
 } // namespace
 
-CardPicture::CardPicture(QQuickItem* parent) : QQuickItem(parent) {
-    setFlag(ItemHasContents);
+CardPicture::CardPicture(QQuickItem* parent) : RoundedItem(parent) {
     connect(this, &CardPicture::textsChanged, this, &QQuickItem::update);
 }
 
@@ -37,53 +34,28 @@ void CardPicture::setView(ImageItem* view) {
     Q_EMIT viewChanged();
 }
 
-void CardPicture::setRadius(double radius) {
-    if (radius == radius_)
-        return;
-    radius_ = radius;
-    update();
-    Q_EMIT radiusChanged();
-}
-
 CardPicture::Looks CardPicture::looks() const {
     if (!view_)
         return {};
     return {view_->view().image().bitmap,
             view_->view().contentMode(),
-            size(),
-            window()->effectiveDevicePixelRatio(),
-            radius_,
+            sizeOnPixels(),
+            scaleOfWindow(),
+            radius(),
             {coarse(upperText_), coarse(lowerText_)}};
 }
 
 QSGNode* CardPicture::updatePaintNode(QSGNode* former, UpdatePaintNodeData*) {
-    auto* node = static_cast<QSGImageNode*>(former);
     Looks wanted = looks();
-    if (!wanted.picture || wanted.size.isEmpty()) {
-        inScene_ = {};
-        delete node;
+    if (former && wanted == inScene_)
+        return former;
+    delete former;
+    inScene_ = wanted;
+    if (!wanted.picture || wanted.size.isEmpty())
         return nullptr;
-    }
-    if (node && wanted == inScene_)
-        return node;
-    const QImage card = cardPicture(toQImage(wanted.picture), wanted.size, wanted.scale, wanted.radius,
-                                    wanted.mode, wanted.texts);
-    if (!node) {
-        node = window()->createImageNode();
-        node->setOwnsTexture(true);
-        node->setFiltering(QSGTexture::Linear);
-    }
-    node->setTexture(window()->createTextureFromImage(card));
-    node->setRect(boundingRect());
-    node->setSourceRect(QRectF(QPointF(), node->texture()->textureSize()));
-    inScene_ = std::move(wanted);
-    return node;
-}
-
-void CardPicture::geometryChange(const QRectF& place, const QRectF& former) {
-    QQuickItem::geometryChange(place, former);
-    if (place.size() != former.size())
-        update();
+    const QImage card =
+        cardPicture(toQImage(wanted.picture), wanted.size, wanted.scale, wanted.mode, wanted.texts);
+    return new RoundedNode(*window(), card, wanted.size, wanted.radius, wanted.scale);
 }
 
 } // namespace tessivo::shell

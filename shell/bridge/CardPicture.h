@@ -1,9 +1,9 @@
 #pragma once
 
+#include "bridge/RoundedItem.h"
 #include "bridge/ValueItems.h"
 
 #include <QPointer>
-#include <QQuickItem>
 
 #include <array>
 #include <memory>
@@ -13,30 +13,25 @@ namespace tessivo::shell {
 /// The picture of a card under its two texts: fitted as its view says, rounded as the card is, and shaded
 /// behind the texts where it is bright. It is made once for each picture, size and place of the texts, and
 /// costs nothing if there is no picture.
-class CardPicture : public QQuickItem {
+class CardPicture : public RoundedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(tessivo::shell::ImageItem* view READ view WRITE setView NOTIFY viewChanged REQUIRED FINAL)
     Q_PROPERTY(QRectF upperText MEMBER upperText_ NOTIFY textsChanged FINAL)
     Q_PROPERTY(QRectF lowerText MEMBER lowerText_ NOTIFY textsChanged FINAL)
-    Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY radiusChanged FINAL)
 
 public:
     explicit CardPicture(QQuickItem* parent = nullptr);
 
     [[nodiscard]] ImageItem* view() const { return view_; }
     void setView(ImageItem* view);
-    [[nodiscard]] double radius() const { return radius_; }
-    void setRadius(double radius);
 
 Q_SIGNALS:
     void viewChanged();
-    void radiusChanged();
     void textsChanged();
 
 protected:
     QSGNode* updatePaintNode(QSGNode* former, UpdatePaintNodeData* data) override;
-    void geometryChange(const QRectF& place, const QRectF& former) override;
 
 private:
     /// All that the looks depend on.
@@ -54,7 +49,6 @@ private:
     [[nodiscard]] Looks looks() const;
 
     QPointer<ImageItem> view_;
-    double radius_ = 0;
     QRectF upperText_; ///< in points of this item
     QRectF lowerText_;
     Looks inScene_; ///< what the node shows

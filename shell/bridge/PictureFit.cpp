@@ -25,35 +25,22 @@ QRectF fitted(QSizeF picture, const QRectF& area, ui::ContentMode mode) {
     return whole;
 }
 
-QImage cardPicture(const QImage& picture, QSizeF size, double scale, double radius, ui::ContentMode mode,
+QImage cardPicture(const QImage& picture, QSizeF size, double scale, ui::ContentMode mode,
                    const std::array<QRectF, 2>& texts) {
     QImage card((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
-    card.setDevicePixelRatio(scale);
     card.fill(Qt::transparent);
     if (picture.isNull() || card.isNull())
         return card;
-    const QRectF area({}, size);
-    QPainter picturePainter(&card);
-    picturePainter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
-    picturePainter.drawImage(fitted(picture.size(), area, mode), picture);
-    picturePainter.end();
+    QPainter painter(&card);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.scale(scale, scale);
+    // Whole pixels: none at the edge is half a picture.
+    painter.drawImage(fitted(picture.size(), QRectF({}, QSizeF(card.size()) / scale), mode), picture);
+    painter.end();
     const auto pixels = [scale](const QRectF& text) {
         return QRectF(text.topLeft() * scale, text.size() * scale);
     };
     shadeBehindTexts(card, {pixels(texts[0]), pixels(texts[1])});
-
-    QImage shape(card.size(), QImage::Format_ARGB32_Premultiplied);
-    shape.setDevicePixelRatio(scale);
-    shape.fill(Qt::transparent);
-    QPainter shapePainter(&shape);
-    shapePainter.setRenderHint(QPainter::Antialiasing);
-    shapePainter.setPen(Qt::NoPen);
-    shapePainter.setBrush(Qt::black);
-    shapePainter.drawRoundedRect(area, radius, radius);
-    shapePainter.end();
-    QPainter painter(&card);
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    painter.drawImage(QPointF(), shape);
     return card;
 }
 

@@ -13,8 +13,8 @@ namespace tessivo::shell {
 [[nodiscard]] QRectF fitted(QSizeF picture, const QRectF& area, ui::ContentMode mode);
 
 /// A picture made ready to stand behind the white texts of a card: fitted to `size` points at `scale` pixels
-/// each, its corners rounded, and shaded behind each of `texts`, in points, as far as it is too bright there.
-[[nodiscard]] QImage cardPicture(const QImage& picture, QSizeF size, double scale, double radius,
-                                 ui::ContentMode mode, const std::array<QRectF, 2>& texts);
+/// each, and shaded behind each of `texts`, in points, as far as it is too bright there.
+[[nodiscard]] QImage cardPicture(const QImage& picture, QSizeF size, double scale, ui::ContentMode mode,
+                                 const std::array<QRectF, 2>& texts);
 
 } // namespace tessivo::shell

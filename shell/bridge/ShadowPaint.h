@@ -1,31 +1,41 @@
 #pragma once
 
-#include <QQuickPaintedItem>
-#include <QtQml/qqmlregistration.h>
+#include "bridge/RoundedItem.h"
 
 namespace tessivo::shell {
 
-/// A soft shadow under a rounded rectangle, which lies `reach` points within this item at each side. Drawn
-/// for the window's pixels, once for each size.
-class ShadowPaint : public QQuickPaintedItem {
+/// A soft shadow around a rounded rectangle, which lies `reach` points within this item at each side. Nothing
+/// is drawn where the rectangle covers it but for its corners.
+class ShadowPaint : public RoundedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(double radius MEMBER radius_ NOTIFY looksChanged FINAL)
-    Q_PROPERTY(double strength MEMBER strength_ NOTIFY looksChanged FINAL)
+    Q_PROPERTY(double strength MEMBER strength_ NOTIFY strengthChanged FINAL)
     Q_PROPERTY(double reach READ reach CONSTANT FINAL)
 
 public:
     explicit ShadowPaint(QQuickItem* parent = nullptr);
 
     [[nodiscard]] double reach() const;
-    void paint(QPainter* painter) override;
 
 Q_SIGNALS:
-    void looksChanged();
+    void strengthChanged();
+
+protected:
+    QSGNode* updatePaintNode(QSGNode* former, UpdatePaintNodeData* data) override;
 
 private:
-    double radius_ = 16;
+    /// All that the looks depend on.
+    struct Looks {
+        QSizeF size;
+        double scale = 0;
+        double radius = 0;
+        double strength = 0;
+
+        friend bool operator==(const Looks&, const Looks&) = default;
+    };
+
     double strength_ = 0.022;
+    Looks inScene_; ///< what the node shows
 };
 
 } // namespace tessivo::shell

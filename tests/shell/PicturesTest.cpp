@@ -4,6 +4,7 @@
 #include "Event/CoreDataStack.h"
 #include "Ports/DocumentFiles.h"
 #include "bridge/BitmapImage.h"
+#include "bridge/CardPaint.h"
 #include "bridge/PictureFit.h"
 #include "qtimage/QtImageCoding.h"
 #include "shell/ControlWindow.h"
@@ -11,6 +12,7 @@
 #include "support/Wizard.h"
 
 #include <QImage>
+#include <QPainterPath>
 #include <QQuickWindow>
 
 #include <cmath>
@@ -33,8 +35,7 @@ TEST(CardPicture, WhiteTextReadsOnAnyPictureWithoutAnOutlineAndTheRestKeepsItsCo
                                  QColor("#9e9e9e"), QColor("#303f9f"), QColor(Qt::black)}) {
         QImage picture(100, 100, QImage::Format_RGBA8888);
         picture.fill(ground);
-        const QImage card =
-            shell::cardPicture(picture, size, 2, 16, ui::ContentMode::AspectFill, {upper, lower});
+        const QImage card = shell::cardPicture(picture, size, 2, ui::ContentMode::AspectFill, {upper, lower});
         ASSERT_EQ(card.size(), QSize(716, 400));
         for (const QRectF& text : {upper, lower}) {
             for (const QPointF& point : {text.topLeft(), text.center(), text.bottomRight() - QPointF(1, 1)}) {
@@ -54,8 +55,6 @@ TEST(CardPicture, WhiteTextReadsOnAnyPictureWithoutAnOutlineAndTheRestKeepsItsCo
         for (int y = 50; y < 350; ++y)
             EXPECT_NEAR(card.pixelColor(600, y).green(), card.pixelColor(600, y + 1).green(), 3)
                 << "no outline is seen";
-        EXPECT_EQ(card.pixelColor(0, 0).alpha(), 0) << "the corners are round";
-        EXPECT_EQ(card.pixelColor(715, 399).alpha(), 0);
     }
 }
 
@@ -67,13 +66,55 @@ TEST(CardPicture, FitsAsItsViewSays) {
         picture.setPixelColor(39, y, Qt::red);
     }
     const auto card = [&](ui::ContentMode mode) {
-        return shell::cardPicture(picture, {80, 80}, 1, 0, mode, {});
+        return shell::cardPicture(picture, {80, 80}, 1, mode, {});
     };
     EXPECT_EQ(card(ui::ContentMode::AspectFill).pixelColor(1, 40), QColor(Qt::black)) << "cut at its sides";
     EXPECT_GT(card(ui::ContentMode::AspectFit).pixelColor(0, 40).red(), 80);
     EXPECT_EQ(card(ui::ContentMode::AspectFit).pixelColor(40, 5).alpha(), 0);
     EXPECT_EQ(card(ui::ContentMode::Center).pixelColor(10, 40).alpha(), 0) << "not enlarged";
     EXPECT_EQ(card(ui::ContentMode::Center).pixelColor(40, 40), QColor(Qt::black));
+}
+
+using DrawnCard = ControlWindow;
+
+TEST_F(DrawnCard, IsOfOnePieceUpToItsRoundedEdgeWhereverItLies) {
+    const QRectF place(20.3, 30.6, 200.7, 100.4);
+    QQuickItem& drawing =
+        draw(*screen, "Rectangle { anchors.fill: parent; color: 'white' }"
+                      "CardPaint { x: 20.3; y: 30.6; width: 200.7; height: 100.4; radius: 24 }");
+    auto* card = drawing.findChild<shell::CardPaint*>();
+    ASSERT_TRUE(card);
+    const QColor blue("#2040c0");
+    for (const bool fades : {false, true}) {
+        card->setFill(
+            {.color = blue, .fades = fades, .first = blue, .second = blue, .start = {}, .end = {1, 1}});
+        QPainterPath inside;
+        inside.addRoundedRect(place.adjusted(2, 2, -2, -2), 22, 22);
+        const QImage drawn = window.grabWindow();
+        int others = 0;
+        for (int y = 30; y < 135; ++y) {
+            for (int x = 20; x < 225; ++x)
+                others += inside.contains(QPointF(x + 0.5, y + 0.5)) && drawn.pixelColor(x, y) != blue;
+        }
+        EXPECT_EQ(others, 0) << "no seams";
+        for (const QPoint corner : {QPoint(22, 32), QPoint(219, 32), QPoint(22, 129), QPoint(219, 129)})
+            EXPECT_EQ(drawn.pixelColor(corner), QColor(Qt::white));
+    }
+}
+
+TEST_F(DrawnCard, ItsShadowLiesAroundIt) {
+    draw(*screen, "Rectangle { anchors.fill: parent; color: 'white' }"
+                  "Item { x: 40; y: 40; width: 200; height: 100; SoftShadow { radius: 24; strength: 0.1 } }");
+    const QImage drawn = window.grabWindow();
+    const auto at = [&](int x, int y) { return drawn.pixelColor(x, y); };
+    const QColor white(Qt::white);
+    EXPECT_EQ(at(140, 90), white) << "nothing is drawn where the card will cover it";
+    EXPECT_LT(at(140, 140).lightness(), at(140, 148).lightness()) << "it fades downwards";
+    EXPECT_LT(at(140, 148).lightness(), white.lightness());
+    EXPECT_EQ(at(39, 90), at(240, 90)) << "and is as dark on both sides";
+    EXPECT_LT(at(39, 90).lightness(), white.lightness());
+    EXPECT_EQ(at(140, 39), at(200, 39)) << "an edge is all alike";
+    EXPECT_EQ(at(140, 152), white);
 }
 
 /// The whole program's screens with pictures on a window, under real touches and keys.

@@ -28,11 +28,10 @@ FocusScope {
         bottomMargin: collection.footInset
         delegate: EventCell {}
     }
-    Rectangle {
+    Item {
         id: header
         width: parent.width
         height: Math.max(64, heading.implicitHeight + 8)
-        color: list.screen.view.fill.color
         StyledLabel {
             id: heading
             label: list.titleLabel
