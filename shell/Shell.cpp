@@ -48,6 +48,8 @@ void Shell::open() {
     QQmlApplicationEngine& engine = parts_->engine;
     qml_register_types_Tessivo();
     Pressable::makeAccessible();
+    // Letters as the desktop draws them: sharper on a coarse screen, and sooner there than distance fields.
+    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
     engine.setInitialProperties({{QStringLiteral("item"), QVariant::fromValue(&parts_->window)},

@@ -107,7 +107,8 @@ Outcome SqliteSavedSettings::read() {
 
 Outcome SqliteSavedSettings::write(std::string_view key, const Value& value) {
     auto prepared = database_->prepare("INSERT INTO settings(key, kind, value) VALUES(?1, ?2, ?3) "
-                                       "ON CONFLICT(key) DO UPDATE SET kind = ?2, value = ?3");
+                                       "ON CONFLICT(key) DO UPDATE SET kind = ?2, value = ?3 "
+                                       "WHERE kind <> ?2 OR value <> ?3"); // else the file stays as it is
     if (!prepared)
         return prepared.error();
     Statement& writing = prepared.value();

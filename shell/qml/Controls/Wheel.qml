@@ -113,6 +113,7 @@ FocusScope {
                 minimumPixelSize: 13
                 elide: Text.ElideRight
                 textFormat: Text.PlainText
+                renderType: Text.QtRendering // which keeps its shape at any scale
             }
         }
     }

@@ -75,8 +75,11 @@ void CustomTabBarController::setNavigationBarHidden(bool hidden) {
 
 void CustomTabBarController::viewDidAppear() {
     const Platform& platform = services_.platform();
+    // Asking for the network loads what watches it: no other launch has a use for the answer.
+    const bool mayPrompt = platform.settings.integer(settingKeys::secondOpen) == 2;
     platform.mainQueue.post(
-        [this, weak = weak_from_this(), text = rateUsText(platform.settings, platform.network)] {
+        [this, weak = weak_from_this(),
+         text = mayPrompt ? rateUsText(platform.settings, platform.network) : std::string()] {
             if (const auto standing = weak.lock())
                 promptForRating(text);
         });

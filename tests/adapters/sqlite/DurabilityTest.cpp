@@ -5,12 +5,14 @@
 #include "sqlite/Database.h"
 #include "sqlite/EventColumns.h"
 #include "sqlite/SqliteEventStore.h"
+#include "sqlite/SqliteSavedSettings.h"
 #include "support/Events.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <sqlite3.h>
 
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <map>
@@ -189,6 +191,27 @@ TEST_F(DurabilityTest, NoAcknowledgedWriteIsLostToAKillAtAnyMoment) {
     }
     EXPECT_GT(reports, 300);
     RecordProperty("acknowledged", reports);
+}
+
+TEST(Durability, TheLogDoesNotGrowWithRunsThatAreKilled) {
+    const TemporaryFolder folder;
+    const auto file = folder.path() / "settings.sqlite";
+    std::vector<std::uintmax_t> sizes;
+    for (int run = 0; run < 12; ++run) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            fakes::RecordingConsole console;
+            sqlite::SqliteSavedSettings settings(file, console);
+            settings.setInteger("SecondOpen", run);
+            settings.setText("rateUs", "0");
+            ::_exit(console.lines().empty() ? 0 : 1);
+        }
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        ASSERT_EQ(status, 0);
+        sizes.push_back(std::filesystem::file_size(file.string() + "-wal"));
+    }
+    EXPECT_LE(sizes.back(), sizes.front());
 }
 
 } // namespace
