@@ -89,6 +89,7 @@ Platform Machine::platform() {
             .uuids = uuids_,
             .eventStore = eventStore_,
             .notificationCenter = notificationCenter_,
+            .remoteNotifications = remoteNotifications_,
             .http = http_,
             .background = background_,
             .json = json_,

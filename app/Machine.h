@@ -32,6 +32,7 @@
 #include "standard/FolderDocumentFiles.h"
 #include "standard/GregorianCalendar.h"
 #include "standard/LinuxDevice.h"
+#include "standard/NoRemoteNotifications.h"
 #include "standard/RandomUuids.h"
 #include "standard/ThreadWorkQueue.h"
 #include "json/JsonLocalizedTexts.h"
@@ -105,6 +106,7 @@ private:
     sqlite::SqliteNotificationQueue notificationQueue_;
     RandomUuids uuids_;
     QueuedNotificationCenter notificationCenter_;
+    NoRemoteNotifications remoteNotifications_;
     NlohmannJson json_;
     QtImageCoding images_;
     QtResponseCaches responseCaches_;

@@ -3,6 +3,7 @@
 #include "Ports/Device.h"
 #include "Ports/MailComposing.h"
 #include "Ports/NetworkReachability.h"
+#include "Ports/RemoteNotifications.h"
 #include "Ports/ReviewRequests.h"
 
 #include <utility>
@@ -50,6 +51,18 @@ public:
 
     bool foreground = true;
     int requests = 0;
+};
+
+/// A push service that the test answers for.
+class StandInPushService final : public RemoteNotifications {
+public:
+    void onRegistration(std::function<void(const DeviceToken&)> registered) override {
+        answer = std::move(registered);
+    }
+    void registerForRemoteNotifications() override { ++registrations; }
+
+    int registrations = 0;
+    std::function<void(const DeviceToken&)> answer;
 };
 
 } // namespace tessivo::fakes

@@ -2,6 +2,8 @@
 
 #include "AddEventVC/EventBackgroundViewController.h"
 #include "Ports/Console.h"
+#include "Ports/MainQueue.h"
+#include "Ports/RemoteNotifications.h"
 
 namespace tessivo {
 namespace {
@@ -18,9 +20,11 @@ void ReminderViewController::viewDidLoad() {
 
 void ReminderViewController::askPermission() {
     platform().notificationCenter.requestAuthorization(
-        allOptions, [&console = platform().console](bool granted, const Outcome&) {
+        allOptions, [&platform = platform()](bool granted, const Outcome&) {
             if (!granted)
-                console.print("Permission for push notifications denied.");
+                return platform.console.print("Permission for push notifications denied.");
+            platform.mainQueue.post(
+                [&platform] { platform.remoteNotifications.registerForRemoteNotifications(); });
         });
 }
 

@@ -21,6 +21,7 @@ class NetworkReachability;
 class NotificationCenter;
 class PhotoLibrary;
 class PictureSharing;
+class RemoteNotifications;
 class ResourceFiles;
 class ResponseCaches;
 class ReviewRequests;
@@ -54,6 +55,7 @@ struct Platform {
     UuidSource& uuids;
     EventStore& eventStore;
     NotificationCenter& notificationCenter;
+    RemoteNotifications& remoteNotifications;
     HttpClient& http;
     WorkQueue& background;
     JsonCoding& json;

@@ -49,6 +49,17 @@ TEST_F(ReminderStepTest, PermissionIsAskedAsTheStepOpens) {
     hear();
     EXPECT_TRUE(program.console.printed("Permission for push notifications denied."));
     EXPECT_FALSE(step.toggleSwitch.isOn());
+    EXPECT_EQ(program.remoteNotifications.registrations, 0);
+}
+
+TEST_F(ReminderStepTest, WithPermissionTheDeviceRegistersForPushes) {
+    open(true);
+    hear();
+    program.notifications.answer(true);
+    hear();
+    EXPECT_EQ(program.remoteNotifications.registrations, 1);
+    program.remoteNotifications.answer({0x00, 0x0a, 0xff, 0x10});
+    EXPECT_TRUE(program.console.printed("Device Token: 000aff10"));
 }
 
 TEST_F(ReminderStepTest, NextAtOnceLeavesTheReminderOff) {

@@ -57,6 +57,7 @@ struct Program::Run {
                 .uuids = program.uuids_,
                 .eventStore = eventStore,
                 .notificationCenter = program.center_,
+                .remoteNotifications = program.remoteNotifications,
                 .http = program.http,
                 .background = program.background_,
                 .json = real.json,

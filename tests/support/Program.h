@@ -72,6 +72,7 @@ public:
     fakes::RecordingMail mail;
     fakes::StandInReachability network;
     fakes::RecordingReviews reviews;
+    fakes::StandInPushService remoteNotifications;
     fakes::StandInDevice device;
     RemoteProject remoteProject; ///< none: nothing is fetched; read at the next start
     ui::MainScreen screen{{390, 844}};

@@ -27,6 +27,8 @@ constexpr FirstValue firstValues[] = {
 } // namespace
 
 void AppDelegate::didFinishLaunching(ui::PresentationStack& window) {
+    services_.platform().remoteNotifications.onRegistration(
+        [this](const auto& deviceToken) { didRegisterForRemoteNotifications(deviceToken); });
     fillAbsentSettings();
     countLaunch();
     services_.fetchEventDataType().refreshEvents();
@@ -38,6 +40,16 @@ void AppDelegate::didFinishLaunching(ui::PresentationStack& window) {
     // Twice at each start; nothing waits for either.
     services_.firebaseManager().fetch();
     services_.firebaseManager().fetch();
+}
+
+void AppDelegate::didRegisterForRemoteNotifications(const RemoteNotifications::DeviceToken& deviceToken) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string text;
+    for (const std::uint8_t byte : deviceToken) {
+        text += digits[byte >> 4U];
+        text += digits[byte & 15U];
+    }
+    services_.platform().console.print("Device Token: " + text);
 }
 
 void AppDelegate::fillAbsentSettings() {

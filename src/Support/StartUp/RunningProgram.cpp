@@ -1,7 +1,5 @@
 #include "Support/StartUp/RunningProgram.h"
 
-#include "Support/StartUp/AppDelegate.h"
-
 namespace tessivo {
 
 RunningProgram::RunningProgram(const Platform& platform, FrameClock& frameClock, ui::MainScreen& screen)
@@ -15,7 +13,7 @@ RunningProgram::RunningProgram(const Platform& platform, FrameClock& frameClock,
 }
 
 void RunningProgram::launch() {
-    AppDelegate(services_).didFinishLaunching(stack_);
+    appDelegate_.didFinishLaunching(stack_);
 }
 
 } // namespace tessivo

@@ -3,6 +3,7 @@
 #include "Interface/Animation.h"
 #include "Interface/PresentationStack.h"
 #include "Support/SharedServices.h"
+#include "Support/StartUp/AppDelegate.h"
 #include "Support/StartUp/Screens.h"
 
 namespace tessivo {
@@ -29,6 +30,7 @@ private:
     Screens screens_;
     SharedServices services_;
     ui::PresentationStack stack_{window_};
+    AppDelegate appDelegate_{services_};
     Subscription preferences_;
 };
 
