@@ -17,6 +17,7 @@ Composition::Composition(const Machine::Settings& settings, Clock& clock, Consol
                   [this](bool allowed) { machine_.notificationCenter().setAuthorization(allowed); }),
       saveFailureAlert_(services().coreDataStack(), pendingScreens_, stack().window(),
                         machine_.machineTexts()),
+      unshownReminders_(pendingScreens_, stack().window(), machine_.machineTexts()),
       translator_(services().platform().texts),
       shell_(stack(), services().platform().colors, console, machine_.snapshots()) {
     if (!settings.photoService.empty())
@@ -35,6 +36,19 @@ void Composition::start() {
     });
     shell_.open();
     machine_.frameClock().setWindow(shell_.window());
+}
+
+void Composition::checkThatRemindersShow() {
+    machine_.notificationCenter().getPendingNotificationRequests([this](const auto& requests) {
+        if (requests->empty())
+            return;
+        services().platform().mainQueue.post([this] {
+            machine_.notificationDaemon().isThere([this](bool there) {
+                if (!there)
+                    unshownReminders_.show();
+            });
+        });
+    });
 }
 
 } // namespace tessivo

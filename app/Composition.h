@@ -4,6 +4,7 @@
 #include "Support/StartUp/PendingScreens.h"
 #include "Support/StartUp/RunningProgram.h"
 #include "Support/StartUp/SaveFailureAlert.h"
+#include "Support/StartUp/UnshownRemindersAlert.h"
 #include "app/Machine.h"
 #include "qt/QtTextTranslator.h"
 #include "shell/Shell.h"
@@ -25,6 +26,9 @@ public:
     /// Launches the program and opens its window.
     void start();
 
+    /// Tells the user if there are reminders and nothing on this desktop that would show them. Any thread.
+    void checkThatRemindersShow();
+
     [[nodiscard]] Machine& machine() { return machine_; }
     [[nodiscard]] shell::Shell& shell() { return shell_; }
     [[nodiscard]] SharedServices& services() { return program_.services(); }
@@ -37,6 +41,7 @@ private:
     PendingScreens pendingScreens_{stack()};
     NotificationPermission permission_;
     SaveFailureAlert saveFailureAlert_;
+    UnshownRemindersAlert unshownReminders_;
     QtTextTranslator translator_;
     shell::Shell shell_;
 };

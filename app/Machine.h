@@ -15,6 +15,7 @@
 #include "qt/QtTextMeasuring.h"
 #include "qt/QtTimers.h"
 #include "qtdesktop/DesktopPreferences.h"
+#include "qtdesktop/NotificationDaemon.h"
 #include "qtdesktop/QtLinkOpener.h"
 #include "qtdesktop/QtMailComposing.h"
 #include "qtdesktop/QtPhotoLibrary.h"
@@ -78,6 +79,7 @@ public:
     [[nodiscard]] const LocalizedTexts& machineTexts() const { return machineTexts_; }
     [[nodiscard]] ReviewPrompt& reviews() { return reviews_; }
     [[nodiscard]] DesktopPreferences& preferences() { return preferences_; }
+    [[nodiscard]] NotificationDaemon& notificationDaemon() { return notificationDaemon_; }
 
     /// Waits until no thread has anything left to do for the program, so that all of their answers wait on
     /// the main queue: where time is virtual, nothing else would wait for a thread.
@@ -124,6 +126,7 @@ private:
     QtForeground foreground_;
     ReviewPrompt reviews_;
     DesktopPreferences preferences_;
+    NotificationDaemon notificationDaemon_;
     LinuxDevice device_;
     Bundle bundle_;
     RemoteProject remoteProject_;

@@ -79,9 +79,13 @@ int main(int argc, char** argv) {
         return 0;
 
     const auto caches = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation).toStdString();
-    Composition composition(
-        {freedesktop::dataFolder(), caches + "/tessivo", language, freedesktop::tellReminderHelper}, clock,
-        console);
+    Composition composition({freedesktop::dataFolder(), caches + "/tessivo", language,
+                             [&] {
+                                 freedesktop::tellReminderHelper();
+                                 if (running)
+                                     running->checkThatRemindersShow();
+                             }},
+                            clock, console);
     running = &composition;
     composition.start();
 

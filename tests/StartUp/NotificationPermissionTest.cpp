@@ -4,6 +4,7 @@
 #include "Interface/AlertController.h"
 #include "SettingVC/NotificationSettingsController.h"
 #include "Support/StartUp/PendingScreens.h"
+#include "Support/StartUp/UnshownRemindersAlert.h"
 #include "support/Program.h"
 
 #include <gmock/gmock.h>
@@ -42,6 +43,16 @@ TEST_F(PermissionTest, QuestionsFollowOneAnother) {
     permission.openSettings();
     program.top<ui::AlertController>().choose(0);
     EXPECT_EQ(program.stack().top()->screenName(), "NotificationSettingsController");
+}
+
+TEST_F(PermissionTest, ThatNothingShowsRemindersIsToldOnce) {
+    UnshownRemindersAlert alert(pending, program.stack().window(), program.services().platform().texts);
+    alert.show();
+    alert.show();
+    EXPECT_EQ(program.top<ui::AlertController>().title(), "notShown.title");
+    program.top<ui::AlertController>().cancel(); // Escape
+    program.settle();
+    EXPECT_EQ(dynamic_cast<ui::AlertController*>(program.stack().top()), nullptr);
 }
 
 TEST_F(PermissionTest, ThePageShowsThePresentAnswerAndStoresAnother) {
