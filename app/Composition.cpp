@@ -26,7 +26,7 @@ Composition::Composition(const Machine::Settings& settings, Clock& clock, Consol
     machine_.reviews().showOver(stack());
     machine_.preferences().onChange(
         [this](const UserPreferences& preferences) { screen_.setPreferences(preferences); });
-    program_.screens().onOpenNotificationSettings([this] { permission_.openSettings(); });
+    services().openNotificationSettings = [this] { permission_.openSettings(); };
 }
 
 void Composition::start() {

@@ -18,7 +18,8 @@ ScreenItem::ScreenItem(std::shared_ptr<ui::ViewController> screen, const BridgeC
     : QObject(parent),
       screen_(std::move(screen)),
       context_(context),
-      controls_(screen_->controls, context, this) {}
+      controls_(screen_->controls, context, this),
+      insetChanges_(screen_->onBottomInsetChange([this] { Q_EMIT bottomInsetChanged(); })) {}
 
 ScreenItem::Kind ScreenItem::kind() const {
     switch (screen_->modalPresentationStyle) {

@@ -22,6 +22,7 @@ class ScreenItem : public QObject {
     Q_PROPERTY(tessivo::shell::ViewItem* view READ view CONSTANT FINAL)
     Q_PROPERTY(bool takesActs READ takesActs NOTIFY takesActsChanged FINAL)
     Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(double bottomInset READ bottomInset NOTIFY bottomInsetChanged FINAL)
 
 public:
     /// How the screen stands on the window.
@@ -36,6 +37,7 @@ public:
     [[nodiscard]] Kind kind() const;
     /// In points; 0 leaves it to the drawing.
     [[nodiscard]] double sheetHeight() const { return screen_->sheetPresentation.height.value_or(0); }
+    [[nodiscard]] double bottomInset() const { return screen_->bottomInset(); }
     /// The root of the screen's views, whose place is where the screen is drawn.
     [[nodiscard]] ViewItem* view() { return control(QStringLiteral("view")); }
     [[nodiscard]] const ui::ViewController& screen() const { return *screen_; }
@@ -53,6 +55,7 @@ public:
 
 Q_SIGNALS:
     void takesActsChanged();
+    void bottomInsetChanged();
 
 protected:
     ScreenItem(std::shared_ptr<ui::ViewController> screen, const BridgeContext& context, QObject* parent);
@@ -63,6 +66,7 @@ private:
     std::shared_ptr<ui::ViewController> screen_;
     const BridgeContext& context_;
     ItemSet controls_;
+    Subscription insetChanges_;
 };
 
 /// A question with its answers.

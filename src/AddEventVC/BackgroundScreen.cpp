@@ -111,7 +111,6 @@ void BackgroundScreen::chooseGradient(int row) {
         gradient->setHidden(false);
         applyGradientItem(*gradient, gradientItemAt(row, platform().console), platform().colors,
                           platform().console);
-        card().layerChanged();
     }
     take({NO_VALUE, static_cast<std::int16_t>(row), {}, {}});
     mark(std::nullopt, row);

@@ -20,7 +20,6 @@ void addSwitchGradient(ui::Switch& control, const NamedColors& colors, Console& 
 
 void showSwitchGradient(ui::Switch& control, bool shown) {
     control.sublayers().front()->setHidden(!shown);
-    control.layerChanged();
 }
 
 } // namespace tessivo

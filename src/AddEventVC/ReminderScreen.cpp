@@ -7,13 +7,15 @@
 #include "Ports/Console.h"
 #include "Ports/MainQueue.h"
 #include "Support/LocalizationVariables.h"
-#include "Support/ScreenFactory.h"
 
 namespace tessivo {
 namespace {
 
 constexpr double repeatSheetHeight = 350;
 constexpr double alertSheetHeight = 550;
+constexpr double insetAtRest = 16;
+constexpr double insetOverKeyboard = 85;
+constexpr double tallScreen = 811; ///< from this height up the keyboard does not reach Next
 
 } // namespace
 
@@ -83,7 +85,7 @@ void ReminderScreen::showPermissionAlert() {
     alert->addAction({texts().alertNo, ui::AlertActionStyle::Destructive, [this] { turnSwitchOff(); }, true});
     alert->addAction({texts().alertYes, ui::AlertActionStyle::Default, [this] {
                           turnSwitchOff();
-                          services().screens().openNotificationSettings();
+                          services().openNotificationSettings();
                       }});
     present(alert);
 }
@@ -164,11 +166,7 @@ void ReminderScreen::didEndEditing(ui::TextInput& input) {
 }
 
 void ReminderScreen::moveNextButton(bool editing) {
-    const double height = screen().height();
-    if (height == 811 || height >= 1000)
-        return;
-    const double offset = !editing ? 16 : height < 811 ? -85 : -16;
-    nextButton.setCenter({0, offset});
+    setBottomInset(editing && screen().height() < tallScreen ? insetOverKeyboard : insetAtRest);
 }
 
 void ReminderScreen::fillRows(const Reminder& reminder) {

@@ -69,8 +69,7 @@ private:
     void showRows();
     void hideRows();
     void handleViewLiveTap(const std::vector<std::string>& titles, int selected, double height);
-    /// Moves Next out of the keyboard's way and back: its centre's y is its offset from the foot of the safe
-    /// area.
+    /// Moves Next out of the keyboard's way and back.
     void moveNextButton(bool editing);
     [[nodiscard]] std::weak_ptr<ReminderScreen> weakThis();
 

@@ -50,7 +50,7 @@ using Timing = std::variant<EaseInOut, DampedOver, Spring>;
 /// When the curve has arrived for good.
 [[nodiscard]] Seconds lengthOf(const Timing& timing);
 
-enum class AnimatingPosition { End, Start, Current };
+enum class AnimatingPosition { End, Current };
 
 class PropertyAnimator;
 

@@ -29,11 +29,6 @@ void Button::setTitleColor(ColorRef color) {
     notify(ViewChange::Content);
 }
 
-void Button::setDisabledTitleColor(ColorRef color) {
-    disabledTitleColor_ = std::move(color);
-    notify(ViewChange::Content);
-}
-
 void Button::setEnabled(bool enabled) {
     enabled_ = enabled;
     notify(ViewChange::Content);

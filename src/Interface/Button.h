@@ -21,10 +21,9 @@ public:
     void setFont(Font font);
     [[nodiscard]] const ColorRef& tint() const { return tint_; }
     void setTint(ColorRef color);
-    /// The title's colour in the present state.
-    [[nodiscard]] const ColorRef& titleColor() const { return enabled_ ? titleColor_ : disabledTitleColor_; }
+    /// The title's colour in the present state: "disabled" while the button is.
+    [[nodiscard]] ColorRef titleColor() const { return enabled_ ? titleColor_ : ColorRef::named("disabled"); }
     void setTitleColor(ColorRef color);
-    void setDisabledTitleColor(ColorRef color);
     [[nodiscard]] bool isEnabled() const { return enabled_; }
     void setEnabled(bool enabled);
     [[nodiscard]] const Menu& menu() const { return menu_; }
@@ -52,7 +51,6 @@ private:
     Font font_;
     ColorRef tint_;
     ColorRef titleColor_ = ColorRef::black();
-    ColorRef disabledTitleColor_ = ColorRef::named("disabled");
     Menu menu_;
     Signal<PressEvent> presses_;
     Signal<> menuRequests_;

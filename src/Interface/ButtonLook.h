@@ -15,7 +15,7 @@ public:
 
     [[nodiscard]] virtual Rect titleRect() const = 0;
     [[nodiscard]] virtual Rect imageRect() const = 0;
-    [[nodiscard]] virtual const ColorRef& presentTitleColor() const = 0;
+    [[nodiscard]] virtual ColorRef presentTitleColor() const = 0;
     /// Empty where there is no picture.
     [[nodiscard]] virtual std::string presentImageName() const = 0;
 };

@@ -3,7 +3,7 @@
 #include "Interface/Geometry.h"
 #include "Ports/NamedColors.h"
 
-#include <memory>
+#include <functional>
 #include <utility>
 
 namespace tessivo::ui {
@@ -13,14 +13,14 @@ namespace tessivo::ui {
 class GradientLayer final {
 public:
     void setColors(Color first, Color second) {
-        first_ = first;
-        second_ = second;
+        change(first_, first);
+        change(second_, second);
     }
-    void setStartPoint(Point point) { startPoint_ = point; }
-    void setEndPoint(Point point) { endPoint_ = point; }
-    void setFrame(Rect frame) { frame_ = frame; }
-    void setCornerRadius(double radius) { cornerRadius_ = radius; }
-    void setHidden(bool hidden) { hidden_ = hidden; }
+    void setStartPoint(Point point) { change(startPoint_, point); }
+    void setEndPoint(Point point) { change(endPoint_, point); }
+    void setFrame(Rect frame) { change(frame_, frame); }
+    void setCornerRadius(double radius) { change(cornerRadius_, radius); }
+    void setHidden(bool hidden) { change(hidden_, hidden); }
 
     [[nodiscard]] std::pair<Color, Color> colors() const { return {first_, second_}; }
     [[nodiscard]] Point startPoint() const { return startPoint_; }
@@ -30,6 +30,15 @@ public:
     [[nodiscard]] bool isHidden() const { return hidden_; }
 
 private:
+    friend class View;
+
+    template <class Value>
+    void change(Value& held, const Value& value) {
+        if (std::exchange(held, value) != value && changed_)
+            changed_();
+    }
+
+    std::function<void()> changed_; ///< set by the view that shows the layer
     Color first_;
     Color second_;
     Point startPoint_{0.5, 0};

@@ -34,6 +34,8 @@ View::~View() {
         subview->superview_ = nullptr;
     for (const auto& recognizer : recognizers_)
         recognizer->view_ = nullptr;
+    for (const auto& layer : sublayers_)
+        layer->changed_ = nullptr;
 }
 
 void View::addSubview(View& view) {
@@ -102,11 +104,6 @@ void View::setBoundsOrigin(Point origin) {
 
 Point View::center() const {
     return {value(AnimatableProperty::CenterX), value(AnimatableProperty::CenterY)};
-}
-
-void View::setCenter(Point center) {
-    setValue(AnimatableProperty::CenterX, center.x);
-    setValue(AnimatableProperty::CenterY, center.y);
 }
 
 Rect View::drawnFrame() const {
@@ -305,6 +302,7 @@ void View::setAccessibilityName(std::string name) {
 }
 
 void View::insertSublayer(std::shared_ptr<GradientLayer> layer, std::size_t index) {
+    layer->changed_ = [this] { notify(ViewChange::Appearance); };
     const auto place = std::min(index, sublayers_.size());
     sublayers_.insert(sublayers_.begin() + static_cast<std::ptrdiff_t>(place), std::move(layer));
     notify(ViewChange::Appearance);
@@ -313,12 +311,14 @@ void View::insertSublayer(std::shared_ptr<GradientLayer> layer, std::size_t inde
 void View::removeSublayer(std::size_t index) {
     if (index >= sublayers_.size())
         return;
+    sublayers_[index]->changed_ = nullptr;
     sublayers_.erase(sublayers_.begin() + static_cast<std::ptrdiff_t>(index));
     notify(ViewChange::Appearance);
 }
 
 void View::removeAllSublayers() {
-    sublayers_.clear();
+    for (const auto& layer : std::exchange(sublayers_, {}))
+        layer->changed_ = nullptr;
     notify(ViewChange::Appearance);
 }
 

@@ -63,7 +63,6 @@ public:
     [[nodiscard]] Rect bounds() const;
     void setBoundsOrigin(Point origin);
     [[nodiscard]] Point center() const;
-    void setCenter(Point center);
     void setCenterX(double x) { setValue(AnimatableProperty::CenterX, x); }
     [[nodiscard]] double scale() const { return value(AnimatableProperty::Scale); }
     void setScale(double scale) { setValue(AnimatableProperty::Scale, scale); }
@@ -122,8 +121,6 @@ public:
     void insertSublayer(std::shared_ptr<GradientLayer> layer, std::size_t index);
     void removeSublayer(std::size_t index);
     void removeAllSublayers();
-    /// Tells the window to redraw the layers of this view.
-    void layerChanged() { notify(ViewChange::Appearance); }
 
     /// `changed` is called after each change.
     [[nodiscard]] Subscription onChange(std::function<void(ViewChange)> changed) {

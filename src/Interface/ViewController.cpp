@@ -25,6 +25,11 @@ void ViewController::loadViewIfNeeded() {
     viewDidLoad();
 }
 
+void ViewController::setBottomInset(double inset) {
+    if (std::exchange(bottomInset_, inset) != inset)
+        bottomInsetChanges_.emit();
+}
+
 ViewController* ViewController::presenter() {
     ViewController* outermost = this;
     while (outermost->parent_)

@@ -74,6 +74,14 @@ public:
     /// Ignored while a transition runs.
     void dismiss(bool animated = true, std::function<void()> completion = {});
 
+    /// How far the controls at the foot of the screen stay above it while the on-screen keyboard is up, in
+    /// points.
+    [[nodiscard]] double bottomInset() const { return bottomInset_; }
+    void setBottomInset(double inset);
+    [[nodiscard]] Subscription onBottomInsetChange(std::function<void()> changed) {
+        return bottomInsetChanges_.subscribe(std::move(changed));
+    }
+
     [[nodiscard]] ViewController* presentedViewController() const;
     [[nodiscard]] ViewController* presentingViewController() const;
     [[nodiscard]] ViewController* parent() const { return parent_; }
@@ -120,6 +128,8 @@ private:
     bool hasLeft_ = false; ///< a window has shown it, and does no more
     ViewController* parent_ = nullptr;
     Subscription screenChanges_;
+    double bottomInset_ = 16;
+    Signal<> bottomInsetChanges_;
     bool loaded_ = false;
 };
 

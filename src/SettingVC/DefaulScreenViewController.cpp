@@ -91,10 +91,8 @@ void DefaulScreenViewController::resizeCard() {
         return;
     const ui::Rect frame{margin, 0, screen().width() - 2 * margin, screen().height() / size->heightDivisor};
     eventView.setFrame(frame);
-    if (!eventView.sublayers().empty()) {
+    if (!eventView.sublayers().empty())
         eventView.sublayers().front()->setFrame({0, 0, frame.width, frame.height});
-        eventView.layerChanged();
-    }
 }
 
 int DefaulScreenViewController::numberOfItems(ui::CollectionView&) {

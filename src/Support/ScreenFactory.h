@@ -35,10 +35,6 @@ public:
     makeSettings(std::weak_ptr<SettingControllerDelegate> delegate) = 0;
     /// The tour of the first run, which ends in the tabs.
     [[nodiscard]] virtual std::shared_ptr<ui::ViewController> makeOnboarding() = 0;
-
-    /// Opens the machine's page on which the user may allow notifications; quietly does nothing where it has
-    /// none.
-    virtual void openNotificationSettings() = 0;
 };
 
 } // namespace tessivo

@@ -3,6 +3,7 @@
 #include "Ports/Subscription.h"
 #include "Support/Platform.h"
 
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -59,6 +60,9 @@ public:
     [[nodiscard]] NetworkActivityIndicatorManager& networkActivityIndicatorManager();
     [[nodiscard]] MailManager& mailManager();
     [[nodiscard]] AlertManager& alertManager();
+
+    /// Opens the machine's page on which the user may allow notifications, where it has one.
+    std::function<void()> openNotificationSettings = [] {};
 
     /// Keeps something going for the life of the program, whoever started it.
     void keep(Subscription subscription) { kept_.push_back(std::move(subscription)); }

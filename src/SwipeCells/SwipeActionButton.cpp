@@ -48,7 +48,7 @@ void SwipeActionButton::setHighlighted(bool highlighted) {
     notify(ui::ViewChange::Content);
 }
 
-const ui::ColorRef& SwipeActionButton::presentTitleColor() const {
+ui::ColorRef SwipeActionButton::presentTitleColor() const {
     if (!highlighted_)
         return titleColor();
     return highlightedTextColor_ ? *highlightedTextColor_ : tint();

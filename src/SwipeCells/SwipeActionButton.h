@@ -31,7 +31,7 @@ public:
 
     [[nodiscard]] bool isHighlighted() const { return highlighted_; }
     /// The text's colour and the picture in the present state.
-    [[nodiscard]] const ui::ColorRef& presentTitleColor() const override;
+    [[nodiscard]] ui::ColorRef presentTitleColor() const override;
     [[nodiscard]] const std::optional<ActionImage>& presentImage() const;
     [[nodiscard]] std::string presentImageName() const override;
 

@@ -17,7 +17,6 @@ void GradientView::setColors(const std::vector<Color>& colors) {
 void GradientView::layoutSubviews() {
     for (const auto& layer : sublayers())
         layer->setFrame(bounds());
-    layerChanged();
 }
 
 } // namespace tessivo::unsplash

@@ -9,8 +9,6 @@ namespace tessivo::unsplash {
 class CustomSearchBar final : public ui::TextField {
 public:
     using TextField::TextField;
-
-    [[nodiscard]] bool showsCancelButton() const { return false; }
 };
 
 /// The search of a screen: the field, and the button in it that empties it.

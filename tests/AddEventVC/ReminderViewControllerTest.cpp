@@ -29,7 +29,7 @@ protected:
         hear();
     }
 
-    /// Lets the notification center answer, and the answers reach the screen.
+    /// Lets the notification center answer and its answers reach the screen.
     void hear() {
         program.notifications.run();
         program.timeline.runPosted();
@@ -175,6 +175,8 @@ TEST_F(ReminderStepTest, DeniedTheSwitchEndsOffWhicheverWayItWasTurned) {
     auto& step = open(true);
     hear();
     program.notifications.setStatus(AuthorizationStatus::Denied);
+    std::size_t pagesOpened = 0;
+    program.services().openNotificationSettings = [&] { ++pagesOpened; };
     for (const std::size_t answer : {0U, 1U}) {
         for (const bool on : {false, true}) {
             step.toggleSwitch.setOn(on);
@@ -194,6 +196,7 @@ TEST_F(ReminderStepTest, DeniedTheSwitchEndsOffWhicheverWayItWasTurned) {
             EXPECT_TRUE(step.alertlabel.isHidden());
             EXPECT_EQ(program.stack().top(), &step);
         }
+        EXPECT_EQ(pagesOpened, 2 * answer);
     }
 }
 
@@ -211,15 +214,14 @@ TEST_F(ReminderStepTest, AnAnswerAfterTheStepHasGoneIsDropped) {
 }
 
 TEST_F(ReminderStepTest, NextRisesOutOfTheKeyboardsWay) {
-    const std::pair<double, double> raised[] = {{640, -85}, {810, -85}, {811, 0},
-                                                {844, -16}, {999, -16}, {1000, 0}};
-    for (const auto& [height, offset] : raised) {
+    const std::pair<double, double> insets[] = {{640, 85}, {810, 85}, {811, 16}, {999, 16}, {1000, 16}};
+    for (const auto& [height, inset] : insets) {
         program.screen.resize({390, height}, 1);
         auto& step = open(true);
         step.reminderMess.beginEditing();
-        EXPECT_EQ(step.nextButton.center().y, offset) << height;
+        EXPECT_EQ(step.bottomInset(), inset) << height;
         step.reminderMess.endEditing();
-        EXPECT_EQ(step.nextButton.center().y, offset == 0 ? 0 : 16) << height;
+        EXPECT_EQ(step.bottomInset(), 16) << height;
         program.restart();
     }
 }

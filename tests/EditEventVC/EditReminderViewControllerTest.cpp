@@ -134,7 +134,7 @@ TEST_F(EditReminderTest, OpenedOnAndDeniedTheRowsStayAndSaveWritesOff) {
     EXPECT_EQ(row()->remMess(), "");
 }
 
-TEST_F(EditReminderTest, WithoutAnIdentityNothingIsShownAndAStrangeNumberStopsTheProgram) {
+TEST_F(EditReminderTest, WithoutAnIdNothingIsShownAndAStrangeNumberStopsTheProgram) {
     EventRecord record;
     record.title = "Summer";
     record.dateEvent = "25 June 2030";

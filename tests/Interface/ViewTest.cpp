@@ -87,6 +87,24 @@ TEST_F(ViewTest, ChangesAreToldByTheirKind) {
     EXPECT_THAT(toldOfOver, ElementsAre(ViewChange::Hierarchy));
 }
 
+TEST_F(ViewTest, ALayerTellsItsChangesWhileItIsShown) {
+    const auto layer = std::make_shared<GradientLayer>();
+    int told = 0;
+    const auto subscription = root.onChange([&](ViewChange) { ++told; });
+    root.insertSublayer(layer, 0);
+    told = 0;
+    layer->setHidden(true);
+    layer->setHidden(true);
+    layer->setFrame({0, 0, 10, 10});
+    EXPECT_EQ(told, 2);
+    root.removeSublayer(0);
+    told = 0;
+    layer->setHidden(false);
+    EXPECT_EQ(told, 0);
+    View{}.insertSublayer(layer, 0);
+    layer->setHidden(true); // its view has gone
+}
+
 class Refusing final : public GestureRecognizerDelegate {
 public:
     bool gestureRecognizerShouldBegin(GestureRecognizer&) override { return answer; }

@@ -17,7 +17,7 @@ FocusScope {
 
     onFocusedChanged: flick.reveal(focused)
 
-    // A tap on the screen beside every control.
+    // A tap beside all controls.
     signal tappedBeside
 
     function tapBeside() {
@@ -67,7 +67,7 @@ FocusScope {
         boundsBehavior: Flickable.StopAtBounds
         onHeightChanged: reveal(frame.focused)
 
-        // Scrolls what the keyboard has come to into view, with a piece of what stands around it.
+        // Scrolls the focused control into view, with a piece of what stands around it.
         function reveal(item: Item) {
             let above = item;
             while (above && above !== column)
@@ -113,7 +113,6 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.leftMargin: Theme.margin
         anchors.rightMargin: Theme.margin
-        // The screen raises Next out of the keyboard's way: a negative offset from the foot of the safe area.
-        anchors.bottomMargin: Qt.inputMethod.visible ? Math.max(16, -button.y) : 16
+        anchors.bottomMargin: Qt.inputMethod.visible ? frame.screen.bottomInset : 16
     }
 }

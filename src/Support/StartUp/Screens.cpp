@@ -61,9 +61,4 @@ std::shared_ptr<ui::ViewController> Screens::makeOnboarding() {
     return std::make_shared<OnboardingViewController>(*services_);
 }
 
-void Screens::openNotificationSettings() {
-    if (openNotificationSettings_)
-        openNotificationSettings_();
-}
-
 } // namespace tessivo

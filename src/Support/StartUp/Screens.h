@@ -2,8 +2,6 @@
 
 #include "Support/ScreenFactory.h"
 
-#include <functional>
-
 namespace tessivo {
 
 class SharedServices;
@@ -23,15 +21,8 @@ public:
     [[nodiscard]] std::shared_ptr<ui::ViewController>
     makeSettings(std::weak_ptr<SettingControllerDelegate> delegate) override;
     [[nodiscard]] std::shared_ptr<ui::ViewController> makeOnboarding() override;
-    void openNotificationSettings() override;
-
-    /// What `openNotificationSettings` does.
-    void onOpenNotificationSettings(std::function<void()> open) {
-        openNotificationSettings_ = std::move(open);
-    }
 
 private:
-    std::function<void()> openNotificationSettings_;
     SharedServices* services_ = nullptr;
 };
 
