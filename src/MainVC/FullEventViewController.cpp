@@ -3,11 +3,11 @@
 #include "Event/CoreDataStack.h"
 #include "Event/EventCoreData.h"
 #include "Event/ReminderScheduler.h"
-#include "Interface/ActivityViewController.h"
 #include "Interface/AlertController.h"
 #include "Interface/ViewSnapshots.h"
 #include "MainVC/EventActions.h"
 #include "Ports/Clock.h"
+#include "Support/Sharing/ActivityViewController.h"
 
 namespace tessivo {
 namespace {
@@ -86,7 +86,7 @@ void FullEventViewController::share() {
             return;
         self->showButtons(true);
         if (picture)
-            self->present(std::make_shared<ui::ActivityViewController>(
+            self->present(std::make_shared<ActivityViewController>(
                 self->window(), self->platform().texts, self->platform().pictureSharing, std::move(picture)));
     });
 }

@@ -2,7 +2,6 @@
 
 #include "Event/CoreDataStack.h"
 #include "Event/ReminderScheduler.h"
-#include "Interface/ActivityViewController.h"
 #include "Interface/AlertController.h"
 #include "Interface/ViewSnapshots.h"
 #include "MainVC/EventActions.h"
@@ -10,6 +9,7 @@
 #include "Ports/Console.h"
 #include "Ports/MainQueue.h"
 #include "Support/CardSize.h"
+#include "Support/Sharing/ActivityViewController.h"
 
 #include <algorithm>
 
@@ -105,7 +105,7 @@ void MainViewController::shareCard(int item) {
     platform().snapshots.snapshot(*cell, [weak =
                                               std::weak_ptr(self())](std::shared_ptr<const Bitmap> picture) {
         if (const auto list = weak.lock(); list && picture)
-            list->present(std::make_shared<ui::ActivityViewController>(
+            list->present(std::make_shared<ActivityViewController>(
                 list->window(), list->platform().texts, list->platform().pictureSharing, std::move(picture)));
     });
 }

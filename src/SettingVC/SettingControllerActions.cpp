@@ -1,6 +1,5 @@
 // What the rows do that speak to the world outside: rate, share, write to the support, open a page.
 
-#include "Interface/ActivityViewController.h"
 #include "Interface/AlertController.h"
 #include "Ports/Device.h"
 #include "Ports/LinkOpener.h"
@@ -13,6 +12,7 @@
 #include "Support/Feedback/DeviceName.h"
 #include "Support/Feedback/RateUs.h"
 #include "Support/LocalizationVariables.h"
+#include "Support/Sharing/ActivityViewController.h"
 
 namespace tessivo {
 
@@ -52,8 +52,8 @@ void SettingController::writeReview() {
 }
 
 void SettingController::shareTheApp() {
-    present(std::make_shared<ui::ActivityViewController>(window(), platform().texts, platform().textSharing,
-                                                         texts().share + std::string(addresses::storePage)));
+    present(std::make_shared<ActivityViewController>(window(), platform().texts, platform().textSharing,
+                                                     texts().share + std::string(addresses::storePage)));
 }
 
 void SettingController::writeToSupport() {

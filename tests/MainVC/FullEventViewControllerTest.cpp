@@ -2,8 +2,8 @@
 
 #include "AddEventVC/EditEventBackgroundViewController.h"
 #include "EditEventVC/EditEventTitleViewController.h"
-#include "Interface/ActivityViewController.h"
 #include "Interface/AlertController.h"
+#include "Support/Sharing/ActivityViewController.h"
 #include "support/EditTest.h"
 
 namespace tessivo {
@@ -131,7 +131,7 @@ TEST_F(FullEventTest, TheSharedPictureHasNoButtonsAndTheyReturnWhenItWasTaken) {
     program.timeline.runPosted();
     EXPECT_FALSE(screen.prevButton.isHidden());
     EXPECT_FALSE(screen.fillterButton.isHidden());
-    program.top<ui::ActivityViewController>().copyButton.tap();
+    program.top<ActivityViewController>().copyButton.tap();
     ASSERT_EQ(program.pictureSharing.shared.size(), 1U);
     EXPECT_EQ(program.pictureSharing.shared.front().picture, program.snapshots.picture);
 }

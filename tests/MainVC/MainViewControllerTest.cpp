@@ -3,12 +3,12 @@
 #include "Event/CoreDataStack.h"
 #include "Event/EventItem.h"
 #include "Extension/TabBar/CustomTabBarController.h"
-#include "Interface/ActivityViewController.h"
 #include "Interface/AlertController.h"
 #include "MainVC/EventCell.h"
 #include "Ports/SavedSettings.h"
 #include "Support/LocalizationVariables.h"
 #include "Support/SettingKeys.h"
+#include "Support/Sharing/ActivityViewController.h"
 #include "support/Events.h"
 #include "support/Program.h"
 
@@ -314,7 +314,7 @@ TEST_F(ListTest, SharingACardTakesItsPictureAndOpensTheSheet) {
     ASSERT_EQ(program.snapshots.asked.size(), 1U);
     EXPECT_EQ(program.snapshots.asked.front(), &card(future, 0));
     program.timeline.runPosted();
-    program.top<ui::ActivityViewController>().copyButton.tap();
+    program.top<ActivityViewController>().copyButton.tap();
     ASSERT_EQ(program.pictureSharing.shared.size(), 1U);
     EXPECT_EQ(program.pictureSharing.shared.front().picture, program.snapshots.picture);
 }

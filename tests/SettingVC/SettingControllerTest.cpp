@@ -1,9 +1,9 @@
 #include "SettingVC/SettingController.h"
 
-#include "Interface/ActivityViewController.h"
 #include "Interface/AlertController.h"
 #include "Ports/SavedSettings.h"
 #include "Support/SettingKeys.h"
+#include "Support/Sharing/ActivityViewController.h"
 #include "support/Program.h"
 #include "json/NlohmannJson.h"
 
@@ -219,7 +219,7 @@ TEST_F(SettingsTest, ASupportMailNamesDeviceSystemAndVersion) {
 TEST_F(SettingsTest, SharingHandsOverATextWithTheStorePage) {
     auto& screen = open();
     tap(screen, 2, 1);
-    auto& sheet = program.top<ui::ActivityViewController>();
+    auto& sheet = program.top<ActivityViewController>();
     EXPECT_TRUE(sheet.preview.isHidden());
     EXPECT_TRUE(sheet.saveButton.isHidden());
     sheet.messageButton.tap();
@@ -230,7 +230,7 @@ TEST_F(SettingsTest, SharingHandsOverATextWithTheStorePage) {
     EXPECT_EQ(program.stack().top(), &screen);
     program.textSharing.hasMessenger = false;
     tap(screen, 2, 1);
-    EXPECT_TRUE(program.top<ui::ActivityViewController>().messageButton.isHidden());
+    EXPECT_TRUE(program.top<ActivityViewController>().messageButton.isHidden());
 }
 
 TEST(Applications, ADamagedListOffersNothing) {

@@ -1,4 +1,4 @@
-#include "Interface/ActivityViewController.h"
+#include "Support/Sharing/ActivityViewController.h"
 #include "fakes/KeysAsTexts.h"
 #include "fakes/RecordingPictureSharing.h"
 #include "shell/ControlWindow.h"
@@ -58,7 +58,7 @@ TEST_F(ShareSheetWindow, TheSheetShowsThePictureAndEachButtonSharesIt) {
     const fakes::KeysAsTexts texts;
     fakes::RecordingPictureSharing sharing;
     const auto picture = std::make_shared<Bitmap>(Bitmap{1, 1, {255, 0, 255, 255}});
-    const auto sheet = std::make_shared<ui::ActivityViewController>(windowContext, texts, sharing, picture);
+    const auto sheet = std::make_shared<ActivityViewController>(windowContext, texts, sharing, picture);
     for (const char* act : {"Save", "Copy", "Open", "Mail"}) {
         screen->present(sheet);
         draw(*sheet, "ActivityViewController { anchors.fill: parent; screen: root.screen }");
@@ -78,7 +78,7 @@ TEST_F(ShareSheetWindow, TheSheetShowsThePictureAndEachButtonSharesIt) {
 TEST_F(ShareSheetWindow, TheKeyboardLeavesAndCancelsWithoutSharing) {
     const fakes::KeysAsTexts texts;
     fakes::RecordingPictureSharing sharing;
-    const auto sheet = std::make_shared<ui::ActivityViewController>(
+    const auto sheet = std::make_shared<ActivityViewController>(
         windowContext, texts, sharing, std::make_shared<Bitmap>(Bitmap{1, 1, {1, 2, 3, 255}}));
     screen->present(sheet);
     draw(*sheet, "ActivityViewController { anchors.fill: parent; focus: true; screen: root.screen }");

@@ -1,38 +1,38 @@
-#include "Interface/ActivityViewController.h"
+#include "Support/Sharing/ActivityViewController.h"
 
 #include "Interface/AlertController.h"
 #include "Ports/LocalizedTexts.h"
 
-namespace tessivo::ui {
+namespace tessivo {
 namespace {
 
-void showAlert(ViewController& screen, WindowContext& window, const LocalizedTexts& texts, const char* title,
-               const std::string& message) {
-    ViewController* top = &screen;
+void showAlert(ui::ViewController& screen, ui::WindowContext& window, const LocalizedTexts& texts,
+               const char* title, const std::string& message) {
+    ui::ViewController* top = &screen;
     while (auto* above = top->presentedViewController())
         top = above;
-    auto alert = std::make_shared<AlertController>(window, AlertStyle::Alert, texts.localizedString(title),
-                                                   texts.localizedString(message));
-    alert->addAction({texts.localizedString("OK"), AlertActionStyle::Cancel, {}});
+    auto alert = std::make_shared<ui::AlertController>(
+        window, ui::AlertStyle::Alert, texts.localizedString(title), texts.localizedString(message));
+    alert->addAction({texts.localizedString("OK"), ui::AlertActionStyle::Cancel, {}});
     top->present(std::move(alert));
 }
 
 } // namespace
 
-ActivityViewController::ActivityViewController(WindowContext& window, const LocalizedTexts& texts)
-    : ViewController(window), texts_(texts) {
-    modalPresentationStyle = PresentationStyle::ActionSheet;
+ActivityViewController::ActivityViewController(ui::WindowContext& window, const LocalizedTexts& texts)
+    : ui::ViewController(window), texts_(texts) {
+    modalPresentationStyle = ui::PresentationStyle::ActionSheet;
     view().setAccessibilityName(texts.localizedString("Share"));
-    preview.setContentMode(ContentMode::AspectFit);
-    for (View* view : std::initializer_list<View*>{&preview, &textPreview, &saveButton, &copyButton,
-                                                   &openButton, &mailButton, &messageButton})
+    preview.setContentMode(ui::ContentMode::AspectFit);
+    for (ui::View* view : std::initializer_list<ui::View*>{&preview, &textPreview, &saveButton, &copyButton,
+                                                           &openButton, &mailButton, &messageButton})
         view->setHidden(true);
     cancelButton.setTitle(texts.localizedString("Cancel"));
-    cancelButton.setTitleColor(ColorRef::named("button"));
-    cancelButton.addTarget(PressEvent::UpInside, [this] { dismiss(); });
+    cancelButton.setTitleColor(ui::ColorRef::named("button"));
+    cancelButton.addTarget(ui::PressEvent::UpInside, [this] { dismiss(); });
 }
 
-ActivityViewController::ActivityViewController(WindowContext& window, const LocalizedTexts& texts,
+ActivityViewController::ActivityViewController(ui::WindowContext& window, const LocalizedTexts& texts,
                                                PictureSharing& sharing, std::shared_ptr<const Bitmap> picture)
     : ActivityViewController(window, texts) {
     preview.setImage({"", picture});
@@ -55,7 +55,7 @@ ActivityViewController::ActivityViewController(WindowContext& window, const Loca
     offer(mailButton, "Mail", "shareMail", handOver(&PictureSharing::mail), "The Picture Was Not Sent");
 }
 
-ActivityViewController::ActivityViewController(WindowContext& window, const LocalizedTexts& texts,
+ActivityViewController::ActivityViewController(ui::WindowContext& window, const LocalizedTexts& texts,
                                                TextSharing& sharing, std::string text)
     : ActivityViewController(window, texts) {
     textPreview.setText(text);
@@ -70,13 +70,13 @@ ActivityViewController::ActivityViewController(WindowContext& window, const Loca
               "The Text Was Not Sent");
 }
 
-void ActivityViewController::offer(Button& button, const char* title, const char* image,
+void ActivityViewController::offer(ui::Button& button, const char* title, const char* image,
                                    std::function<void(Tell)> act) {
     button.setTitle(texts_.localizedString(title));
     button.setImageName(image);
     button.setHidden(false);
-    button.addTarget(PressEvent::UpInside, [this, act = std::move(act)] {
-        ViewController* below = presentingViewController();
+    button.addTarget(ui::PressEvent::UpInside, [this, act = std::move(act)] {
+        ui::ViewController* below = presentingViewController();
         if (!below)
             return; // a second press on a sheet that is on its way out
         act(tellOver(*below));
@@ -84,7 +84,7 @@ void ActivityViewController::offer(Button& button, const char* title, const char
     });
 }
 
-void ActivityViewController::offer(Button& button, const char* title, const char* image, HandOver act,
+void ActivityViewController::offer(ui::Button& button, const char* title, const char* image, HandOver act,
                                    const char* failure) {
     offer(button, title, image, [act = std::move(act), failure](Tell tell) {
         act([tell = std::move(tell), failure](const Outcome& outcome) {
@@ -94,7 +94,7 @@ void ActivityViewController::offer(Button& button, const char* title, const char
     });
 }
 
-ActivityViewController::Tell ActivityViewController::tellOver(ViewController& screen) {
+ActivityViewController::Tell ActivityViewController::tellOver(ui::ViewController& screen) {
     return [weak = screen.weak_from_this(), &window = window(), &texts = texts_](const char* title,
                                                                                  const std::string& message) {
         if (const auto standing = weak.lock())
@@ -102,4 +102,4 @@ ActivityViewController::Tell ActivityViewController::tellOver(ViewController& sc
     };
 }
 
-} // namespace tessivo::ui
+} // namespace tessivo

@@ -1,21 +1,16 @@
-#include "Interface/ActivityViewController.h"
+#include "Support/Sharing/ActivityViewController.h"
 #include "Interface/AlertController.h"
 #include "Interface/Animation.h"
 #include "Interface/PresentationStack.h"
 #include "fakes/KeysAsTexts.h"
 #include "fakes/RecordingPictureSharing.h"
 #include "fakes/Timeline.h"
+#include "support/PlainScreen.h"
 
 #include <gmock/gmock.h>
 
-namespace tessivo::ui {
+namespace tessivo {
 namespace {
-
-class PlainScreen final : public ViewController {
-public:
-    using ViewController::ViewController;
-    [[nodiscard]] std::string screenName() const override { return "PlainScreen"; }
-};
 
 class ShareSheetTest : public testing::Test {
 protected:
@@ -25,20 +20,20 @@ protected:
     }
 
     fakes::Timeline line;
-    MainScreen screen;
-    Animations animations{line, line};
-    WindowContext window{screen, animations};
+    ui::MainScreen screen;
+    ui::Animations animations{line, line};
+    ui::WindowContext window{screen, animations};
     fakes::KeysAsTexts texts;
     fakes::RecordingPictureSharing sharing;
     std::shared_ptr<const Bitmap> picture = std::make_shared<Bitmap>(Bitmap{1, 1, {1, 2, 3, 4}});
-    PresentationStack stack{window};
+    ui::PresentationStack stack{window};
     std::shared_ptr<PlainScreen> root = std::make_shared<PlainScreen>(window);
     std::shared_ptr<ActivityViewController> sheet =
         std::make_shared<ActivityViewController>(window, texts, sharing, picture);
 };
 
 TEST_F(ShareSheetTest, EachActHandsThePictureOverAndLeaves) {
-    const std::vector<std::pair<Button ActivityViewController::*, std::string>> acts{
+    const std::vector<std::pair<ui::Button ActivityViewController::*, std::string>> acts{
         {&ActivityViewController::saveButton, "save"},
         {&ActivityViewController::copyButton, "copy"},
         {&ActivityViewController::openButton, "open"},
@@ -53,7 +48,7 @@ TEST_F(ShareSheetTest, EachActHandsThePictureOverAndLeaves) {
         EXPECT_EQ(stack.top(), root.get()) << act;
         sharing.shared.back().done(std::nullopt);
         EXPECT_EQ(stack.top() == root.get(), act != "save") << "only a saved picture needs words: " << act;
-        if (auto* alert = dynamic_cast<AlertController*>(stack.top())) {
+        if (auto* alert = dynamic_cast<ui::AlertController*>(stack.top())) {
             EXPECT_EQ(alert->title(), "The Picture Was Saved");
             EXPECT_EQ(alert->message(), sharing.savedPath);
             alert->dismiss();
@@ -73,7 +68,7 @@ TEST_F(ShareSheetTest, AFailureIsToldOnWhateverStandsOnTopByThen) {
     const auto next = std::make_shared<PlainScreen>(window);
     root->present(next);
     sharing.shared.front().done(Error{"PictureSharing", 1, "There is no mail program."});
-    const auto* alert = dynamic_cast<AlertController*>(stack.top());
+    const auto* alert = dynamic_cast<ui::AlertController*>(stack.top());
     ASSERT_TRUE(alert);
     EXPECT_EQ(alert->presentingViewController(), next.get());
     EXPECT_EQ(alert->title(), "The Picture Was Not Sent");
@@ -95,4 +90,4 @@ TEST_F(ShareSheetTest, CancelSharesNothing) {
 }
 
 } // namespace
-} // namespace tessivo::ui
+} // namespace tessivo
