@@ -4,7 +4,7 @@
 
 namespace tessivo::fakes {
 
-/// Identities in a row: the first ends in 01, the next in 02.
+/// Identifiers in sequence: the first ends in 01, the next in 02.
 class CountingUuids final : public UuidSource {
 public:
     Uuid random() override {

@@ -31,7 +31,7 @@ public:
     /// Calls that have not been carried out.
     [[nodiscard]] std::size_t waiting() const { return waiting_.size(); }
 
-    /// What the user says at once when asked. Empty (the start) leaves the question open until `answer`.
+    /// What the user answers at once when asked. Empty (the start) leaves the question open until `answer`.
     void willAnswer(std::optional<bool> granted) { readyAnswer_ = granted; }
 
     /// The user answers the open question.
@@ -49,7 +49,7 @@ public:
 
     [[nodiscard]] const std::vector<NotificationRequest>& pending() const { return pending_; }
 
-    /// The request of that identifier has been shown: it is pending no more.
+    /// Shows the request of that identifier, which is then no longer pending.
     void fire(const std::string& identifier) { erase(identifier); }
 
 private:

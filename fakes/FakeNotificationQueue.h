@@ -17,8 +17,8 @@ struct QueueDisk {
     AuthorizationStatus authorization = AuthorizationStatus::NotDetermined;
     std::int64_t last = 0;
     bool hasLoss = false;
-    Outcome readFailure;  ///< every read ends in it while it is set
-    Outcome writeFailure; ///< every change ends in it while it is set
+    Outcome readFailure;  ///< every read fails with it while it is set
+    Outcome writeFailure; ///< every change fails with it while it is set
 };
 
 /// A notification queue in memory that can be made to fail.

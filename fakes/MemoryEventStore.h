@@ -15,7 +15,7 @@ public:
     std::optional<StoreState> state() override;
     Outcome save(std::span<EventChange> changes) override;
 
-    /// The next call of that kind fails with this and does nothing; the ones behind it succeed again.
+    /// The next call of that kind fails with this and does nothing; later ones succeed again.
     void failNextLoad(LoadFailure failure) { loadFailure_ = std::move(failure); }
     void failNextFetch(Error error) { fetchError_ = std::move(error); }
     void failNextSave(Error error) { saveError_ = std::move(error); }

@@ -14,8 +14,8 @@
 
 namespace tessivo::fakes {
 
-/// All of the program's time on one virtual line. Nothing moves but by `advance` and `runPosted`; a test
-/// never waits.
+/// All of the program's time on one virtual line. Only `advance` and `runPosted` move anything; a test never
+/// waits.
 ///
 /// Two times run along it: steady time, which only rises and drives timers and frames, and wall time, which
 /// follows it but can be set to anything. Within one `advance` everything comes in the order of its due time;

@@ -9,8 +9,8 @@ namespace tessivo::freedesktop {
 
 class EventLoop;
 
-/// Calls `changed` whenever another file has come under the name of `file`, or it has been written and
-/// closed, for as long as the handle is held. For a file whose folder cannot be watched it is never called.
+/// Calls `changed` whenever `file` is replaced by another, or has been written and closed, for as long as the
+/// handle is held. Never called for a file whose folder cannot be watched.
 [[nodiscard]] Subscription watchFile(EventLoop& loop, const std::filesystem::path& file,
                                      std::function<void()> changed);
 

@@ -17,8 +17,8 @@ class SessionBus;
 /// The helper's place on the bus: at most one process has it, and only that one shows reminders. The bus must
 /// outlive it.
 ///
-/// A newer helper that finds an older one in its place asks it to hand over, waits in the bus's line for the
-/// name, and begins when it gets it, be it that the older has finished or has died.
+/// A newer helper that finds an older one in its place asks it to hand over, queues for the name on the bus,
+/// and begins when it gets it, whether the older one has finished or died.
 class ReminderService final {
 public:
     /// Called on the loop's thread.
@@ -32,8 +32,8 @@ public:
     ReminderService(const ReminderService&) = delete;
     ReminderService& operator=(const ReminderService&) = delete;
 
-    /// Asks for the place. True says that it is given, or will be; false that a helper which is as new has
-    /// it. `begun` is called in a later turn of the loop.
+    /// Asks for the place. True if it is granted, or will be; false if an equally new helper has it. `begun`
+    /// is called in a later turn of the loop.
     [[nodiscard]] Result<bool> claim();
 
 private:

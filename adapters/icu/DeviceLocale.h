@@ -9,9 +9,9 @@ namespace tessivo {
 /// What a locale is used for: how dates are written, or the language of the texts.
 enum class LocalePurpose { Dates, Texts };
 
-/// The device's locale as an ICU name ("de_DE"), from the first of these environment variables that says
-/// something: LC_ALL, then LC_TIME or LC_MESSAGES by `purpose`, then LANG. "en_US_POSIX" where none does, and
-/// for the "C" locale.
+/// The device's locale as an ICU name ("de_DE"), from the first of these environment variables that is set:
+/// LC_ALL, then LC_TIME or LC_MESSAGES by `purpose`, then LANG. "en_US_POSIX" where none does, and for the
+/// "C" locale.
 [[nodiscard]] std::string deviceLocale(LocalePurpose purpose);
 
 /// The value of LC_ALL with which the device's locale is that one.

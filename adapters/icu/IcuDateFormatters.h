@@ -8,8 +8,8 @@
 
 namespace tessivo {
 
-/// Date texts by ICU: the locale's own calendar, digits and month names, and nothing but a whole text in the
-/// pattern's form is read. A text without a year or day reads as some fixed day of the calendar's choice.
+/// Date texts by ICU, in the locale's own calendar, digits and month names. Parses only whole texts in the
+/// pattern's form; the calendar supplies a year or day that the pattern lacks.
 class IcuDateFormatters final : public DateFormatters {
 public:
     /// The device's locale and time zone, looked at anew for each formatter.

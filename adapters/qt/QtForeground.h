@@ -9,7 +9,7 @@ class QtForeground final : public QObject {
 public:
     QtForeground();
 
-    /// True while a window of the program is active, and from the start until the desktop has first told.
+    /// True while a window of the program is active, and until the desktop has first reported anything.
     [[nodiscard]] bool isActive() const { return active_; }
 
 private:

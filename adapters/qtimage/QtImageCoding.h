@@ -4,9 +4,9 @@
 
 namespace tessivo {
 
-/// JPEG, PNG, WebP and GIF, and HEIC and AVIF where a plugin of Qt reads them; all else is no picture. A
-/// picture of more than 64 megapixels is refused by its header, before any of it is decoded; what a false
-/// header hides meets Qt's own limit on memory.
+/// JPEG, PNG, WebP and GIF, and HEIC and AVIF where a plugin of Qt reads them; nothing else. A picture of
+/// more than 64 megapixels is refused by its header, before any of it is decoded; what a false header hides
+/// meets Qt's own limit on memory.
 class QtImageCoding final : public ImageCoding {
 public:
     std::shared_ptr<const Bitmap> decode(std::string_view data,

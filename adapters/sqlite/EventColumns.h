@@ -15,12 +15,12 @@ inline constexpr std::array<const char*, eventAttributeCount> eventColumns{
 
 extern const Schema eventSchema;
 
-/// Creates the table beside the events that notes in which locale each one's dates were written, if there
-/// is none yet. The program never asks for it: it helps out when the dates can no longer be parsed.
+/// Creates, if it is missing, the table that records in which locale each event's dates were written. It is
+/// read only when the dates can no longer be parsed.
 inline constexpr const char* makeDateLocales =
     "CREATE TABLE IF NOT EXISTS dateLocales(event INTEGER PRIMARY KEY, locale TEXT NOT NULL) STRICT";
 
-/// Notes the locale, an ICU name, in which the dates of that event have just been written.
+/// Records the locale, an ICU name, in which the dates of that event have just been written.
 [[nodiscard]] Outcome noteDateLocale(Database& database, RowKey event, std::string_view locale);
 
 /// Binds one attribute.

@@ -12,7 +12,7 @@
 namespace tessivo::sqlite {
 
 /// The texts of one event's moment, and the locale in which they were written, as ICU names it. Empty where
-/// nobody noted it.
+/// it was not recorded.
 struct DateTexts {
     std::optional<std::string> date;
     std::optional<std::string> time;

@@ -6,7 +6,7 @@
 
 namespace tessivo {
 
-/// Identities from the machine's source of randomness.
+/// Identifiers from the machine's source of randomness.
 class RandomUuids final : public UuidSource {
 public:
     Uuid random() override;

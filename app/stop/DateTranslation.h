@@ -16,8 +16,8 @@ public:
     /// `locale`, an ICU name, is the one to translate into.
     explicit DateTranslation(std::string locale) : locale_(std::move(locale)) {}
 
-    /// Empty where the texts cannot be parsed in the locale in which they were written, or, where nobody
-    /// noted that, in the one to translate into.
+    /// Empty where the texts cannot be parsed in the locale in which they were written, or, where that was
+    /// not recorded, in the one to translate into.
     [[nodiscard]] std::optional<sqlite::DateTexts> operator()(const sqlite::DateTexts& texts);
 
     /// Whether a program that runs in the locale to translate into can parse the texts as they are.

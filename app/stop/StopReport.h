@@ -13,8 +13,8 @@ struct StopReport {
     std::string advice;
     std::string file; ///< the place on the disk that it is about
 
-    /// The locale in which the dates were written that the present one cannot parse; empty where there are
-    /// none, or where nobody noted it.
+    /// The locale in which the dates were written that the present one cannot parse; empty if there are none,
+    /// or if it was not recorded.
     std::string datesLocale;
     bool canRewriteDates = false;
 };

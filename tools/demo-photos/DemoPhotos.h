@@ -11,7 +11,7 @@ namespace tessivo {
 /// object. One that does not start ends the program.
 class DemoPhotos {
 public:
-    /// With so many photos in its editorial collection.
+    /// `photos` is the size of its editorial collection.
     explicit DemoPhotos(int photos = 200);
     ~DemoPhotos() { end(); }
     DemoPhotos(const DemoPhotos&) = delete;
@@ -19,9 +19,9 @@ public:
 
     /// Where it listens, such as "http://127.0.0.1:40123"; stays the same after its end.
     [[nodiscard]] const std::string& address() const { return address_; }
-    /// From now on nobody listens.
+    /// Stops listening.
     void end();
-    /// What it has told of so far, oldest first: "download demo-3", "picture demo-5".
+    /// What it has logged so far, oldest first: "download demo-3", "picture demo-5".
     [[nodiscard]] const std::vector<std::string>& told();
 
 private:

@@ -6,8 +6,8 @@ class QQuickWindow;
 
 namespace tessivo::tour {
 
-/// What keeps people from using the picture that the window shows: a control that a screen reader has no name
-/// for, or one that is too small for a finger. Each fault is a line for the console; none are what we want.
+/// What makes the screen hard to use: controls without an accessible name, and controls too small for a
+/// finger. One line per fault; empty if all is well.
 [[nodiscard]] QStringList faultsOf(QQuickWindow& window);
 
 } // namespace tessivo::tour

@@ -50,7 +50,7 @@ private:
     void useCards();
     /// Opens an event over the whole screen, and each screen that changes it.
     void openEvent();
-    /// Leaves the screen on top for the list of what lies ahead.
+    /// Goes from the top screen to the list of future events.
     void goBack();
     /// Scrolls to the cards with pictures, opens the event of the last one, and swipes it open.
     void showPictureCards();
@@ -76,11 +76,11 @@ private:
     Screen& waitForScreen();
     void searchPhotos(const QString& text);
     [[nodiscard]] unsplash::UnsplashPickerViewController& photoScreen() const;
-    /// Rests on a point until whatever comes of that has come.
+    /// Presses a point until the long press has taken effect.
     void holdAt(QPointF point);
-    /// Until nothing moves any more, and no thread has anything left to do.
+    /// Waits until nothing moves any more and no thread has work left.
     void settle();
-    /// Until `done`; ends the tour where that does not come about.
+    /// Waits until `done`; ends the tour if that never happens.
     void waitFor(const char* what, const std::function<bool()>& done);
     /// Types into what has the keyboard.
     void type(const QString& text);
