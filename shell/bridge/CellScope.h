@@ -23,6 +23,7 @@ public:
 
     [[nodiscard]] QStringList actionNames() const override;
     void act(const QString& name) override;
+    [[nodiscard]] QString place() const override { return cell_ ? cell_->place() : QString(); }
 
 Q_SIGNALS:
     void cellChanged();

@@ -1,6 +1,7 @@
 #include "bridge/CollectionItem.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tessivo::shell {
 namespace {
@@ -50,7 +51,18 @@ void CellItem::become(int item, bool seen) {
     Q_EMIT itemChanged();
 }
 
-void CellItem::setHovered(bool hovered) {
+void CellItem::hover(std::optional<ui::Point> point) {
+    bool onButton = false;
+    for (LooseViewItem* item : attached_) {
+        std::optional<QPointF> inside;
+        if (point) {
+            const ui::Rect cell = cell_->drawnFrame();
+            const ui::Rect content = cell_->contentView.drawnFrame();
+            inside = QPointF(point->x - cell.x - content.x, point->y - cell.y - content.y);
+        }
+        onButton = item->hover(inside) || onButton;
+    }
+    const bool hovered = point && !onButton;
     if (std::exchange(hovered_, hovered) != hovered)
         Q_EMIT hoveredChanged();
 }
@@ -60,6 +72,11 @@ QStringList CellItem::actionNames() const {
     for (const auto& name : cell_->accessibilityActionNames())
         names.push_back(QString::fromStdString(name));
     return names;
+}
+
+QString CellItem::place() const {
+    const QObject* const collection = parent()->parent();
+    return collection->objectName() + u'/' + QString::number(item_);
 }
 
 CellModel::CellModel(ui::CollectionView& collection, const BridgeContext& context, QObject* parent)
@@ -81,9 +98,9 @@ QHash<int, QByteArray> CellModel::roleNames() const {
     return {{Cell, "cell"}};
 }
 
-void CellModel::hover(const ui::CollectionViewCell* cell) {
+void CellModel::hover(const ui::CollectionViewCell* cell, ui::Point point) {
     for (CellItem* row : rows_)
-        row->setHovered(&row->cell() == cell);
+        row->hover(&row->cell() == cell ? std::optional(point) : std::nullopt);
 }
 
 void CellModel::update() {
@@ -187,7 +204,7 @@ void CollectionItem::scrollEnded() {
 bool CollectionItem::hover(double x, double y) {
     for (const auto& [item, cell] : collection_.visibleCells()) {
         if (cell->drawnFrame().contains({x, y})) {
-            cells_.hover(cell.get());
+            cells_.hover(cell.get(), {x, y});
             return true;
         }
     }

@@ -9,6 +9,7 @@
 #include <QAbstractListModel>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tessivo::shell {
@@ -39,9 +40,10 @@ public:
     [[nodiscard]] bool selected() const { return cell_->isSelected(); }
     [[nodiscard]] bool highlighted() const { return cell_->isHighlighted(); }
     [[nodiscard]] bool lifted() const { return cell_->isLifted(); }
-    /// The mouse is over the cell.
+    /// The mouse is over the cell, and over no button on it.
     [[nodiscard]] bool hovered() const { return hovered_; }
-    void setHovered(bool hovered);
+    /// The mouse is at a place of the collection's content, or not on the cell.
+    void hover(std::optional<ui::Point> point);
     /// What can be done with the cell besides tapping it, by name.
     [[nodiscard]] QStringList actionNames() const;
     /// Does the first of that name; nothing where there is none.
@@ -49,6 +51,8 @@ public:
         if (cell_->takesActs())
             cell_->performAccessibilityAction(name.toStdString());
     }
+    /// The collection's name and the item's number, as one text.
+    [[nodiscard]] QString place() const;
     /// What stands in the content without a name of its own.
     [[nodiscard]] QList<LooseViewItem*> attached() const { return attached_; }
     void show(int item);
@@ -91,8 +95,8 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    /// The mouse is over that cell, which may be null, and over no other.
-    void hover(const ui::CollectionViewCell* cell);
+    /// The mouse is at `point` of the content, over that cell, which may be null, and over no other.
+    void hover(const ui::CollectionViewCell* cell, ui::Point point = {});
 
     /// Makes the rows those of the cells on the screen now.
     void update();

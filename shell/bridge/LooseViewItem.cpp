@@ -1,5 +1,7 @@
 #include "bridge/LooseViewItem.h"
 
+#include <utility>
+
 namespace tessivo::shell {
 namespace {
 
@@ -39,6 +41,20 @@ QRectF LooseViewItem::titleRect() const {
 
 QRectF LooseViewItem::imageRect() const {
     return look_ ? toQRectF(look_->imageRect()) : QRectF();
+}
+
+bool LooseViewItem::hover(std::optional<QPointF> point) {
+    const QRectF frame = toQRectF(view_.drawnFrame());
+    if (point && !(shown() && frame.contains(*point)))
+        point.reset();
+    bool onButton = point && pressable();
+    if (std::exchange(hovered_, onButton) != onButton)
+        Q_EMIT hoveredChanged();
+    if (point)
+        point = *point - frame.topLeft() + QPointF(boundsX(), 0);
+    for (LooseViewItem* child : children_)
+        onButton = child->hover(point) || onButton;
+    return onButton;
 }
 
 void LooseViewItem::activate() {

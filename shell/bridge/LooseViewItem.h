@@ -5,6 +5,9 @@
 #include "bridge/ViewItem.h"
 
 #include <QList>
+#include <QPointF>
+
+#include <optional>
 
 namespace tessivo::shell {
 
@@ -21,6 +24,7 @@ class LooseViewItem final : public ViewItem {
     Q_PROPERTY(QString image READ image NOTIFY contentChanged FINAL)
     Q_PROPERTY(QString title READ title NOTIFY contentChanged FINAL)
     Q_PROPERTY(bool pressable READ pressable CONSTANT FINAL)
+    Q_PROPERTY(bool hovered READ hovered NOTIFY hoveredChanged FINAL)
     Q_PROPERTY(tessivo::shell::TextPiece look READ look NOTIFY contentChanged FINAL)
     Q_PROPERTY(QRectF titleRect READ titleRect NOTIFY geometryChanged FINAL)
     Q_PROPERTY(QRectF imageRect READ imageRect NOTIFY geometryChanged FINAL)
@@ -33,6 +37,10 @@ public:
     [[nodiscard]] double boundsX() const { return view_.drawnBoundsOrigin().x; }
     [[nodiscard]] bool clips() const { return view_.clipsToBounds(); }
     [[nodiscard]] bool pressable() const { return look_ != nullptr; }
+    /// The mouse is over the button.
+    [[nodiscard]] bool hovered() const { return hovered_; }
+    /// The mouse is at a place of the space that the view stands in, or none. Says whether there is a button.
+    bool hover(std::optional<QPointF> point);
     // Of a button, in its present state; empty for other views.
     [[nodiscard]] QString image() const;
     [[nodiscard]] QString title() const;
@@ -43,11 +51,15 @@ public:
     /// A tap that comes by the keyboard or from a screen reader.
     Q_INVOKABLE void activate();
 
+Q_SIGNALS:
+    void hoveredChanged();
+
 private:
     ui::View& view_;
     ui::Button* button_;
     ui::ButtonLook* look_;
     QList<LooseViewItem*> children_;
+    bool hovered_ = false;
 };
 
 } // namespace tessivo::shell

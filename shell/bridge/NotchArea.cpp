@@ -11,7 +11,19 @@ constexpr qint64 pause = 400; ///< ms without a wheel event, after which scrolli
 
 } // namespace
 
+void NotchArea::setOver(QQuickItem* item) {
+    if (over_)
+        over_->removeEventFilter(this);
+    over_ = item;
+    if (item)
+        item->installEventFilter(this);
+}
+
 bool NotchArea::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel && watched == over_) {
+        event->ignore();
+        return true;
+    }
     if (event->type() == QEvent::Wheel) {
         const auto& wheel = *static_cast<const QWheelEvent*>(event);
         if (!sinceLast_.isValid() || sinceLast_.elapsed() > pause) {

@@ -3,6 +3,23 @@
 namespace tessivo::shell {
 namespace {
 
+/// What the drawing of `item` says to assistive technology; null where it says nothing.
+const QObject* attachedTo(const QQuickItem& item) {
+    for (const QObject* child : item.children()) {
+        if (child->inherits("QQuickAccessibleAttached"))
+            return child;
+    }
+    return nullptr;
+}
+
+/// The interface of `item`, unless its drawing hides it: the interface may be older than that.
+QAccessibleInterface* seen(QQuickItem& item) {
+    const QObject* const attached = attachedTo(item);
+    if (attached && attached->property("ignored").toBool())
+        return nullptr;
+    return QAccessible::queryAccessibleInterface(&item);
+}
+
 /// The outermost items under `item` that assistive technology knows.
 void collect(const QQuickItem& item, QList<QAccessibleInterface*>& found) {
     for (QQuickItem* child : item.childItems()) {
@@ -11,7 +28,7 @@ void collect(const QQuickItem& item, QList<QAccessibleInterface*>& found) {
         const auto* pressable = qobject_cast<const Pressable*>(child);
         if (pressable && !pressable->isAccessible())
             continue;
-        if (auto* interface = QAccessible::queryAccessibleInterface(child))
+        if (auto* interface = seen(*child))
             found.push_back(interface);
         else
             collect(*child, found);
@@ -22,7 +39,7 @@ void collect(const QQuickItem& item, QList<QAccessibleInterface*>& found) {
 
 QAccessibleInterface* ItemAccessible::parent() const {
     for (QQuickItem* item = item_.parentItem(); item; item = item->parentItem()) {
-        if (auto* interface = QAccessible::queryAccessibleInterface(item))
+        if (auto* interface = seen(*item))
             return interface;
     }
     return QAccessible::queryAccessibleInterface(item_.window());
@@ -46,7 +63,7 @@ QRect ItemAccessible::rect() const {
 
 QAccessible::State ItemAccessible::state() const {
     QAccessible::State state;
-    state.focused = item_.hasActiveFocus();
+    state.focused = item_.window() && item_.window()->activeFocusItem() == &item_; // not a scope of it
     state.invisible = !item_.isVisible();
     state.disabled = !item_.isEnabled();
     return state;
@@ -108,6 +125,9 @@ QString PaneAccessible::text(QAccessible::Text kind) const {
 }
 
 QAccessible::Role PaneAccessible::role() const {
+    const QObject* const attached = attachedTo(pane_);
+    if (attached && attached->property("role").toInt() == QAccessible::PopupMenu)
+        return QAccessible::PopupMenu;
     return pane_.isModal() ? QAccessible::Dialog : QAccessible::Pane;
 }
 

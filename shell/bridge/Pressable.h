@@ -26,6 +26,10 @@ public:
     /// Does the first of that name; nothing where there is none.
     virtual void act(const QString& /*name*/) {}
 
+    /// What it stands for on its screen, by the control's name: the same after the screen is drawn anew.
+    /// Empty where it stands for no control.
+    [[nodiscard]] virtual QString place() const { return {}; }
+
     /// The attached `Accessible`; null where the drawing says nothing to assistive technology.
     [[nodiscard]] const QObject* accessible() const;
     /// Whether assistive technology sees it.

@@ -23,6 +23,7 @@ class ScreenItem : public QObject {
     Q_PROPERTY(bool takesActs READ takesActs NOTIFY takesActsChanged FINAL)
     Q_PROPERTY(QString title READ title CONSTANT FINAL)
     Q_PROPERTY(double bottomInset READ bottomInset NOTIFY bottomInsetChanged FINAL)
+    Q_PROPERTY(QString place MEMBER place FINAL)
 
 public:
     /// How the screen stands on the window.
@@ -52,6 +53,9 @@ public:
     [[nodiscard]] bool takesActs() const { return screen_->takesActs(); }
     /// What assistive technology calls the screen; empty where its heading says it.
     [[nodiscard]] virtual QString title() { return view()->accessibleName(); }
+
+    /// Where the keyboard was on the screen when another one covered it; empty for a new screen.
+    QString place;
 
 Q_SIGNALS:
     void takesActsChanged();

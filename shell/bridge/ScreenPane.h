@@ -5,8 +5,9 @@
 namespace tessivo::shell {
 
 /// What one screen, sheet, alert or menu of the window is drawn on: a scope of the keyboard's focus. Enabled,
-/// it is the one that the user is on: it takes the focus, to where that was in it before. Disabled, it takes
-/// no touch and no key, and assistive technology sees nothing of what it holds.
+/// it is the one that the user is on: it takes the focus, to where that was in it before, else to where its
+/// drawing wants it, else to its first stop of the Tab key. Disabled, it takes no touch and no key, and
+/// assistive technology sees nothing of what it holds.
 class ScreenPane : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -25,14 +26,21 @@ public:
     [[nodiscard]] bool isUnderMenu() const { return underMenu_; }
     void setUnderMenu(bool under);
 
+    /// All that it holds is drawn. The focus goes to the control of that place, where there is one.
+    Q_INVOKABLE void begin(const QString& place);
+
 Q_SIGNALS:
     void underMenuChanged();
+    /// The pane is disabled now. `place` is that of the control that has its focus; empty where it has none.
+    void covered(const QString& place);
 
 protected:
-    void componentComplete() override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
+    [[nodiscard]] QQuickItem* focused() const;
+    void takeFocus();
+
     bool modal_ = false;
     bool underMenu_ = false;
     QString title_;

@@ -51,12 +51,16 @@ std::vector<std::shared_ptr<ui::ViewController>> StackModel::drawn() const {
 }
 
 void StackModel::update() {
+    // Before any drawing goes: a screen that is covered says where the keyboard was on it.
+    for (ScreenItem* row : rows_)
+        Q_EMIT row->takesActsChanged();
     const auto wanted = drawn();
     for (std::size_t row = rows_.size(); row > 0; --row) {
         const auto& screen = rows_[row - 1]->screen();
         if (std::ranges::any_of(wanted, [&](const auto& held) { return held.get() == &screen; }))
             continue;
         const int index = static_cast<int>(row) - 1;
+        places_[&screen] = rows_[row - 1]->place;
         beginRemoveRows({}, index, index);
         rows_[row - 1]->deleteLater();
         rows_.erase(rows_.begin() + index);
@@ -66,12 +70,17 @@ void StackModel::update() {
         if (row < rows_.size() && &rows_[row]->screen() == wanted[row].get())
             continue;
         const int index = static_cast<int>(row);
+        auto* const added = ScreenItem::make(wanted[row], context_, this);
+        if (const auto left = places_.extract(wanted[row].get()))
+            added->place = left.mapped();
         beginInsertRows({}, index, index);
-        rows_.insert(rows_.begin() + index, ScreenItem::make(wanted[row], context_, this));
+        rows_.insert(rows_.begin() + index, added);
         endInsertRows();
     }
-    for (ScreenItem* row : rows_)
-        Q_EMIT row->takesActsChanged();
+    std::erase_if(places_, [this](const auto& place) {
+        return std::ranges::none_of(stack_.screens(),
+                                    [&](const auto& screen) { return screen.get() == place.first; });
+    });
 }
 
 } // namespace tessivo::shell

@@ -6,6 +6,7 @@
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -14,7 +15,8 @@ namespace tessivo::shell {
 class ScreenItem;
 
 /// The screens to draw, from the bottom up: the top full screen and what stands on it and, while one slides
-/// over the other, the full screen below. The stack itself may be far deeper.
+/// over the other, the full screen below. The stack itself may be far deeper. Of each screen that is not
+/// drawn it remembers where the keyboard was.
 class StackModel final : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -37,6 +39,7 @@ private:
     ui::PresentationStack& stack_;
     const BridgeContext& context_;
     std::vector<ScreenItem*> rows_;
+    std::map<const ui::ViewController*, QString> places_; ///< of the screens that are not drawn
     Subscription changes_;
 };
 

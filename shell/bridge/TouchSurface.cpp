@@ -73,7 +73,9 @@ void TouchSurface::hoverLeaveEvent(QHoverEvent*) {
 
 void TouchSurface::wheelEvent(QWheelEvent* event) {
     event->setAccepted(collection_ && swipe(*event));
-    if (collection_ && !event->isAccepted())
+    // Not for what trails a swipe: its momentum, and the end that comes after a pause.
+    const QPoint way = event->angleDelta();
+    if (collection_ && !event->isAccepted() && std::abs(way.y()) > std::abs(way.x()))
         collection_->closeSwipes();
 }
 

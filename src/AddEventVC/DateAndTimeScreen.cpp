@@ -155,9 +155,9 @@ void DateAndTimeScreen::switchValueChanged() {
 }
 
 void DateAndTimeScreen::handleViewLiveTap() {
-    present(TableViewController::make(window(), platform().console, dayRepeatTitles(platform().texts),
-                                      repEvent, weakSelf<TableViewControllerDelegate>(this),
-                                      repeatSheetHeight));
+    present(TableViewController::make(window(), platform().console, repeatInfoLabel.text(),
+                                      dayRepeatTitles(platform().texts), repEvent,
+                                      weakSelf<TableViewControllerDelegate>(this), repeatSheetHeight));
 }
 
 void DateAndTimeScreen::didSelectValue(const std::string& title, int index) {

@@ -126,8 +126,9 @@ void ReminderScreen::alertButtonTapped() {
 }
 
 void ReminderScreen::handleViewLiveTap(const std::vector<std::string>& titles, int selected, double height) {
-    present(TableViewController::make(window(), platform().console, titles, selected,
-                                      weakSelf<TableViewControllerDelegate>(this), height));
+    present(TableViewController::make(window(), platform().console,
+                                      (selectedLabel ? repeatInfoLabel : alertInfoLabel).text(), titles,
+                                      selected, weakSelf<TableViewControllerDelegate>(this), height));
 }
 
 void ReminderScreen::didSelectValue(const std::string& title, int index) {

@@ -41,6 +41,7 @@ void MainViewController::viewDidLoad() {
     settingButton.setImageName("gearshapeFill");
     settingButton.setAccessibilityName(texts().setting);
     settingButton.addTarget(ui::PressEvent::UpInside, [this] { settingButtonTapped(); });
+    collection.setAccessibilityName(localized(type == ListType::Past ? "Past" : "Future"));
     for (ui::Label* label : {&mainlabel, &hintLabel}) {
         label->setTextColor(ui::ColorRef::named("disabled"));
         label->setAlignment(ui::TextAlignment::Center);

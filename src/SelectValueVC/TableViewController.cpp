@@ -18,10 +18,11 @@ TableViewController::TableViewController(ui::WindowContext& window, Console& con
 }
 
 std::shared_ptr<TableViewController>
-TableViewController::make(ui::WindowContext& window, Console& console, std::vector<std::string> texts,
-                          int selectedItem, std::weak_ptr<TableViewControllerDelegate> delegate,
-                          double height) {
+TableViewController::make(ui::WindowContext& window, Console& console, std::string title,
+                          std::vector<std::string> texts, int selectedItem,
+                          std::weak_ptr<TableViewControllerDelegate> delegate, double height) {
     const auto picker = std::make_shared<TableViewController>(window, console);
+    picker->title_ = std::move(title);
     picker->dataArray = std::move(texts);
     picker->selectedItem = selectedItem;
     picker->delegate = std::move(delegate);
@@ -30,6 +31,8 @@ TableViewController::make(ui::WindowContext& window, Console& console, std::vect
 }
 
 void TableViewController::viewDidLoad() {
+    view().setAccessibilityName(title_);
+    tableView.setAccessibilityName(title_);
     view().addSubview(IslandView);
     view().addSubview(tableView);
     view().setBackgroundColor(ui::ColorRef::white());

@@ -22,10 +22,11 @@ class TableViewController final : public ui::ViewController,
 public:
     TableViewController(ui::WindowContext& window, Console& console);
 
-    /// A picker that is ready to be presented, as a sheet of `height` points.
+    /// A picker that is ready to be presented, as a sheet of `height` points. `title` is for assistive
+    /// technology only.
     [[nodiscard]] static std::shared_ptr<TableViewController>
-    make(ui::WindowContext& window, Console& console, std::vector<std::string> texts, int selectedItem,
-         std::weak_ptr<TableViewControllerDelegate> delegate, double height);
+    make(ui::WindowContext& window, Console& console, std::string title, std::vector<std::string> texts,
+         int selectedItem, std::weak_ptr<TableViewControllerDelegate> delegate, double height);
 
     std::vector<std::string> dataArray;
     /// The choice at the opening. It keeps its first value: the row comes back marked whenever it is drawn
@@ -49,6 +50,7 @@ protected:
 
 private:
     Console& console_;
+    std::string title_;
 };
 
 } // namespace tessivo

@@ -283,7 +283,8 @@ std::shared_ptr<UnsplashPickerPreviewViewController> UnsplashPickerViewControlle
     const auto cell = std::static_pointer_cast<PhotoCell>(collectionView.cellForItem(item));
     if (!cell || !cell->photoView.imageView.image().isSet())
         return nullptr;
-    return std::make_shared<UnsplashPickerPreviewViewController>(window(), cell->photoView.imageView.image());
+    return std::make_shared<UnsplashPickerPreviewViewController>(window(), cell->photoView.imageView.image(),
+                                                                 cell->photoView.accessibilityName());
 }
 
 void UnsplashPickerViewController::keyboardWillShow(double height) {

@@ -25,7 +25,8 @@ class TableViewControllerTest : public testing::Test {
 protected:
     std::shared_ptr<TableViewController> open(int selected,
                                               std::vector<std::string> texts = {"a", "b", "c"}) {
-        auto picker = TableViewController::make(window, console, std::move(texts), selected, listener, 400);
+        auto picker =
+            TableViewController::make(window, console, "Repeat", std::move(texts), selected, listener, 400);
         picker->loadViewIfNeeded();
         picker->tableView.setFrame({0, 0, 390, 300});
         picker->tableView.invalidateLayout();

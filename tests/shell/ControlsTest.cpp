@@ -165,6 +165,35 @@ TEST_F(Wheels, TurnByTouchByMouseWheelAndByArrowKeys) {
     EXPECT_TRUE(standAt({start[0] + 4, start[1] + 1, start[2]})) << testing::PrintToString(rows());
 }
 
+TEST_F(Wheels, LeaveAPageTheScrollingThatBeganElsewhereOnIt) {
+    auto& root = draw(*screen, R"(
+        Flickable {
+            id: page
+            anchors.fill: parent
+            contentHeight: 2000
+            WheelPicker { y: 300; width: parent.width; picker: root.screen.control('picker') as DatePickerItem }
+        })");
+    const QQuickItem& page = *root.childItems().front();
+    const auto start = rows();
+    const auto scrolled = [&] { return page.property("contentY").toDouble(); };
+    const QPointF mouse = wheel(0) + QPointF(0, 60); // above the wheels, until they come to it
+    for (int turn = 0; turn < 5; ++turn) {
+        const double before = scrolled();
+        hand.turnMouseWheel(mouse, -1);
+        EXPECT_TRUE(runUntil([&] { return scrolled() > before + 20; })) << turn;
+    }
+    for (int slide = 0; slide < 2; ++slide)
+        hand.slideOnTouchpad(mouse, {0, -12});
+    EXPECT_EQ(rows(), start);
+    virtualtime::pass(std::chrono::milliseconds(1000));
+    const double place = scrolled();
+    ASSERT_GT(place, 150); // the wheels are under the mouse
+    ASSERT_LT(place, 330);
+    hand.turnMouseWheel(mouse, -1); // anew, on the wheel
+    EXPECT_TRUE(standAt({start[0] + 1, start[1], start[2]})) << testing::PrintToString(rows());
+    EXPECT_EQ(scrolled(), place);
+}
+
 TEST_F(Wheels, FollowTheProgramsDateAndCutTheDayToTheMonth) {
     picker.setDate(instantAt(1927627200)); // 31 January 2031
     hand.turnMouseWheel(wheel(1), -1);
@@ -198,7 +227,8 @@ protected:
     /// Shows a sheet and waits until it has risen.
     void show() {
         stack.setRoot(screen);
-        sheet = std::make_shared<unsplash::UnsplashPickerPreviewViewController>(windowContext, ui::Image{});
+        sheet = std::make_shared<unsplash::UnsplashPickerPreviewViewController>(windowContext, ui::Image{},
+                                                                                "Ada");
         sheet->modalPresentationStyle = ui::PresentationStyle::Sheet;
         sheet->sheetPresentation.height = height;
         screen->present(sheet, false);

@@ -1,24 +1,8 @@
-#include "DemoPhotos.h"
-#include "Event/EventContext.h"
-#include "Event/EventItem.h"
-#include "Interface/CollectionView.h"
-#include "Interface/TabBarController.h"
-#include "Ports/Clock.h"
-#include "Support/SettingKeys.h"
 #include "UnsplashPicker/PhotoCell.h"
 #include "UnsplashPicker/UnsplashPicker.h"
-#include "app/Composition.h"
-#include "fakes/RecordingConsole.h"
-#include "hand/Hand.h"
-#include "sqlite/SqliteEventStore.h"
-#include "sqlite/SqliteNotificationQueue.h"
-#include "sqlite/SqliteSavedSettings.h"
-#include "support/TemporaryFolder.h"
+#include "shell/ProgramWindow.h"
 
-#include <QAccessible>
-#include <QGuiApplication>
 #include <QImage>
-#include <QQuickItem>
 #include <QQuickWindow>
 
 #include <gtest/gtest.h>
@@ -26,18 +10,11 @@
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
-#include <memory>
 #include <ostream>
 #include <stdexcept>
 
 namespace tessivo {
 namespace {
-
-/// 21 June 2030, 10:30:15 in Berlin.
-class StillClock final : public Clock {
-public:
-    Instant now() const override { return instantAt(1908261015); }
-};
 
 enum class Acts { Touch, Keyboard };
 enum class From { List, FullScreen };
@@ -70,9 +47,9 @@ bool lookAlike(const QImage& one, const QImage& other) {
     return apart < pixels;
 }
 
-/// The whole program in its window, with the one stored event "Summer", and all acts done in the way that is
-/// the test's parameter. The keyboard finds what it presses by Tab alone.
-class EditsInWindowTest : public testing::TestWithParam<Way> {
+/// The program with the one stored event "Summer", and all acts done in the way that is the test's parameter.
+/// The keyboard finds what it presses by Tab alone.
+class EditsInWindowTest : public testing::TestWithParam<Way>, protected ProgramWindow {
 protected:
     EditsInWindowTest() {
         EventRecord summer{.title = "Summer",
@@ -92,71 +69,13 @@ protected:
         NotificationRequest reminder{summer.id->uuidString(), {*summer.title, *summer.remMess, true}, {}};
         reminder.trigger.dateComponents = {
             .year = 2030, .month = 6, .day = 25, .hour = 18, .minute = 20, .second = 0};
-        sqlite::SqliteSavedSettings settings(folder.path() / "settings.sqlite", console);
-        settings.setBoolean(settingKeys::isFirstLaunch, true);
-        settings.setInteger(settingKeys::defaultScreen, 1); // what lies ahead
-        settings.setInteger(settingKeys::secondOpen, 3);    // nobody asks for a rating any more
         EXPECT_EQ(queue.setAuthorization(AuthorizationStatus::Authorized), std::nullopt);
         EXPECT_EQ(queue.add(reminder), std::nullopt);
-        sqlite::SqliteEventStore store(folder.path() / "events.sqlite");
-        EventContext context(store);
-        EXPECT_FALSE(store.load());
-        context.insert(std::move(summer));
-        EXPECT_FALSE(context.save());
+        store(std::move(summer));
         start();
     }
 
-    /// Ends the program, if it runs, and starts it on the same folder; ends on the list with the event.
-    void start() {
-        hand.reset();
-        program.reset();
-        program = std::make_unique<Composition>(
-            Machine::Settings{folder.path(), folder.path() / "cache", "en", [] {}, photos.address()}, clock,
-            console);
-        program->start();
-        QQuickWindow& window = *program->shell().window();
-        window.requestActivate();
-        EXPECT_TRUE(runUntil([&] { return window.isExposed() && window.isActive(); }));
-        hand = std::make_unique<Hand>(window);
-        settle();
-    }
-
     [[nodiscard]] static bool byTouch() { return GetParam().acts == Acts::Touch; }
-
-    /// Until nothing moves any more and no thread has anything left to do.
-    void settle() {
-        constexpr std::chrono::milliseconds longestMotion{900};
-        for (int part = 0; part < 6; ++part) {
-            virtualtime::pass(longestMotion / 6);
-            program->machine().waitForThreads();
-        }
-    }
-
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        hand->press(key, modifiers);
-        virtualtime::step();
-    }
-
-    /// What a screen reader says of the control that has the keyboard.
-    [[nodiscard]] static QString focused() {
-        auto* item = qobject_cast<QQuickItem*>(QGuiApplication::focusObject());
-        for (; item; item = item->parentItem())
-            if (const QString name = accessibleName(*item); !name.isEmpty())
-                return name;
-        return {};
-    }
-
-    /// Tabs to the control of that name.
-    void reach(const std::string& name) {
-        std::string met;
-        for (int stops = 0; stops < 40; ++stops) {
-            if (focused() == QString::fromStdString(name))
-                return;
-            key(Qt::Key_Tab);
-            met += "\n  " + focused().toStdString();
-        }
-        throw std::runtime_error("Tab does not come to \"" + name + "\", only to" + met);
-    }
 
     void press(const std::string& name) {
         if (byTouch()) {
@@ -212,7 +131,7 @@ protected:
         press("Alert, 10 minutes before");
         press("1 hour before");
         if (byTouch())
-            hand->tapAt({program->shell().window()->width() / 2.0, 40}); // beside the sheet
+            hand->tapAt({window().width() / 2.0, 40}); // beside the sheet
         else
             key(Qt::Key_Escape);
         settle();
@@ -238,20 +157,16 @@ protected:
     }
 
     [[nodiscard]] const ui::CollectionViewCell& card() const {
-        const auto& tabs = dynamic_cast<ui::TabBarController&>(*program->stack().top());
-        auto& list =
-            dynamic_cast<ui::CollectionView&>(*tabs.selectedViewController()->controls.find("collection"));
-        if (list.numberOfItems() != 1)
+        if (cards().numberOfItems() != 1)
             throw std::runtime_error("The event is not in the list");
-        return *list.cellForItem(0);
+        return *cards().cellForItem(0);
     }
     [[nodiscard]] std::string cardName() const { return card().accessibilityName(); }
     [[nodiscard]] QRectF cardPlace() const { return hand->placeOf(QString::fromStdString(cardName())); }
     [[nodiscard]] QImage cardPicture() const {
-        QQuickWindow& window = *program->shell().window();
-        const double scale = window.effectiveDevicePixelRatio();
+        const double scale = window().effectiveDevicePixelRatio();
         const QRectF place = cardPlace().adjusted(6, 6, -6, -6); // inside the ring of the keyboard
-        return window.grabWindow().copy(QRectF(place.topLeft() * scale, place.size() * scale).toRect());
+        return window().grabWindow().copy(QRectF(place.topLeft() * scale, place.size() * scale).toRect());
     }
 
     /// What is pending, with its time.
@@ -266,14 +181,6 @@ protected:
         }
         return told;
     }
-
-    TemporaryFolder folder;
-    StillClock clock;
-    fakes::RecordingConsole console;
-    DemoPhotos photos;
-    sqlite::SqliteNotificationQueue queue{folder.path() / "reminders.sqlite", console};
-    std::unique_ptr<Composition> program;
-    std::unique_ptr<Hand> hand;
 };
 
 TEST_P(EditsInWindowTest, EachEditShowsOnTheCardMovesTheReminderAndSurvivesARestart) {

@@ -10,6 +10,7 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -156,6 +157,55 @@ TEST_F(SwipedCardTest, ATouchBesideAnOpenCardOrAScrollClosesAndDoesNothingElse) 
     EXPECT_EQ(cell(1).state(), SwipeState::Center);
     EXPECT_EQ(movedBy(1), 0);
     EXPECT_THAT(owner->heard, testing::IsEmpty());
+}
+
+TEST_F(SwipedCardTest, ScrollingOfAnyKindClosesAnOpenCard) {
+    const std::pair<const char*, std::function<void()>> kinds[] = {
+        {"wheel",
+         [this] {
+             for (int notch = 0; notch < 2; ++notch)
+                 hand.turnMouseWheel(inCard(3, 100), -1);
+         }},
+        {"touchpad",
+         [this] {
+             hand.slideOnTouchpad(inCard(3, 100), {0, -60});
+         }},
+        {"keyboard", [this] {
+             card(0)->forceActiveFocus(Qt::TabFocusReason);
+             for (int item = 1; item < 6; ++item)
+                 hand.press(Qt::Key_Down);
+         }}};
+    for (const auto& [kind, scroll] : kinds) {
+        collection.scrollToItem(0, false);
+        ASSERT_TRUE(runUntil([this] { return collection.contentOffset().y == 0; }));
+        open(1);
+        scroll();
+        ASSERT_TRUE(runUntil([this] { return collection.contentOffset().y > 20; })) << kind;
+        settle();
+        EXPECT_EQ(cell(1).state(), SwipeState::Center) << kind;
+    }
+}
+
+TEST_F(SwipedCardTest, TwoFingersSidewaysOnATouchpadSwipeTheCardUnderThePointer) {
+    hand.slideOnTouchpad(inCard(1, 200), {-120, 10});
+    settle();
+    EXPECT_EQ(cell(1).state(), SwipeState::Right);
+    hand.slideOnTouchpad(inCard(1, 100), {120, 0});
+    settle();
+    EXPECT_EQ(cell(1).state(), SwipeState::Center);
+    EXPECT_EQ(collection.contentOffset().y, 0);
+    EXPECT_THAT(owner->heard, testing::IsEmpty());
+}
+
+TEST_F(SwipedCardTest, TheButtonUnderTheMouseIsTinted) {
+    open(1);
+    const QPointF middle = inCard(1, 390 - 30);
+    const QColor before = colorAt(middle - QPointF(25, 30));
+    for (const QPointF place : {middle + QPointF(1, 0), middle})
+        QTest::mouseMove(&window, place.toPoint());
+    EXPECT_TRUE(runUntil([&] { return colorAt(middle - QPointF(25, 30)) != before; }));
+    QTest::mouseMove(&window, inCard(1, 100).toPoint());
+    EXPECT_TRUE(runUntil([&] { return colorAt(middle - QPointF(25, 30)) == before; }));
 }
 
 TEST_F(SwipedCardTest, TheButtonsAreUnderTheFingerWhereTheyAreSeen) {

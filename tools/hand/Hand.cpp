@@ -34,6 +34,13 @@ void collect(QQuickItem& item, std::vector<QQuickItem*>& items) {
         collect(*child, items);
 }
 
+/// Now, as an event from a device tells it. A list does not scroll by events without a time.
+quint64 timeStamp() {
+    return static_cast<quint64>(
+        std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now().time_since_epoch())
+            .count());
+}
+
 QPointingDevice& touchScreen() {
     static QPointingDevice* device = QTest::createTouchDevice();
     return *device;
@@ -159,7 +166,25 @@ void Hand::pinch(QPointF center, double from, double to) {
 void Hand::turnMouseWheel(QPointF point, int notches) {
     QWheelEvent event(point, window_.mapToGlobal(point), {}, {0, notches * notch}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
+    virtualtime::step();
+    event.setTimestamp(timeStamp());
     QCoreApplication::sendEvent(&window_, &event);
+    rest();
+}
+
+void Hand::slideOnTouchpad(QPointF point, QPointF way) {
+    const auto send = [&](QPointF part, Qt::ScrollPhase phase) {
+        virtualtime::step();
+        QWheelEvent event(point, window_.mapToGlobal(point), part.toPoint(), (part * 2).toPoint(),
+                          Qt::NoButton, Qt::NoModifier, phase, false);
+        event.setTimestamp(timeStamp());
+        QCoreApplication::sendEvent(&window_, &event);
+    };
+    send(way / stepsOfADrag, Qt::ScrollBegin);
+    for (int step = 1; step < stepsOfADrag; ++step)
+        send(way / stepsOfADrag, Qt::ScrollUpdate);
+    virtualtime::pass(restBeforeRelease);
+    send({}, Qt::ScrollEnd);
     rest();
 }
 

@@ -49,6 +49,8 @@ public:
     void pinch(QPointF center, double from, double to);
     /// Turns the mouse wheel over a point; notches up are positive.
     void turnMouseWheel(QPointF point, int notches);
+    /// Moves two fingers over a touchpad in small steps while the pointer stands at a point, and lifts them.
+    void slideOnTouchpad(QPointF point, QPointF way);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// Hands text to what has the keyboard, as an on-screen keyboard does: whole, and of any kind.
     void commit(const QString& text);

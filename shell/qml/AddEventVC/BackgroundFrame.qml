@@ -18,6 +18,7 @@ WizardFrame {
     ChevronRow {
         button: step.screen.control("photosButton") as ButtonItem
         width: parent.width
+        focus: true
     }
     SectionLabel { label: step.screen.control("imagesLabel") as LabelItem }
     ChevronRow {

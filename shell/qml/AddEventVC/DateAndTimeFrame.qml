@@ -19,6 +19,7 @@ WizardFrame {
         label: step.screen.control("dayField") as LabelItem
         heading: step.screen.control("dayLabel") as LabelItem
         width: parent.width
+        focus: true
     }
     WheelPicker {
         picker: step.screen.control("datePicker") as DatePickerItem

@@ -43,8 +43,11 @@ FocusScope {
         id: desk
         anchors.fill: parent
         clip: true
+        focus: true
+        activeFocusOnTab: true
         Accessible.role: Accessible.Graphic
         Accessible.name: page.picture.accessibleName
+        Accessible.focusable: true
 
         PicturePaint {
             x: page.crop.x - page.crop.offsetX
@@ -83,5 +86,6 @@ FocusScope {
                                                event.y - page.crop.y)
         }
     }
+    FocusRing { target: desk; anchors.margins: 3; radius: 0 }
     CropBar { screen: page.screen }
 }

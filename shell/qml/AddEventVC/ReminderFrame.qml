@@ -10,6 +10,7 @@ WizardFrame {
         label: step.screen.control("reminderLabel") as LabelItem
         item: step.screen.control("toggleSwitch") as SwitchItem
         width: parent.width
+        comesFirst: true
     }
     SectionLabel { label: step.screen.control("alertInfoLabel") as LabelItem }
     ValueRow {

@@ -20,7 +20,6 @@ CollectionFlick {
     sideways: true
     height: 56
     activeFocusOnTab: !walked
-    Accessible.name: collection?.accessibleName ?? ""
     onActiveFocusChanged: if (activeFocus) walkTo(current)
     delegate: CollectionCell {
         id: swatch

@@ -56,9 +56,12 @@ FocusScope {
         rightMargin: room
         flickableDirection: Flickable.HorizontalFlick
         clip: true
+        focus: true
+        activeFocusOnTab: true
         onContentXChanged: page.scroll.scrollTo(contentX, 0)
         Accessible.role: Accessible.Graphic
         Accessible.name: qsTr("Picture")
+        Accessible.focusable: true
 
         PicturePaint {
             width: flick.contentWidth
@@ -79,6 +82,7 @@ FocusScope {
         shade: 0.3
         frame: Qt.rect(card.x - x, card.y - y, card.width, card.height)
     }
+    FocusRing { target: flick; anchors.margins: 3; radius: 0 }
     PhotographerButton {
         button: page.screen.control("photographerButton") as ButtonItem
         anchors.left: parent.left

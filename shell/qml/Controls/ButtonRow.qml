@@ -26,6 +26,12 @@ Rectangle {
         Accessible.role: Accessible.Button
         Accessible.name: button.accessibleName
         Accessible.onPressAction: button.activate()
+        Rectangle {
+            anchors.fill: parent
+            visible: face.button.hovered
+            color: Theme.ink
+            opacity: 0.05
+        }
         Icon {
             x: face.imageRect.x
             y: face.imageRect.y

@@ -28,6 +28,7 @@ Flickable {
         xScale: flick.reversed ? -1 : 1
     }
     Accessible.role: Accessible.List
+    Accessible.name: collection?.accessibleName ?? ""
 
     function report() {
         if (!collection)

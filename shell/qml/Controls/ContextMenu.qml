@@ -49,6 +49,7 @@ Item {
         enabled: false
         visible: false
         modal: true
+        title: qsTr("Menu")
         Accessible.role: Accessible.PopupMenu
         Keys.onEscapePressed: place.close()
         Keys.onBackPressed: place.close()

@@ -12,6 +12,7 @@ ScreenPane {
     modal: screen.kind !== ScreenItem.Full
     title: screen.title
     Accessible.role: Accessible.Pane
+    onCovered: place => screen.place = place
 
     Loader {
         width: parent.width
@@ -28,6 +29,7 @@ ScreenPane {
                 setSource("ActionSheet.qml", { alert: alert });
             else
                 setSource("ScreenContent.qml", { screen: pane.screen });
+            pane.begin(pane.screen.place);
         }
     }
 }

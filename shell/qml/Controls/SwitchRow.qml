@@ -7,6 +7,7 @@ Rectangle {
 
     required property LabelItem label
     required property SwitchItem item
+    property alias comesFirst: toggle.focus // the keyboard begins here
 
     implicitHeight: Math.max(Theme.rowHeight, caption.implicitHeight + 20)
     radius: Theme.radius

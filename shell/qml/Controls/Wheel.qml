@@ -76,7 +76,6 @@ FocusScope {
 
         anchors.fill: parent
         clip: true
-        focus: true
         keyNavigationEnabled: false
         preferredHighlightBegin: (height - dial.rowHeight) / 2
         preferredHighlightEnd: preferredHighlightBegin + dial.rowHeight
@@ -119,6 +118,7 @@ FocusScope {
     }
     NotchArea {
         anchors.fill: parent
+        over: list
         onTurned: steps => dial.turnBy(steps)
     }
     Connections {

@@ -8,11 +8,12 @@ FocusScope {
     required property ScreenItem screen
     readonly property CollectionItem table: screen.control("tableView") as CollectionItem
 
+    focus: true
+
     CollectionFlick {
         id: rows
         anchors.fill: parent
         anchors.topMargin: 30
-        focus: true
         collection: picker.table
         bottomMargin: 16
         delegate: CollectionCell {

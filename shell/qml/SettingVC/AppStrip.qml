@@ -29,17 +29,13 @@ SettingList {
         Keys.onDownPressed: event => event.accepted = strip.goWithin(cell.item, 1)
         Keys.onUpPressed: event => event.accepted = strip.goWithin(cell.item, -1)
 
-        HoverHandler {
-            id: hover
-            cursorShape: Qt.PointingHandCursor
-        }
         Rectangle {
             id: ground
             anchors.fill: parent
             anchors.rightMargin: 8
             anchors.bottomMargin: 8
             radius: app.image.cornerRadius
-            color: app.cell.highlighted ? Qt.darker("white", 1.12) : hover.hovered ? Qt.darker("white", 1.03) : "white"
+            color: app.cell.highlighted ? Qt.darker("white", 1.12) : app.cell.hovered ? Qt.darker("white", 1.03) : "white"
             Behavior on color { ColorAnimation { duration: Theme.quick } }
             Icon {
                 id: tile
@@ -62,10 +58,11 @@ SettingList {
         FocusRing { target: ground; visible: app.activeFocus && Theme.keysInUse; radius: ground.radius + 3; anchors.margins: 2 }
     }
 
-    // Scrolls until the whole of an item is seen.
+    // Scrolls until the whole of an item is seen, and a piece of the next: the keyboard goes on to it.
     function show(app: Item) {
+        const peek = 24;
         const end = Math.max(0, contentWidth + rightMargin - width);
-        contentX = Math.max(0, Math.min(Math.max(contentX, app.x + app.width - width), app.x, end));
+        contentX = Math.max(0, Math.min(Math.max(contentX, app.x + app.width + peek - width), app.x - peek, end));
     }
     // To the other item of the column. Says whether there is one.
     function goWithin(item: int, by: int): bool {

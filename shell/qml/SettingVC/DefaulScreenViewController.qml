@@ -60,7 +60,6 @@ FocusScope {
         width: parent.width
         height: Math.min(contentHeight, options.height - back.height - 40)
         collection: options.table
-        Accessible.name: options.table.accessibleName
         delegate: OptionCell {}
     }
 }

@@ -7,21 +7,18 @@ CollectionCell {
 
     readonly property ImageItem mark: cell.control("checkmarkImageView") as ImageItem
 
+    focus: mark.image.length > 0
     Accessible.role: Accessible.RadioButton
     Accessible.checkable: true
     Accessible.checked: mark.image.length > 0
 
-    HoverHandler {
-        id: hover
-        cursorShape: Qt.PointingHandCursor
-    }
     Rectangle {
         anchors.fill: parent
         anchors.leftMargin: 8
         anchors.rightMargin: 8
         radius: 12
         color: Theme.field
-        opacity: row.cell.highlighted ? 1 : hover.hovered ? 0.5 : 0
+        opacity: row.cell.highlighted ? 1 : row.cell.hovered ? 0.5 : 0
         Behavior on opacity { NumberAnimation { duration: Theme.quick } }
     }
     StyledLabel {

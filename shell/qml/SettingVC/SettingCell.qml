@@ -14,15 +14,11 @@ CollectionCell {
 
     onActiveFocusChanged: if (activeFocus) reached(row)
 
-    HoverHandler {
-        id: hover
-        cursorShape: Qt.PointingHandCursor
-    }
     Rectangle {
         anchors.fill: parent
         radius: row.ground.cornerRadius
         color: row.cell.highlighted ? Qt.darker(row.ground.fill.color, 1.12)
-                                    : hover.hovered ? Qt.darker(row.ground.fill.color, 1.03) : row.ground.fill.color
+                                    : row.cell.hovered ? Qt.darker(row.ground.fill.color, 1.03) : row.ground.fill.color
         Behavior on color { ColorAnimation { duration: Theme.quick } }
     }
     Rectangle {

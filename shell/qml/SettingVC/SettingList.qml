@@ -5,7 +5,6 @@ import Tessivo
 CollectionFlick {
     id: list
 
-    Accessible.name: collection.accessibleName
     Component.onCompleted: place()
 
     // No binding: reporting the size to the program reports the place again.

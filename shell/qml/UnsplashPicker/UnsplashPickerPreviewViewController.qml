@@ -10,7 +10,6 @@ FocusScope {
     focus: true
     Keys.onEscapePressed: screen.dismiss()
     Keys.onBackPressed: screen.dismiss()
-    Keys.onReturnPressed: screen.dismiss()
 
     Rectangle {
         anchors.fill: parent
@@ -22,11 +21,11 @@ FocusScope {
         NumberAnimation on scale { from: 0.9; to: 1; duration: Theme.calm; easing.type: Easing.OutCubic }
         NumberAnimation on opacity { from: 0; to: 1; duration: Theme.quick }
     }
-    MouseArea {
+    PressArea {
         anchors.fill: parent
+        focus: true
         onClicked: preview.screen.dismiss()
         Accessible.role: Accessible.Button
         Accessible.name: qsTr("Close")
-        Accessible.onPressAction: preview.screen.dismiss()
     }
 }
