@@ -75,8 +75,8 @@ QStringList CellItem::actionNames() const {
 }
 
 QString CellItem::place() const {
-    const QObject* const collection = parent()->parent();
-    return collection->objectName() + u'/' + QString::number(item_);
+    const auto* const collection = qobject_cast<const CollectionItem*>(parent()->parent());
+    return collection->controlName + u'/' + QString::number(item_);
 }
 
 CellModel::CellModel(ui::CollectionView& collection, const BridgeContext& context, QObject* parent)

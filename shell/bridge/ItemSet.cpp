@@ -17,7 +17,7 @@ ViewItem* ItemSet::control(const QString& name) {
     if (!view)
         context_.console.stopProgram("There is no control named " + name.toStdString() + ".");
     ViewItem* item = make(*view);
-    item->setObjectName(name);
+    item->controlName = name;
     made_.emplace(name, item);
     return item;
 }

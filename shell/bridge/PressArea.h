@@ -27,7 +27,7 @@ public:
     [[nodiscard]] bool isHovered() const { return hovered_; }
 
     void click() override;
-    [[nodiscard]] QString place() const override { return button_ ? button_->objectName() : QString(); }
+    [[nodiscard]] QString place() const override { return button_ ? button_->controlName : QString(); }
 
 Q_SIGNALS:
     /// The button opens its menu.

@@ -33,6 +33,10 @@ class ViewItem : public QObject {
 public:
     ViewItem(ui::View& view, const BridgeContext& context, QObject* parent);
 
+    /// What its screen or cell calls the view; empty for one without a name. Not the object's name: setting
+    /// that sets off the binding that looked the control up.
+    QString controlName;
+
     [[nodiscard]] bool shown() const { return !view_.isHidden(); }
     /// Whether it stands on anything: the program takes some views off the screen for a time.
     [[nodiscard]] bool placed() const { return view_.superview() != nullptr; }
