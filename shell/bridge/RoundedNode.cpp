@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QQuickWindow>
 #include <QSGImageNode>
+#include <QSGRendererInterface>
 
 #include <algorithm>
 #include <cmath>
@@ -56,6 +57,11 @@ bool isOpaque(const QImage& picture) {
     return true;
 }
 
+/// Without a graphics processor each part of a moving card would be rounded to pixels by itself.
+bool drawsParts(const QQuickWindow& window) {
+    return window.rendererInterface()->graphicsApi() != QSGRendererInterface::Software;
+}
+
 } // namespace
 
 void addTile(QSGNode& parent, QQuickWindow& window, QSGTexture& texture, const QRectF& place,
@@ -72,9 +78,8 @@ void addTile(QSGNode& parent, QQuickWindow& window, QSGTexture& texture, const Q
 
 RoundedNode::RoundedNode(QQuickWindow& window, QImage picture, QSizeF size, double radius, double scale) {
     picture.convertTo(QImage::Format_ARGB32_Premultiplied);
-    if (!isOpaque(picture)) {
-        inside_.reset(window.createTextureFromImage(rounded(picture, radius * scale)));
-        addTile(*this, window, *inside_, {{}, size}, picture.rect());
+    if (!isOpaque(picture) || !drawsParts(window)) {
+        addWhole(window, picture, size, radius * scale);
         return;
     }
     const int pixels = cornerPixels(picture.size(), radius, scale);
@@ -88,11 +93,22 @@ RoundedNode::RoundedNode(QQuickWindow& window, const QColor& color, QSizeF size,
                          double scale) {
     const QSize whole = (size * scale).toSize();
     const int pixels = cornerPixels(whole, radius, scale);
-    QImage picture(QSize(2 * pixels, 2 * pixels).boundedTo(whole).expandedTo({1, 1}), QImage::Format_RGB32);
+    const bool inParts = drawsParts(window);
+    const QSize needed = QSize(2 * pixels, 2 * pixels).boundedTo(whole).expandedTo({1, 1});
+    QImage picture(inParts ? needed : whole, QImage::Format_RGB32);
     picture.fill(color);
+    if (!inParts) {
+        addWhole(window, picture, size, radius * scale);
+        return;
+    }
     inside_.reset(window.createTextureFromImage(picture)); // a node of one color would be blended
     addBands(window, size, std::max(0, pixels - overlap) / scale);
     addCorners(window, picture, size, pixels, radius, scale);
+}
+
+void RoundedNode::addWhole(QQuickWindow& window, const QImage& picture, QSizeF size, double radius) {
+    inside_.reset(window.createTextureFromImage(rounded(picture, radius)));
+    addTile(*this, window, *inside_, {{}, size}, picture.rect());
 }
 
 void RoundedNode::addBands(QQuickWindow& window, QSizeF size, double side) {

@@ -21,6 +21,8 @@ public:
     RoundedNode(QQuickWindow& window, const QColor& color, QSizeF size, double radius, double scale);
 
 private:
+    /// Adds all of a picture as one part, which is blended everywhere.
+    void addWhole(QQuickWindow& window, const QImage& picture, QSizeF size, double radius);
     /// Adds a cross that leaves out a square of `side` points at each corner.
     void addBands(QQuickWindow& window, QSizeF size, double side);
     /// Lays the corners of `picture`, each of so many pixels, on the corners of the rectangle.
