@@ -12,6 +12,7 @@ namespace tessivo::shell {
 namespace {
 
 constexpr int overlap = 1; ///< pixels that corners and bands share
+constexpr int margin = 1;  ///< pixels beside a corner, so that none of the next one mixes in at its edges
 
 /// How far the corners reach into a picture of that size.
 int cornerPixels(QSize picture, double radius, double scale) {
@@ -34,9 +35,10 @@ QImage rounded(const QImage& picture, double radius) {
     return shape;
 }
 
-/// The four corners of a picture side by side.
+/// The four corners of a picture side by side, each with what lies beside it.
 QImage cornersOf(const QImage& picture, int pixels) {
     QImage corners(2 * pixels, 2 * pixels, picture.format());
+    corners.fill(Qt::transparent);
     QPainter painter(&corners);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     for (const int x : {0, 1}) {
@@ -94,7 +96,8 @@ RoundedNode::RoundedNode(QQuickWindow& window, const QColor& color, QSizeF size,
     const QSize whole = (size * scale).toSize();
     const int pixels = cornerPixels(whole, radius, scale);
     const bool inParts = drawsParts(window);
-    const QSize needed = QSize(2 * pixels, 2 * pixels).boundedTo(whole).expandedTo({1, 1});
+    const int side = 2 * (pixels + margin);
+    const QSize needed = QSize(side, side).boundedTo(whole).expandedTo({1, 1});
     QImage picture(inParts ? needed : whole, QImage::Format_RGB32);
     picture.fill(color);
     if (!inParts) {
@@ -125,13 +128,14 @@ void RoundedNode::addCorners(QQuickWindow& window, const QImage& picture, QSizeF
                              double radius, double scale) {
     if (pixels == 0)
         return;
-    corners_.reset(window.createTextureFromImage(cornersOf(rounded(picture, radius * scale), pixels)));
+    corners_.reset(
+        window.createTextureFromImage(cornersOf(rounded(picture, radius * scale), pixels + margin)));
     const double side = pixels / scale;
     for (const int x : {0, 1}) {
         for (const int y : {0, 1})
             addTile(*this, window, *corners_,
                     {x * (size.width() - side), y * (size.height() - side), side, side},
-                    QRectF(x * pixels, y * pixels, pixels, pixels));
+                    QRectF(x * (pixels + 2 * margin), y * (pixels + 2 * margin), pixels, pixels));
     }
 }
 

@@ -84,19 +84,29 @@ TEST_F(DrawnCard, IsOfOnePieceUpToItsRoundedEdgeWhereverItLies) {
                       "CardPaint { x: 20.3; y: 30.6; width: 200.7; height: 100.4; radius: 24 }");
     auto* card = drawing.findChild<shell::CardPaint*>();
     ASSERT_TRUE(card);
+    QPainterPath inside;
+    inside.addRoundedRect(place.adjusted(2, 2, -2, -2), 22, 22);
     const QColor blue("#2040c0");
-    for (const bool fades : {false, true}) {
-        card->setFill(
-            {.color = blue, .fades = fades, .first = blue, .second = blue, .start = {}, .end = {1, 1}});
-        QPainterPath inside;
-        inside.addRoundedRect(place.adjusted(2, 2, -2, -2), 22, 22);
+    const QColor red("#c02040");
+    for (const shell::Fill& fill :
+         {shell::Fill{.color = blue, .fades = false, .first = {}, .second = {}, .start = {}, .end = {}},
+          shell::Fill{
+              .color = blue, .fades = true, .first = blue, .second = blue, .start = {}, .end = {1, 1}},
+          shell::Fill{
+              .color = blue, .fades = true, .first = red, .second = blue, .start = {}, .end = {1, 1}}}) {
+        card->setFill(fill);
         const QImage drawn = window.grabWindow();
-        int others = 0;
-        for (int y = 30; y < 135; ++y) {
-            for (int x = 20; x < 225; ++x)
-                others += inside.contains(QPointF(x + 0.5, y + 0.5)) && drawn.pixelColor(x, y) != blue;
+        int steps = 0;
+        for (int y = 32; y < 129; ++y) {
+            for (int x = 22; x < 219; ++x) {
+                const QColor pixel = drawn.pixelColor(x, y);
+                for (const QPoint next : {QPoint(x + 1, y), QPoint(x, y + 1)})
+                    steps += inside.contains(QPointF(x + 0.5, y + 0.5)) &&
+                             inside.contains(next + QPointF(0.5, 0.5)) &&
+                             std::abs(pixel.red() - drawn.pixelColor(next).red()) > 4;
+            }
         }
-        EXPECT_EQ(others, 0) << "no seams";
+        EXPECT_EQ(steps, 0) << "no seams";
         for (const QPoint corner : {QPoint(22, 32), QPoint(219, 32), QPoint(22, 129), QPoint(219, 129)})
             EXPECT_EQ(drawn.pixelColor(corner), QColor(Qt::white));
     }
