@@ -27,7 +27,7 @@ if [ ! -s "$debian" ]; then
         [ ! -s "$file" ] || sources+=("$file")
     done
     echo "Making a Debian 12 (some minutes)"
-    mmdebstrap --mode=root --variant=minbase --include="$equipment" --dpkgopt=force-unsafe-io \
+    mmdebstrap --mode=root --format=tar --variant=minbase --include="$equipment" --dpkgopt=force-unsafe-io \
         bookworm "$debian.unfinished" "${sources[@]}" >"$work/mmdebstrap.log" 2>&1 ||
         { tail -n 20 "$work/mmdebstrap.log"; exit 1; }
     mv "$debian.unfinished" "$debian"
