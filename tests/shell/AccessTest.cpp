@@ -1,5 +1,6 @@
 #include "bridge/ScreenPane.h"
 #include "shell/ProgramWindow.h"
+#include "support/Events.h"
 
 #include <QAccessible>
 #include <QQuickItem>
@@ -87,22 +88,7 @@ const char* const card = "Summer, 25 June 2030, In 4\nDays";
 
 class AccessTest : public testing::Test, protected ProgramWindow {
 protected:
-    AccessTest() {
-        store({.title = "Summer",
-               .dateEvent = "25 June 2030",
-               .timeEvent = "6:30 PM",
-               .repEvent = 0,
-               .alertReminder = 2,
-               .repReminder = 0,
-               .remMess = "Pack",
-               .timeFormat = 1,
-               .color = 4,
-               .gradient = NO_VALUE,
-               .photoPath = {},
-               .unsplashPath = {},
-               .eventType = true,
-               .id = Uuid::fromString("0F0E0D0C-0B0A-0908-0706-050403020100")});
-    }
+    AccessTest() { store(summerRecord()); }
 
     void go(const std::string& step) {
         if (step == "%") {

@@ -1,6 +1,7 @@
 #include "UnsplashPicker/PhotoCell.h"
 #include "UnsplashPicker/UnsplashPicker.h"
 #include "shell/ProgramWindow.h"
+#include "support/Events.h"
 
 #include <QImage>
 #include <QQuickWindow>
@@ -52,26 +53,13 @@ bool lookAlike(const QImage& one, const QImage& other) {
 class EditsInWindowTest : public testing::TestWithParam<Way>, protected ProgramWindow {
 protected:
     EditsInWindowTest() {
-        EventRecord summer{.title = "Summer",
-                           .dateEvent = "25 June 2030",
-                           .timeEvent = "6:30 PM",
-                           .repEvent = 0,
-                           .alertReminder = 2,
-                           .repReminder = 0,
-                           .remMess = "Pack",
-                           .timeFormat = 1,
-                           .color = 4,
-                           .gradient = NO_VALUE,
-                           .photoPath = {},
-                           .unsplashPath = {},
-                           .eventType = true,
-                           .id = Uuid::fromString("0F0E0D0C-0B0A-0908-0706-050403020100")};
+        const EventRecord summer = summerRecord();
         NotificationRequest reminder{summer.id->uuidString(), {*summer.title, *summer.remMess, true}, {}};
         reminder.trigger.dateComponents = {
             .year = 2030, .month = 6, .day = 25, .hour = 18, .minute = 20, .second = 0};
         EXPECT_EQ(queue.setAuthorization(AuthorizationStatus::Authorized), std::nullopt);
         EXPECT_EQ(queue.add(reminder), std::nullopt);
-        store(std::move(summer));
+        store(summer);
         start();
     }
 

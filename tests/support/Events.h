@@ -47,4 +47,22 @@ inline EventRecord fullRecord() {
             .id = Uuid::fromString("0F0E0D0C-0B0A-0908-0706-050403020100")};
 }
 
+/// What lies ahead on 25 June 2030: counted in days, of one colour, with a reminder.
+inline EventRecord summerRecord() {
+    return {.title = "Summer",
+            .dateEvent = "25 June 2030",
+            .timeEvent = "6:30 PM",
+            .repEvent = 0,
+            .alertReminder = 2,
+            .repReminder = 0,
+            .remMess = "Pack",
+            .timeFormat = 1,
+            .color = 4,
+            .gradient = NO_VALUE,
+            .photoPath = {},
+            .unsplashPath = {},
+            .eventType = true,
+            .id = Uuid::fromString("0F0E0D0C-0B0A-0908-0706-050403020100")};
+}
+
 } // namespace tessivo
